@@ -1,0 +1,69 @@
+// The one program-wide record: what is open, where it lies and who called whom. It is made in main and handed
+// by reference to everything that needs it.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "core/dates.h"
+#include "core/installation.h"
+
+namespace kel {
+
+/// Module from which the years dialog was opened; it is reloaded after OK.
+enum class picker_module {
+    front = 0,
+    land = 1,
+    storage = 2,
+    manure = 3,
+    inorganic = 4,
+    crops = 5,
+    grass = 6,
+    straw = 7,
+    record = 8,
+    profile = 9,
+};
+
+struct application_state {
+    installation places;
+
+    // The files worked on: this year's, the year before it, two years before it. Empty: none.
+    std::string assess_file;
+    std::string prev1_file;
+    std::string prev2_file;
+
+    // The linked chain, newest first, and which of them is worked on (0 none, 1 to 3).
+    std::string slot_current;
+    std::string slot_prev1;
+    std::string slot_prev2;
+    int slot_selected = 0;
+
+    // The two option boxes of the years dialog, 0 or 1.
+    int no_link_prompt = 0;
+    int no_related_prompt = 0;
+
+    std::optional<date> kel_year_start;
+    std::string farm_name;
+    std::string farm_zone;
+    std::string farm_town;
+    year_limits limits{};
+
+    picker_module picker_caller = picker_module::front;
+    std::string viewer_back;         // screen to show again when the viewer closes
+    std::string last_report_path;    // last report shown in the viewer
+    std::string manure_caller;       // "front", "new crop" or "old crop"
+    bool manure_from_grass = false;  // the manure module was opened by the grassland module
+    std::string last_dir;            // last folder of a file dialog; not kept between runs
+
+    std::string short_date_format;  // of calendars and date boxes, forced at start-up
+    std::string long_date_format;
+};
+
+/// Day-first formats for every calendar and date box, whatever the machine's locale is.
+void set_short_date(application_state& state);
+void set_long_date(application_state& state);
+
+/// Folder in which an assessment file dialog opens: the last one used, or User_files.
+std::string dialog_folder(const application_state& state);
+
+}  // namespace kel

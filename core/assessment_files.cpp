@@ -1,0 +1,68 @@
+#include "core/assessment_files.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace kel {
+
+namespace fs = std::filesystem;
+
+void save_grid(const database& db, std::string_view table, const text_grid& grid, int rows) {
+    db.delete_rows(table);
+    recordset target = db.open(table);
+    std::vector<int> stored;
+    for (const grid_column& column : grid.columns())
+        stored.push_back(column.stored.empty() ? -1 : target.column(column.stored));
+    for (int row = 0; row < rows; ++row) {
+        target.add_new();
+        for (int c = 0; c < grid.column_count(); ++c) {
+            const int into = stored[static_cast<std::size_t>(c)];
+            if (into >= 0 && !grid.cell(row, c).empty()) target.set(into, grid.cell(row, c));
+        }
+        target.update();
+    }
+}
+
+void load_grid_row(const recordset& source, text_grid& grid, int row) {
+    for (int c = 0; c < grid.column_count(); ++c) {
+        const std::string_view stored = grid.columns()[static_cast<std::size_t>(c)].stored;
+        if (stored.empty()) continue;
+        std::string text = source.text(stored);
+        if (!text.empty()) grid.set_cell(row, c, std::move(text));
+    }
+}
+
+std::string read_farm_name(const std::string& path) {
+    const recordset profile = database(path).open("FarmProfile");
+    return profile.eof() ? std::string{} : profile.text("Name");
+}
+
+std::optional<date> read_assessment_year(const std::string& path) {
+    const recordset type = database(path).open("Type");
+    return type.eof() ? std::nullopt : type.date_value("Year");
+}
+
+int check_assessment_file(const std::string& path) {
+    try {
+        database(path).open("Type");
+        return 1;
+    } catch (const std::exception&) {
+        return 0;
+    }
+}
+
+void copy_assessment(const std::string& from, const std::string& to) {
+    const fs::path target(to);
+    fs::path fresh = target;
+    fresh += ".new";
+    std::error_code trouble;
+    fs::copy_file(from, fresh, fs::copy_options::overwrite_existing, trouble);
+    if (!trouble) fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, trouble);
+    if (!trouble) fs::rename(fresh, target, trouble);
+    if (!trouble) return;
+    std::error_code ignored;
+    fs::remove(fresh, ignored);
+    throw file_error(to, "the file could not be copied there: " + trouble.message() + ".");
+}
+
+}  // namespace kel

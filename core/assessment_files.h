@@ -1,0 +1,31 @@
+// Whole-file operations on assessments: the save and load of a grid by stored column names, what the years
+// dialog asks of other files, and copies.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/assessment_store.h"
+#include "core/text_grid.h"
+
+namespace kel {
+
+/// The rows written by a module's Save: every row of the table goes, then the first `rows` rows of the grid
+/// are written by stored column name. Empty cells stay unset. Call it within a save_transaction.
+void save_grid(const database& db, std::string_view table, const text_grid& grid, int rows);
+
+/// Copies the current row of `source` into row `row` of the grid by stored column name; empty texts leave the
+/// cell.
+void load_grid_row(const recordset& source, text_grid& grid, int row);
+
+/// Farm name and year of another file, for the years dialog; empty if its table has no row.
+std::string read_farm_name(const std::string& path);
+std::optional<date> read_assessment_year(const std::string& path);
+/// 1 if the file opens and [Type] can be opened, otherwise 0. Never throws.
+int check_assessment_file(const std::string& path);
+
+/// Plain copy of a whole file that is not open; an existing target is replaced. Throws file_error.
+void copy_assessment(const std::string& from, const std::string& to);
+
+}  // namespace kel

@@ -1,0 +1,365 @@
+#include "core/assessment_store.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <utility>
+#include <variant>
+
+namespace kel {
+
+namespace {
+
+constexpr int longest_value_bytes = 16'000'000;
+constexpr int busy_timeout_ms = 2000;
+
+std::string trouble_of(const SQLite::Exception& e) {
+    switch (e.getErrorCode()) {
+        case SQLITE_NOTADB:
+            return "it is not an assessment file, or it is damaged.";
+        case SQLITE_CORRUPT:
+            return "the file is damaged.";
+        case SQLITE_CANTOPEN:
+            return "it cannot be opened. It may have been deleted, moved or protected.";
+        case SQLITE_READONLY:
+            return "it cannot be written. The file or its folder is read-only.";
+        case SQLITE_FULL:
+            return "the disc is full.";
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return "it is in use by another program.";
+        case SQLITE_IOERR:
+            return "it cannot be read or written. The disc may be full or gone.";
+        case SQLITE_TOOBIG:
+            return "it holds a text that is too long.";
+        default:
+            return std::string(e.what()) + ".";
+    }
+}
+
+template <class F>
+auto guarded(const std::string& path, F&& work) {
+    try {
+        return work();
+    } catch (const SQLite::Exception& e) {
+        throw file_error(path, trouble_of(e));
+    }
+}
+
+std::string bracketed(std::string_view name) {
+    return "[" + std::string(name) + "]";
+}
+
+char lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool same_name(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return lower(x) == lower(y); });
+}
+
+// An assessment from a stranger is data: nothing in it may run.
+void harden(sqlite3* handle) {
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0, nullptr);
+    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longest_value_bytes);
+}
+
+}  // namespace
+
+struct database::connection {
+    explicit connection(const std::string& path) : sqlite(path, SQLite::OPEN_READWRITE, busy_timeout_ms) {
+        harden(sqlite.getHandle());
+    }
+
+    // Prepared once per connection and text; the caller binds and runs it to its end.
+    SQLite::Statement& statement(const std::string& sql) {
+        auto& slot = prepared[sql];
+        if (!slot) slot = std::make_unique<SQLite::Statement>(sqlite, sql);
+        return rewound(*slot);
+    }
+
+    static SQLite::Statement& rewound(SQLite::Statement& statement) {
+        statement.tryReset();
+        statement.clearBindings();
+        return statement;
+    }
+
+    SQLite::Database sqlite;
+    std::map<std::string, std::unique_ptr<SQLite::Statement>> prepared;
+    int attached = 0;
+};
+
+database::database(const std::string& path)
+    : shared_(guarded(path, [&] { return std::make_shared<connection>(path); })),
+      schema_("main"),
+      path_(path) {}
+
+database::database(std::shared_ptr<connection> shared, std::string schema, std::string path)
+    : shared_(std::move(shared)), schema_(std::move(schema)), path_(std::move(path)) {}
+
+const std::string& database::path() const {
+    return path_;
+}
+
+std::string database::quoted(std::string_view table) const {
+    return schema_ + "." + bracketed(table);
+}
+
+database database::attach(const std::string& path) const {
+    std::string schema = "linked" + std::to_string(++shared_->attached);
+    guarded(path, [&] {
+        SQLite::Statement statement(shared_->sqlite, "ATTACH DATABASE ? AS " + schema);
+        statement.bindNoCopy(1, path);
+        statement.exec();
+    });
+    return {shared_, std::move(schema), path};
+}
+
+std::optional<std::string> database::lookup(std::string_view column, std::string_view table,
+                                            std::string_view key_column, std::string_view value) const {
+    const recordset found = open(table, key_column, value);
+    if (found.eof()) return std::nullopt;
+    return found.text(column);
+}
+
+void database::delete_rows(std::string_view table) const {
+    guarded(path_, [&] { shared_->statement("DELETE FROM " + quoted(table)).exec(); });
+}
+
+void database::delete_rows(std::string_view table, std::string_view column, std::string_view value) const {
+    guarded(path_, [&] {
+        auto& statement =
+            shared_->statement("DELETE FROM " + quoted(table) + " WHERE " + bracketed(column) + " = ?");
+        statement.bind(1, std::string(value));
+        statement.exec();
+    });
+}
+
+int database::update_rows(std::string_view table, const std::vector<assignment>& values,
+                          std::string_view key_column, std::string_view key) const {
+    std::string sql = "UPDATE " + quoted(table) + " SET ";
+    for (const auto& value : values)
+        sql += bracketed(value.column) + " = ?, ";
+    sql.resize(sql.size() - 2);
+    sql += " WHERE " + bracketed(key_column) + " = ?";
+    return guarded(path_, [&] {
+        auto& statement = shared_->statement(sql);
+        int index = 0;
+        for (const auto& value : values)
+            statement.bind(++index, std::string(value.text));
+        statement.bind(++index, std::string(key));
+        return statement.exec();
+    });
+}
+
+struct recordset::rows {
+    rows(const database& d, std::string_view name, std::string filter, std::string_view key_value)
+        : db(d),
+          table(name),
+          where(std::move(filter)),
+          key(key_value),
+          select(db.shared_->sqlite, "SELECT *, rowid FROM " + db.quoted(name) + where + " ORDER BY rowid") {
+        if (!where.empty()) select.bind(1, key);
+        for (int i = 0; i < select.getColumnCount() - 1; ++i)
+            names.emplace_back(select.getColumnName(i));
+        pending.resize(names.size());
+    }
+
+    using value = std::variant<std::monostate, std::string, double>;
+
+    bool is_set(std::size_t column) const { return pending[column].index() != 0; }
+    static void bind(SQLite::Statement& statement, int index, const value& v) {
+        if (const auto* text = std::get_if<std::string>(&v)) statement.bindNoCopy(index, *text);
+        if (const auto* number = std::get_if<double>(&v)) statement.bind(index, *number);
+    }
+    SQLite::Statement& insert_statement();
+    void insert();
+    void change();
+    std::int64_t rowid() const { return select.getColumn(static_cast<int>(names.size())).getInt64(); }
+
+    database db;
+    std::string table;
+    std::string where;
+    std::string key;
+    mutable SQLite::Statement select;
+    std::vector<std::string> names;
+    mutable std::size_t last_found = 0;
+    bool has_row = false;
+    enum class edit_mode { none, adding, editing } mode = edit_mode::none;
+    std::vector<value> pending;
+    SQLite::Statement* inserting = nullptr;  // owned by the connection
+};
+
+SQLite::Statement& recordset::rows::insert_statement() {
+    if (inserting) return database::connection::rewound(*inserting);
+    std::string columns;
+    std::string marks;
+    for (const auto& name : names) {
+        columns += bracketed(name) + ", ";
+        marks += "?, ";
+    }
+    columns.resize(columns.size() - 2);
+    marks.resize(marks.size() - 2);
+    inserting = &db.shared_->statement("INSERT INTO " + db.quoted(table) + " (" + columns + ") VALUES (" +
+                                       marks + ")");
+    return *inserting;
+}
+
+void recordset::rows::insert() {
+    auto& statement = insert_statement();
+    for (std::size_t i = 0; i < pending.size(); ++i)
+        bind(statement, static_cast<int>(i) + 1, pending[i]);
+    statement.exec();
+}
+
+void recordset::rows::change() {
+    std::string sets;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (is_set(i)) sets += bracketed(names[i]) + " = ?, ";
+    if (sets.empty()) return;
+    sets.resize(sets.size() - 2);
+    auto& statement =
+        db.shared_->statement("UPDATE " + db.quoted(table) + " SET " + sets + " WHERE rowid = ?");
+    int index = 0;
+    for (const auto& v : pending)
+        if (v.index() != 0) bind(statement, ++index, v);
+    statement.bind(++index, rowid());
+    statement.exec();
+}
+
+recordset::recordset(std::unique_ptr<rows> r) : rows_(std::move(r)) {
+    move_next();
+}
+recordset::recordset(recordset&&) noexcept = default;
+recordset& recordset::operator=(recordset&&) noexcept = default;
+recordset::~recordset() = default;
+
+recordset database::open(std::string_view table) const {
+    return guarded(path_, [&] { return recordset(std::make_unique<recordset::rows>(*this, table, "", "")); });
+}
+
+recordset database::open(std::string_view table, std::string_view column, std::string_view value) const {
+    return guarded(path_, [&] {
+        return recordset(
+            std::make_unique<recordset::rows>(*this, table, " WHERE " + bracketed(column) + " = ?", value));
+    });
+}
+
+bool recordset::eof() const {
+    return !rows_->has_row;
+}
+
+void recordset::move_next() {
+    guarded(rows_->db.path(), [&] { rows_->has_row = rows_->select.executeStep(); });
+}
+
+int recordset::record_count() const {
+    return guarded(rows_->db.path(), [&] {
+        auto& statement = rows_->db.shared_->statement("SELECT count(*) FROM " +
+                                                       rows_->db.quoted(rows_->table) + rows_->where);
+        if (!rows_->where.empty()) statement.bind(1, rows_->key);
+        statement.executeStep();
+        const int count = statement.getColumn(0).getInt();
+        statement.reset();
+        return count;
+    });
+}
+
+int recordset::column(std::string_view name) const {
+    // Callers mostly ask in table order, so the search starts behind the column found last.
+    const auto& names = rows_->names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::size_t candidate = (rows_->last_found + i) % names.size();
+        if (!same_name(names[candidate], name)) continue;
+        rows_->last_found = (candidate + 1) % names.size();
+        return static_cast<int>(candidate);
+    }
+    throw file_error(rows_->db.path(),
+                     "its table " + bracketed(rows_->table) + " has no column " + bracketed(name) + ".");
+}
+
+std::string recordset::text(int column) const {
+    return guarded(rows_->db.path(), [&] { return rows_->select.getColumn(column).getString(); });
+}
+
+std::optional<date> recordset::date_value(std::string_view name) const {
+    const std::string stored = text(name);
+    if (stored.empty()) return std::nullopt;
+    const auto d = parse_date(stored);
+    if (!d)
+        throw file_error(rows_->db.path(), "the text \"" + stored.substr(0, 40) + "\" in " +
+                                               bracketed(rows_->table) + "." + bracketed(name) +
+                                               " is not a date.");
+    return d;
+}
+
+void recordset::add_new() {
+    rows_->mode = rows::edit_mode::adding;
+    std::fill(rows_->pending.begin(), rows_->pending.end(), rows::value{});
+}
+
+void recordset::edit() {
+    rows_->mode = rows::edit_mode::editing;
+    std::fill(rows_->pending.begin(), rows_->pending.end(), rows::value{});
+}
+
+void recordset::set(int column, std::string_view text) {
+    rows_->pending.at(static_cast<std::size_t>(column)) = std::string(text);
+}
+
+void recordset::set(std::string_view name, date d) {
+    set(column(name), iso_date_text(d));
+}
+
+void recordset::set(std::string_view name, double number) {
+    rows_->pending.at(static_cast<std::size_t>(column(name))) = number;
+}
+
+void recordset::update() {
+    guarded(rows_->db.path(), [&] {
+        if (rows_->mode == rows::edit_mode::adding) rows_->insert();
+        if (rows_->mode == rows::edit_mode::editing) rows_->change();
+    });
+    rows_->mode = rows::edit_mode::none;
+}
+
+void recordset::remove() {
+    guarded(rows_->db.path(), [&] {
+        auto& statement = rows_->db.shared_->statement("DELETE FROM " + rows_->db.quoted(rows_->table) +
+                                                       " WHERE rowid = ?");
+        statement.bind(1, rows_->rowid());
+        statement.exec();
+    });
+}
+
+save_transaction::save_transaction(const database& db) : db_(db) {
+    guarded(db.path(), [&] {
+        // A file that came in write-ahead mode must end as one plain file again.
+        db.shared_->sqlite.exec("PRAGMA main.journal_mode = DELETE");
+        db.shared_->sqlite.exec("BEGIN IMMEDIATE");
+    });
+}
+
+save_transaction::~save_transaction() {
+    if (!open_) return;
+    try {
+        db_.shared_->sqlite.exec("ROLLBACK");
+    } catch (const SQLite::Exception&) {
+        // The engine has rolled back by itself, as after a full disc.
+    }
+}
+
+void save_transaction::commit() {
+    guarded(db_.path(), [&] { db_.shared_->sqlite.exec("COMMIT"); });
+    open_ = false;
+}
+
+}  // namespace kel

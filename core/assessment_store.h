@@ -1,0 +1,109 @@
+// The assessment store: SQLite files read and written by table and column name. Rows come in stored order, an
+// empty cell reads as empty text, typed dates are kept as ISO-8601 text. A file from a stranger is data only:
+// no triggers, no views, no extensions, no trusted schema, and no value above the size limit.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/dates.h"
+#include "core/file_error.h"
+
+namespace kel {
+
+class recordset;
+class save_transaction;
+
+/// One open file. Copies share the connection; a file attached to another one shares its connection and
+/// therefore its transaction. Every operation throws file_error.
+class database {
+  public:
+    /// Opens an existing file for reading and writing.
+    explicit database(const std::string& path);
+
+    const std::string& path() const;
+    /// Opens a second file within this one's transactions.
+    database attach(const std::string& path) const;
+
+    /// Select * from [table], or only its rows whose `column` equals `value`.
+    recordset open(std::string_view table) const;
+    recordset open(std::string_view table, std::string_view column, std::string_view value) const;
+    /// Select [column] from [table] where [key_column] = value, first row; nothing if there is none.
+    std::optional<std::string> lookup(std::string_view column, std::string_view table,
+                                      std::string_view key_column, std::string_view value) const;
+
+    void delete_rows(std::string_view table) const;
+    void delete_rows(std::string_view table, std::string_view column, std::string_view value) const;
+
+    struct assignment {
+        std::string_view column;
+        std::string_view text;
+    };
+    /// Writes the columns in every row whose `key_column` equals `key`; returns how many rows there were.
+    int update_rows(std::string_view table, const std::vector<assignment>& values,
+                    std::string_view key_column, std::string_view key) const;
+
+  private:
+    friend class recordset;
+    friend class save_transaction;
+    struct connection;
+    database(std::shared_ptr<connection> shared, std::string schema, std::string path);
+    std::string quoted(std::string_view table) const;
+
+    std::shared_ptr<connection> shared_;
+    std::string schema_;
+    std::string path_;
+};
+
+/// Rows of one table, walked forward. add_new or edit starts a row, set fills it, update commits it; a column
+/// that is not set stays empty (add_new) or as it was (edit).
+class recordset {
+  public:
+    recordset(recordset&&) noexcept;
+    recordset& operator=(recordset&&) noexcept;
+    ~recordset();
+
+    bool eof() const;
+    void move_next();
+    int record_count() const;
+
+    int column(std::string_view name) const;  // throws file_error for a column the table lacks
+    std::string text(std::string_view name) const { return text(column(name)); }
+    std::string text(int column) const;
+    /// Empty for an empty cell; file_error for a text that is no date.
+    std::optional<date> date_value(std::string_view name) const;
+
+    void add_new();
+    void edit();
+    void set(std::string_view name, std::string_view text) { set(column(name), text); }
+    void set(int column, std::string_view text);
+    void set(std::string_view name, date d);
+    void set(std::string_view name, double number);
+    void update();
+    void remove();
+
+  private:
+    friend class database;
+    struct rows;
+    explicit recordset(std::unique_ptr<rows> r);
+    std::unique_ptr<rows> rows_;
+};
+
+/// One save. What was written is undone unless commit was reached, also by a crash or a kill.
+class save_transaction {
+  public:
+    explicit save_transaction(const database& db);
+    ~save_transaction();
+    save_transaction(const save_transaction&) = delete;
+    save_transaction& operator=(const save_transaction&) = delete;
+    void commit();
+
+  private:
+    database db_;
+    bool open_ = true;
+};
+
+}  // namespace kel

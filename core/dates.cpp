@@ -1,0 +1,128 @@
+#include "core/dates.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <stdexcept>
+#include <vector>
+
+namespace kel {
+
+namespace {
+
+constexpr std::array<std::string_view, 12> month_names{"January",   "February", "March",    "April",
+                                                       "May",       "June",     "July",     "August",
+                                                       "September", "October",  "November", "December"};
+constexpr std::array<std::string_view, 7> weekday_names{"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                        "Thursday", "Friday", "Saturday"};
+
+std::string formatted(const char* pattern, int a, int b, int c) {
+    char buffer[40];
+    std::snprintf(buffer, sizeof buffer, pattern, a, b, c);
+    return buffer;
+}
+
+std::vector<std::string_view> split_date(std::string_view text) {
+    std::vector<std::string_view> parts;
+    constexpr std::string_view separators = "/-. ";
+    while (true) {
+        const auto start = text.find_first_not_of(separators);
+        if (start == std::string_view::npos) return parts;
+        text.remove_prefix(start);
+        const auto end = text.find_first_of(separators);
+        parts.push_back(text.substr(0, end));
+        if (end == std::string_view::npos) return parts;
+        text.remove_prefix(end);
+    }
+}
+
+std::optional<int> whole_number(std::string_view text) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{} || end != text.data() + text.size() || value < 0) return std::nullopt;
+    return value;
+}
+
+std::optional<int> month_number(std::string_view text) {
+    for (int m = 1; m <= 12; ++m)
+        if (text == month_name(m)) return m;
+    return whole_number(text);
+}
+
+std::string fixed_day(int day, int year) {
+    return std::to_string(day) + " December " + std::to_string(year);
+}
+
+}  // namespace
+
+date make_date(int day, int month, int year) {
+    return date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
+                std::chrono::day{static_cast<unsigned>(day)}};
+}
+
+int year_of(date d) {
+    return static_cast<int>(d.year());
+}
+int month_of(date d) {
+    return static_cast<int>(static_cast<unsigned>(d.month()));
+}
+int day_of(date d) {
+    return static_cast<int>(static_cast<unsigned>(d.day()));
+}
+
+std::string short_date_text(date d) {
+    return formatted("%02d/%02d/%04d", day_of(d), month_of(d), year_of(d));
+}
+
+std::string long_date_text(date d) {
+    return formatted("%02d", day_of(d), 0, 0) + " " + std::string(month_name(month_of(d))) + " " +
+           formatted("%04d", year_of(d), 0, 0);
+}
+
+std::string iso_date_text(date d) {
+    return formatted("%04d-%02d-%02d", year_of(d), month_of(d), day_of(d));
+}
+
+std::optional<date> parse_date(std::string_view text) {
+    if (text.empty() || text.front() < '0' || text.front() > '9') return std::nullopt;
+    // A time behind the day, as other tools write it, is no part of the date.
+    auto parts = split_date(text.substr(0, text.find('T')));
+    if (parts.size() > 3 && parts[3].find(':') != std::string_view::npos) parts.resize(3);
+    if (parts.size() != 3) return std::nullopt;
+    if (parts[0].size() == 4) std::swap(parts[0], parts[2]);
+    const auto day = whole_number(parts[0]);
+    const auto month = month_number(parts[1]);
+    const auto year = whole_number(parts[2]);
+    if (!day || !month || !year || parts[2].size() != 4) return std::nullopt;
+    const date d = make_date(*day, *month, *year);
+    return d.ok() ? std::optional(d) : std::nullopt;
+}
+
+std::string_view month_name(int month) {
+    return month_names.at(static_cast<std::size_t>(month - 1));
+}
+
+std::string_view weekday_name(date d) {
+    return weekday_names[std::chrono::weekday{std::chrono::sys_days{d}}.c_encoding()];
+}
+
+date add_days(date d, int days) {
+    return std::chrono::sys_days{d} + std::chrono::days{days};
+}
+
+date add_years(date d, int n) {
+    const date moved = d + std::chrono::years{n};
+    if (!moved.ok()) throw std::invalid_argument(short_date_text(moved) + " is not a date");
+    return moved;
+}
+
+year_limits year_limits_of(date kel_year_start) {
+    const int year = year_of(kel_year_start);
+    const int next = year_of(add_days(kel_year_start, 365));
+    const int prev = year_of(add_days(kel_year_start, -365));
+    return {make_date(19, 12, year), make_date(18, 12, next), make_date(19, 12, prev),
+            make_date(18, 12, year), fixed_day(19, year),     fixed_day(18, next),
+            fixed_day(19, prev),     fixed_day(18, year)};
+}
+
+}  // namespace kel

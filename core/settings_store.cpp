@@ -1,0 +1,114 @@
+#include "core/settings_store.h"
+
+#include <charconv>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "core/assessment_files.h"
+
+namespace kel {
+
+namespace {
+
+std::string next_line(std::istream& store) {
+    std::string line;
+    if (!std::getline(store, line)) throw std::runtime_error("a line of the settings store is missing");
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    return line;
+}
+
+int next_integer(std::istream& store) {
+    const std::string line = next_line(store);
+    const auto start = std::min(line.find_first_not_of(" \t"), line.size());
+    int value = 0;
+    const auto [end, error] = std::from_chars(line.data() + start, line.data() + line.size(), value);
+    if (error != std::errc{}) throw std::runtime_error("a line of the settings store is no number");
+    return value;
+}
+
+std::string next_slot(std::istream& store) {
+    std::string path = next_line(store);
+    if (path == "none" || check_assessment_file(path) == 0) path.clear();
+    return path;
+}
+
+void read_lines(application_state& state, std::istream& store) {
+    state.no_link_prompt = next_integer(store);
+    state.no_related_prompt = next_integer(store);
+    state.slot_selected = next_integer(store);
+    state.slot_current = next_slot(store);
+    // A link cannot outlive the file it belongs to.
+    const bool linked = !state.slot_current.empty();
+    state.slot_prev1 = next_slot(store);
+    state.slot_prev2 = next_slot(store);
+    if (!linked) {
+        state.slot_prev1.clear();
+        state.slot_prev2.clear();
+    }
+}
+
+void forget_all(application_state& state) {
+    for (std::string* path : {&state.assess_file, &state.prev1_file, &state.prev2_file, &state.slot_current,
+                              &state.slot_prev1, &state.slot_prev2})
+        path->clear();
+    state.no_link_prompt = 0;
+    state.no_related_prompt = 0;
+}
+
+}  // namespace
+
+void set_working_files(application_state& state) {
+    switch (state.slot_selected) {
+        case 1:
+            state.assess_file = state.slot_current;
+            state.prev1_file = state.slot_prev1;
+            state.prev2_file = state.slot_prev2;
+            break;
+        case 2:
+            state.assess_file = state.slot_prev1;
+            state.prev1_file = state.slot_prev2;
+            state.prev2_file.clear();
+            break;
+        case 3:
+            state.assess_file = state.slot_prev2;
+            state.prev1_file.clear();
+            state.prev2_file.clear();
+            break;
+        default:
+            break;
+    }
+}
+
+void read_store(application_state& state) {
+    try {
+        std::ifstream store(state.places.settings_store(), std::ios::binary);
+        read_lines(state, store);
+        set_working_files(state);
+    } catch (const std::exception&) {
+        forget_all(state);
+    }
+}
+
+void write_store(const application_state& state) {
+    const auto slot = [](const std::string& path) { return path.empty() ? std::string("none") : path; };
+    const std::string target = state.places.settings_store();
+    const std::string fresh = target + ".new";
+    std::ofstream store(fresh, std::ios::binary | std::ios::trunc);
+    store << state.no_link_prompt << '\n' << state.no_related_prompt << '\n' << state.slot_selected << '\n';
+    store << slot(state.slot_current) << '\n'
+          << slot(state.slot_prev1) << '\n'
+          << slot(state.slot_prev2) << '\n';
+    store.close();
+    std::error_code trouble;
+    if (store) std::filesystem::rename(fresh, target, trouble);
+    if (!store || trouble) {
+        std::error_code ignored;
+        std::filesystem::remove(fresh, ignored);
+        throw file_error(target,
+                         "the settings could not be written. The folder may be read-only or the disc full.");
+    }
+}
+
+}  // namespace kel

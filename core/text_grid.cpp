@@ -1,0 +1,55 @@
+#include "core/text_grid.h"
+
+#include "core/numbers.h"
+
+namespace kel {
+
+namespace {
+std::size_t at(int i) {
+    return static_cast<std::size_t>(i);
+}
+}  // namespace
+
+const std::string& text_grid::cell(int row, int column) const {
+    return rows_.at(at(row)).at(at(column));
+}
+
+void text_grid::set_cell(int row, int column, std::string text) {
+    rows_.at(at(row)).at(at(column)) = std::move(text);
+}
+
+float text_grid::number(int row, int column) const {
+    return leading_single(cell(row, column));
+}
+
+int text_grid::add_row() {
+    rows_.emplace_back(columns_.size());
+    return row_count() - 1;
+}
+
+void text_grid::erase_row(int row) {
+    rows_.erase(rows_.begin() + row);
+}
+
+void text_grid::set_row_count(int rows) {
+    rows_.resize(at(rows), std::vector<std::string>(columns_.size()));
+}
+
+void text_grid::keep_entry_row(int row) {
+    if (row == row_count() - 1) add_row();
+}
+
+int text_grid::find(int column, std::string_view text) const {
+    for (int row = 0; row < row_count(); ++row)
+        if (cell(row, column) == text) return row;
+    return -1;
+}
+
+float text_grid::sum(int column, int rows) const {
+    float total = 0;
+    for (int row = 0; row < rows; ++row)
+        total += number(row, column);
+    return total;
+}
+
+}  // namespace kel

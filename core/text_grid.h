@@ -1,0 +1,63 @@
+// The working copy of a table. A screen shows it, a module edits it, the store loads and saves it by the
+// columns' stored names. Rows are counted from 0 without the heading; in the modules the last row is the
+// empty entry row, which is neither saved nor counted.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kel {
+
+enum class column_kind {
+    entered,     // a click opens the column's entry box
+    calculated,  // grey; only the module writes it
+    carried,     // kept for the file, not shown
+};
+
+struct grid_column {
+    std::string_view heading;
+    std::string_view stored;  // the column in the file; empty: not stored
+    column_kind kind;
+    int width;  // in characters of the body font
+};
+
+class text_grid {
+  public:
+    /// `columns` must outlive the grid: it is one of the constant column tables of the modules.
+    explicit text_grid(std::span<const grid_column> columns) : columns_(columns) {}
+
+    std::span<const grid_column> columns() const { return columns_; }
+    int column_count() const { return static_cast<int>(columns_.size()); }
+    int row_count() const { return static_cast<int>(rows_.size()); }
+
+    const std::string& cell(int row, int column) const;
+    void set_cell(int row, int column, std::string text);
+    /// Numbers of cells, by the leading-number rule.
+    float number(int row, int column) const;
+
+    void clear() { rows_.clear(); }
+    /// Adds an empty row at the bottom and returns its number.
+    int add_row();
+    void erase_row(int row);
+    /// Cuts or extends to `rows` rows; new ones are empty.
+    void set_row_count(int rows);
+    /// Adds an entry row if `row` is the last one, as after every entry.
+    void keep_entry_row(int row);
+    /// The rows that hold data in a grid with an entry row: all but the last.
+    int data_row_count() const { return row_count() == 0 ? 0 : row_count() - 1; }
+
+    /// First row whose cell equals `text`, or -1.
+    int find(int column, std::string_view text) const;
+    /// Single precision sum of a column over the first `rows` rows.
+    float sum(int column, int rows) const;
+
+    bool operator==(const text_grid& other) const { return rows_ == other.rows_; }
+
+  private:
+    std::span<const grid_column> columns_;
+    std::vector<std::vector<std::string>> rows_;
+};
+
+}  // namespace kel

@@ -1,0 +1,23 @@
+-- Nitrogen tables of the grassland module: grass_recs.csv and grass_adjust.csv. All figures are kg N/ha in one season.
+-- Keys are compared as text.
+
+-- Requirement of the reference management, by clover content, site class and nitrogen residue group.
+CREATE TABLE [Grass_Recs] (
+    [Clover]     TEXT,
+    [Site Class] TEXT,
+    [Group 1]    INTEGER,
+    [Group 2]    INTEGER,
+    [Group 3]    INTEGER,
+    [Group 4]    INTEGER,
+    [Group 5]    INTEGER,
+    [Group 6]    INTEGER
+);
+
+-- What is added for another management: the use of the grass, number of cuts, applications to grazing or aftermath.
+CREATE TABLE [Grass_adjust] (
+    [Clover]     TEXT,
+    [Management] TEXT,
+    [Cuts]       TEXT,
+    [Apps]       TEXT,
+    [Adjustment] INTEGER
+);

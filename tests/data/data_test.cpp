@@ -1,0 +1,182 @@
+// The built data tree: the template and the document agree, the map leads from every square to a place and
+// from every zone to its towns, and the sample farm passes the tests of the screens that would have made it.
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+
+namespace kel {
+namespace {
+
+const std::string stage = KEL_STAGE_DIR;
+const std::string blank = stage + "/kel_calc/dbases/blank.mdb";
+const std::string grass = stage + "/kel_calc/dbases/wren_grass.mdb";
+const std::string climate = stage + "/scdb/scdb.mdb";
+const std::string sample = stage + "/kel_calc/User_files/Mains of Tullifern 2024-25.kel";
+
+std::vector<std::string> texts(const std::string& file, const std::string& sql) {
+    SQLite::Database db(file);
+    SQLite::Statement rows(db, sql);
+    std::vector<std::string> found;
+    while (rows.executeStep())
+        found.push_back(rows.getColumn(0).getString());
+    return found;
+}
+
+using table_columns = std::map<std::string, std::map<std::string, std::string>>;  // table, column, type
+
+/// The text between each pair of marks.
+std::vector<std::string> between(const std::string& text, char mark) {
+    std::vector<std::string> parts;
+    for (auto open = text.find(mark); open != std::string::npos;) {
+        const auto close = text.find(mark, open + 1);
+        if (close == std::string::npos) break;
+        parts.push_back(text.substr(open + 1, close - open - 1));
+        open = text.find(mark, close + 1);
+    }
+    return parts;
+}
+
+/// "### [Table]" headings with their rows "| `column`, ... | type | unit | meaning |".
+table_columns documented_columns() {
+    table_columns tables;
+    std::ifstream doc(std::string(KEL_TEST_SOURCE_DIR) + "/../docs/file_format.md");
+    std::string table;
+    for (std::string line; std::getline(doc, line);) {
+        if (line.starts_with("#")) table.clear();
+        if (line.starts_with("### [")) table = line.substr(5, line.find(']') - 5);
+        if (table.empty() || !line.starts_with("| `")) continue;
+        const auto name_end = line.find("` | ") + 4;
+        const std::string type = line.substr(name_end, line.find(' ', name_end) - name_end);
+        for (const std::string& column : between(line.substr(0, name_end), '`'))
+            tables[table][column] = type == "date" ? "text" : type;
+    }
+    return tables;
+}
+
+void add_columns(table_columns& tables, const std::string& file) {
+    SQLite::Database db(file);
+    SQLite::Statement rows(
+        db,
+        "SELECT t.name, c.name, lower(c.type) FROM sqlite_schema t, pragma_table_info(t.name) c "
+        "WHERE t.type = 'table'");
+    while (rows.executeStep())
+        tables[rows.getColumn(0).getString()][rows.getColumn(1).getString()] = rows.getColumn(2).getString();
+}
+
+TEST(FileFormat, DocumentAndDatabasesHaveTheSameTablesAndColumns) {
+    table_columns built;
+    for (const std::string& file : {blank, grass, climate})
+        add_columns(built, file);
+    const table_columns documented = documented_columns();
+    EXPECT_EQ(documented.size(), 22u);
+    for (const auto& [table, columns] : documented)
+        EXPECT_EQ(columns, built[table]) << table;
+    EXPECT_EQ(documented.size(), built.size());
+}
+
+TEST(BlankAssessment, HoldsOnlyTheRowOfType) {
+    for (const std::string& table : texts(blank, "SELECT name FROM sqlite_schema WHERE type = 'table'"))
+        EXPECT_EQ(database(blank).open(table).record_count(), table == "Type" ? 1 : 0) << table;
+    EXPECT_EQ(read_assessment_year(blank), std::nullopt);
+    EXPECT_TRUE(texts(blank, "SELECT name FROM sqlite_schema WHERE type IN ('view', 'trigger')").empty());
+}
+
+TEST(BlankAssessment, LookupByFieldStoreOrItemUsesAnIndex) {
+    std::map<std::string, std::string> key_of{
+        {"Field Data", "Field Name"}, {"Slurry_store", "Store_name"}, {"Misc", "Item"}};
+    for (const auto& [table, columns] : documented_columns())
+        if (columns.contains("Field Area ID")) key_of[table] = "Field Area ID";
+    EXPECT_EQ(key_of.size(), 10u);
+    SQLite::Database db(blank);
+    for (const auto& [table, key] : key_of) {
+        SQLite::Statement plan(db, "EXPLAIN QUERY PLAN SELECT *, rowid FROM [" + table + "] WHERE [" + key +
+                                       "] = ? ORDER BY rowid");
+        ASSERT_TRUE(plan.executeStep());
+        EXPECT_NE(plan.getColumn(3).getString().find("USING INDEX"), std::string::npos) << table;
+    }
+}
+
+TEST(LocationTables, EverySquareWithANumberHasOnePlaceAndEveryPlaceASquare) {
+    const database db(climate);
+    std::multiset<std::string> on_map;
+    for (int y = 0; y <= 46; ++y)
+        for (int x = 0; x <= 36; ++x) {
+            const auto number = db.lookup(std::to_string(x), "Scot_Main_Grid", "Row", std::to_string(y));
+            ASSERT_TRUE(number.has_value()) << "row " << y;
+            if (number->empty()) continue;
+            on_map.insert(*number);
+            EXPECT_TRUE(db.lookup("Location", "Scotland", "Grid Number", *number)) << number.value();
+        }
+    const auto places = texts(climate, "SELECT [Grid Number] FROM Scotland");
+    EXPECT_EQ(on_map, std::multiset<std::string>(places.begin(), places.end()));
+    EXPECT_TRUE(
+        texts(climate, "SELECT Location FROM Scotland GROUP BY Location HAVING count(*) > 1").empty());
+}
+
+TEST(LocationTables, EveryZoneOfThePlacesHasTownsAndEveryZoneOfTheTownsHasPlaces) {
+    const std::string zones = "SELECT DISTINCT KEL FROM ";
+    EXPECT_EQ(texts(climate, zones + "Scotland ORDER BY KEL"),
+              texts(climate, zones + "KEL_rain ORDER BY KEL"));
+    EXPECT_EQ(texts(climate, zones + "KEL_rain").size(), 5u);  // four zones and the land outside
+    EXPECT_TRUE(texts(climate, "SELECT Town FROM KEL_rain GROUP BY Town HAVING count(*) > 1").empty());
+}
+
+TEST(GrassTables, EveryAnswerOfTheSiteTableFindsItsFigures) {
+    const database db(grass);
+    for (const std::string site_class : {"1", "2", "3", "4", "5"})
+        EXPECT_EQ(db.open("Grass_Recs", "Site Class", site_class).record_count(), 2) << site_class;
+    // Low clover: 0 to 2 cuts with 0 to 5 applications, 3 cuts with none, for silage and hay, and grazing
+    // without cuts.
+    EXPECT_EQ(db.open("Grass_adjust", "Clover", "Low").record_count(), 2 * (3 * 6 + 1) + 6);
+    EXPECT_EQ(db.open("Grass_adjust", "Clover", "High").record_count(), 3 + 2);
+}
+
+TEST(SampleFarm, ProfileAgreesWithFieldsAndTown) {
+    const database db(sample);
+    const recordset profile = db.open("FarmProfile");
+    float kel_area = 0;
+    for (recordset field = db.open("Field Data"); !field.eof(); field.move_next()) {
+        kel_area += leading_single(field.text("KEL Size"));
+        EXPECT_LE(leading_single(field.text("KEL Size")), leading_single(field.text("Size")));
+    }
+    EXPECT_EQ(profile.text("KEL Area"), shortest_text(kel_area));
+    EXPECT_GE(leading_single(profile.text("Area")), kel_area);
+    EXPECT_EQ(profile.text("FieldNo"), std::to_string(db.open("Field Data").record_count()));
+    EXPECT_EQ(database(climate).lookup("KEL", "KEL_rain", "Town", profile.text("Town")), profile.text("KEL"));
+    EXPECT_EQ(read_assessment_year(sample), make_date(19, 12, 2024));
+}
+
+TEST(SampleFarm, LandAndStockRowsAreAsStep1WritesThem) {
+    const database db(sample);
+    const auto number = [](const recordset& row, const char* column) {
+        return leading_single(row.text(column));
+    };
+    EXPECT_EQ(db.open("Land").record_count(), db.open("Field Data").record_count());
+    for (recordset land = db.open("Land"); !land.eof(); land.move_next()) {
+        const std::string name = land.text("Field Area ID");
+        const float used = number(land, "Area In Grass (ha)") + number(land, "Area Not In Grass (ha)");
+        const float deducted = number(land, "Buffer Areas To Be Deducted (ha)") +
+                               number(land, "Slope Areas To Be Deducted (ha)") +
+                               number(land, "Other Areas To Be Deducted (ha)");
+        EXPECT_EQ(land.text("Available Field Area (ha)"), format_fixed(used - deducted, 2)) << name;
+        EXPECT_EQ(shortest_text(round_half_even(used, 2)), land.text("Total Area")) << name;
+        EXPECT_EQ(db.lookup("Size", "Field Data", "Field Name", name), land.text("Total Area")) << name;
+        EXPECT_EQ(db.lookup("Soil", "Field Data", "Field Name", name), land.text("Soil")) << name;
+    }
+    for (recordset stock = db.open("Land_animals"); !stock.eof(); stock.move_next())
+        EXPECT_EQ(stock.text("Total N Excreted By All These Animals (kg/year)"),
+                  shortest_text(number(stock, "Total N Excreted By One Stock Unit (kg/year)") *
+                                number(stock, "Number Of Stock Units")))
+            << stock.text("Stock Unit");
+}
+
+}  // namespace
+}  // namespace kel
