@@ -1,0 +1,188 @@
+#include "land/land_grids.h"
+
+#include <array>
+#include <functional>
+#include <set>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+#include "land/spreading_limits.h"
+#include "land/stock_nitrogen.h"
+
+namespace kel {
+
+namespace {
+
+constexpr auto entered = column_kind::entered;
+constexpr auto calculated = column_kind::calculated;
+constexpr auto carried = column_kind::carried;
+
+constexpr std::string_view field_limit_heading =
+    "Field Spreading Limit (excluding grazing deposition and subject to farm-based limits not being "
+    "breached)";
+
+// The land table. Columns carry the names of [Land]; crop and months come from the storage module and are
+// kept for it.
+// clang-format off
+constexpr std::array<grid_column, 35> land_columns{{
+    // heading                             stored column                         kind     width
+    {"Field Area ID",                      "Field Area ID",                      entered,    22},
+    {"Area In Grass (ha)",                 "Area In Grass (ha)",                 entered,    12},
+    {"Area Not In Grass (ha)",             "Area Not In Grass (ha)",             entered,    12},
+    {"Buffer Areas To Be Deducted (ha)",   "Buffer Areas To Be Deducted (ha)",   entered,    14},
+    {"Slope Areas To Be Deducted (ha)",    "Slope Areas To Be Deducted (ha)",    entered,    14},
+    {"Other Areas To Be Deducted (ha)",    "Other Areas To Be Deducted (ha)",    entered,    14},
+    {"Available Field Area (ha)",          "Available Field Area (ha)",          calculated, 14},
+    {"Crop",                               "Crop",                               carried,    20},
+    {"Soil",                               "Soil",                               calculated, 20},
+    {"January",                            "January",                            carried,    10},
+    {"February",                           "February",                           carried,    10},
+    {"March",                              "March",                              carried,    10},
+    {"April",                              "April",                              carried,    10},
+    {"May",                                "May",                                carried,    10},
+    {"June",                               "June",                               carried,    10},
+    {"July",                               "July",                               carried,    10},
+    {"August",                             "August",                             carried,    10},
+    {"September",                          "September",                          carried,    10},
+    {"October",                            "October",                            carried,    10},
+    {"November",                           "November",                           carried,    10},
+    {"December",                           "December",                           carried,    10},
+    {"Applic_January",                     "Applic_January",                     carried,    10},
+    {"Applic_February",                    "Applic_February",                    carried,    10},
+    {"Applic_March",                       "Applic_March",                       carried,    10},
+    {"Applic_April",                       "Applic_April",                       carried,    10},
+    {"Applic_May",                         "Applic_May",                         carried,    10},
+    {"Applic_June",                        "Applic_June",                        carried,    10},
+    {"Applic_July",                        "Applic_July",                        carried,    10},
+    {"Applic_August",                      "Applic_August",                      carried,    10},
+    {"Applic_September",                   "Applic_September",                   carried,    10},
+    {"Applic_October",                     "Applic_October",                     carried,    10},
+    {"Applic_November",                    "Applic_November",                    carried,    10},
+    {"Applic_December",                    "Applic_December",                    carried,    10},
+    {"Total Area",                         "Total Area",                         calculated, 10},
+    {field_limit_heading,                  "",                                   calculated, 26},
+}};
+
+// The stock table. Columns carry the names of [Land_animals].
+constexpr std::array<grid_column, 4> stock_columns{{
+    // heading                                          stored column                                       kind     width
+    {"Stock Unit",                                      "Stock Unit",                                       entered,    44},
+    {"Number Of Stock Units",                           "Number Of Stock Units",                            entered,    14},
+    {"Total N Excreted By One Stock Unit (kg/year)",    "Total N Excreted By One Stock Unit (kg/year)",     calculated, 20},
+    {"Total N Excreted By All These Animals (kg/year)", "Total N Excreted By All These Animals (kg/year)",  calculated, 20},
+}};
+// clang-format on
+static_assert(land_columns[land_column::soil].heading == "Soil" &&
+              land_columns[land_column::january].heading == "January" &&
+              land_columns[land_column::applic_january].heading == "Applic_January" &&
+              land_columns[land_column::total_area].heading == "Total Area");
+
+}  // namespace
+
+text_grid empty_land_grid() {
+    text_grid land(land_columns);
+    land.add_row();
+    return land;
+}
+
+text_grid empty_stock_grid() {
+    text_grid animals(stock_columns);
+    animals.add_row();
+    return animals;
+}
+
+void recalculate_land_row(text_grid& land, int row) {
+    const float available = available_area({
+        .grass_ha = land.number(row, land_column::grass),
+        .other_ha = land.number(row, land_column::not_in_grass),
+        .buffer_ha = land.number(row, land_column::buffer),
+        .slope_ha = land.number(row, land_column::slope),
+        .other_deduction_ha = land.number(row, land_column::other_deduction),
+    });
+    land.set_cell(row, land_column::available, format_fixed(available, 2));
+    land.set_cell(row, land_column::field_limit, shortest_text(field_limit(available)));
+}
+
+void recalculate_stock_row(text_grid& animals, int row, float& working_constant) {
+    const stock_line line = stock_line_nitrogen(animals.cell(row, stock_column::stock),
+                                                animals.number(row, stock_column::number), working_constant);
+    working_constant = line.unit_n_kg_per_year;
+    const bool known = line.unit_n_kg_per_year != 0;
+    animals.set_cell(row, stock_column::unit_n, known ? shortest_text(line.unit_n_kg_per_year) : "");
+    animals.set_cell(row, stock_column::total_n, shortest_text(line.total_n_kg_per_year));
+}
+
+std::vector<farm_field> read_farm_fields(const database& db) {
+    std::vector<farm_field> fields;
+    for (recordset rows = db.open("Field Data"); !rows.eof(); rows.move_next())
+        fields.push_back({rows.text("Field Name"), rows.text("Size"), rows.text("Soil")});
+    return fields;
+}
+
+text_grid fields_to_grid(const std::vector<farm_field>& fields) {
+    text_grid land(land_columns);
+    for (const farm_field& field : fields) {
+        const int row = land.add_row();
+        land.set_cell(row, land_column::field, field.name);
+        land.set_cell(row, land_column::soil, field.soil);
+        land.set_cell(row, land_column::total_area, field.size);
+    }
+    land.add_row();
+    return land;
+}
+
+text_grid load_land(const database& db, const std::vector<farm_field>& fields,
+                    std::vector<std::string>& unknown_fields) {
+    std::set<std::string_view> names;
+    for (const farm_field& field : fields)
+        names.insert(field.name);
+    text_grid land(land_columns);
+    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
+        std::string name = rows.text("Field Area ID");
+        if (!names.contains(name)) {
+            unknown_fields.push_back(std::move(name));
+            continue;
+        }
+        const int row = land.add_row();
+        load_grid_row(rows, land, row);
+        land.set_cell(row, land_column::field_limit,
+                      shortest_text(field_limit(land.number(row, land_column::available))));
+    }
+    land.add_row();
+    return land;
+}
+
+text_grid load_stock(const database& db, float& working_constant) {
+    text_grid animals(stock_columns);
+    for (recordset rows = db.open("Land_animals"); !rows.eof(); rows.move_next()) {
+        const int row = animals.add_row();
+        load_grid_row(rows, animals, row);
+        recalculate_stock_row(animals, row, working_constant);
+    }
+    animals.add_row();
+    return animals;
+}
+
+void fill_deductions(text_grid& land) {
+    for (int row = 0; row < land.data_row_count(); ++row)
+        for (int c = land_column::buffer; c <= land_column::other_deduction; ++c)
+            if (land.cell(row, c).empty()) land.set_cell(row, c, "0");
+}
+
+void save_land(const database& db, const text_grid& land) {
+    save_grid(db, "Land", land, land.data_row_count());
+}
+
+void save_stock(const database& db, const text_grid& animals) {
+    text_grid lines = animals;
+    lines.set_row_count(animals.data_row_count());
+    for (int row = lines.row_count() - 1; row >= 0; --row) {
+        if (lines.cell(row, stock_column::stock).empty())
+            lines.erase_row(row);
+        else if (lines.cell(row, stock_column::number).empty())
+            lines.set_cell(row, stock_column::number, "0");
+    }
+    save_grid(db, "Land_animals", lines, lines.row_count());
+}
+
+}  // namespace kel

@@ -1,0 +1,69 @@
+// The module's two tables as grids: columns as data, recalculation of a row, the way from and to the file.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/assessment_store.h"
+#include "core/text_grid.h"
+
+namespace kel {
+
+namespace land_column {
+enum : int {
+    field = 0,
+    grass = 1,
+    not_in_grass = 2,
+    buffer = 3,
+    slope = 4,
+    other_deduction = 5,
+    available = 6,
+    crop = 7,
+    soil = 8,
+    january = 9,
+    applic_january = 21,
+    total_area = 33,
+    field_limit = 34,
+};
+}
+
+namespace stock_column {
+enum : int { stock = 0, number = 1, unit_n = 2, total_n = 3 };
+}
+
+/// An empty grid with its entry row.
+text_grid empty_land_grid();
+text_grid empty_stock_grid();
+
+/// Available area ("0.00", ha) and field limit (kg N, not rounded) of a row.
+void recalculate_land_row(text_grid& land, int row);
+/// Nitrogen per unit and of the line, kg N; an unknown type takes and every other one sets
+/// `working_constant`.
+void recalculate_stock_row(text_grid& animals, int row, float& working_constant);
+
+/// A field of the farm profile; the size in hectares is text as the profile has it.
+struct farm_field {
+    std::string name;
+    std::string size;
+    std::string soil;
+};
+std::vector<farm_field> read_farm_fields(const database& db);
+
+/// One row per field of the profile with its soil and size; the areas are left to the user.
+text_grid fields_to_grid(const std::vector<farm_field>& fields);
+
+/// [Land] with the field limits, without the rows of fields that the profile lacks; their names are put into
+/// `unknown_fields`.
+text_grid load_land(const database& db, const std::vector<farm_field>& fields,
+                    std::vector<std::string>& unknown_fields);
+/// [Land_animals], recalculated, so that the program's constants replace those of the file.
+text_grid load_stock(const database& db, float& working_constant);
+
+/// Fills empty deductions of the data rows with "0", as they are saved.
+void fill_deductions(text_grid& land);
+/// Replaces the rows of [Land] and of [Land_animals], the latter by the rows with a stock unit. Call within a
+/// save_transaction.
+void save_land(const database& db, const text_grid& land);
+void save_stock(const database& db, const text_grid& animals);
+
+}  // namespace kel

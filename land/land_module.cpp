@@ -1,0 +1,236 @@
+#include "land/land_module.h"
+
+#include <utility>
+
+#include "core/module_save.h"
+#include "core/numbers.h"
+#include "land/land_messages.h"
+#include "land/land_report.h"
+
+namespace kel {
+
+namespace {
+
+// A number box takes digits and one point, so a lone point is as good as empty.
+bool holds_number(std::string_view text) {
+    return text.find_first_of("0123456789") != std::string_view::npos;
+}
+
+int other_of_pair(int column) {
+    return column == land_column::grass ? land_column::not_in_grass : land_column::grass;
+}
+
+float room_for_deduction(const text_grid& land, int row, int column) {
+    float deducted[2] = {};
+    int others = 0;
+    for (int c = land_column::buffer; c <= land_column::other_deduction; ++c)
+        if (c != column) deducted[others++] = land.number(row, c);
+    return deduction_room(land.number(row, land_column::grass), land.number(row, land_column::not_in_grass),
+                          deducted[0], deducted[1]);
+}
+
+}  // namespace
+
+land_module::land_module(application_state& state, prompts& person)
+    : state_(state), person_(person), land_(empty_land_grid()), animals_(empty_stock_grid()) {}
+
+void land_module::load_land_stuff() {
+    text_grid land = empty_land_grid();
+    text_grid animals = empty_stock_grid();
+    std::vector<std::string> names;
+    std::vector<std::string> unknown_fields;
+    float constant = working_constant_;
+    if (!state_.assess_file.empty()) {
+        const database db(state_.assess_file);
+        const std::vector<farm_field> fields = read_farm_fields(db);
+        for (const farm_field& field : fields)
+            names.push_back(field.name);
+        land = load_land(db, fields, unknown_fields);
+        if (land.data_row_count() == 0) land = fields_to_grid(fields);
+        animals = load_stock(db, constant);
+    }
+    land_ = std::move(land);
+    animals_ = std::move(animals);
+    field_names_ = std::move(names);
+    working_constant_ = constant;
+    result_.reset();
+    for (const std::string& name : unknown_fields)
+        person_.tell(land_messages::field_does_not_exist(name));
+}
+
+land_opening land_module::click_land(int /*row*/, int column) {
+    using namespace land_messages;
+    switch (column) {
+        case land_column::field:
+            return {land_box::field, field_caption, field_instruction};
+        case land_column::grass:
+            return {land_box::area, grass_caption, grass_instruction};
+        case land_column::not_in_grass:
+            return {land_box::area, not_in_grass_caption, not_in_grass_instruction};
+        case land_column::buffer:
+            return {land_box::deduction, deduction_caption, buffer_instruction};
+        case land_column::slope:
+            return {land_box::deduction, deduction_caption, slope_instruction};
+        case land_column::other_deduction:
+            return {land_box::deduction, deduction_caption, other_deduction_instruction};
+        default:
+            person_.tell(calculation);
+            return {};
+    }
+}
+
+land_opening land_module::click_animals(int /*row*/, int column) {
+    using namespace land_messages;
+    switch (column) {
+        case stock_column::stock:
+            return {land_box::stock, stock_caption, stock_box_instruction};
+        case stock_column::number:
+            return {land_box::number, number_caption, number_instruction};
+        default:
+            person_.tell(calculation);
+            return {};
+    }
+}
+
+bool land_module::refuse(const message& reason) {
+    person_.tell(reason);
+    return false;
+}
+
+bool land_module::field_in_other_row(int row, std::string_view name) const {
+    for (int r = 0; r < land_.row_count(); ++r)
+        if (r != row && land_.cell(r, land_column::field) == name) return true;
+    return false;
+}
+
+bool land_module::enter_field(int row, const std::string& name) {
+    if (name.empty()) return refuse(land_messages::no_field_id);
+    if (field_in_other_row(row, name)) return refuse(land_messages::field_in_grid);
+    // Read before the first cell is written: a file that cannot be read must leave the row as it was.
+    const recordset field = database(state_.assess_file).open("Field Data", "Field Name", name);
+    std::string soil = field.eof() ? "" : field.text("Soil");
+    std::string size = field.eof() ? "" : field.text("Size");
+    land_.set_cell(row, land_column::field, name);
+    land_.keep_entry_row(row);
+    land_.set_cell(row, land_column::soil, std::move(soil));
+    land_.set_cell(row, land_column::total_area, std::move(size));
+    recalculate_land_row(land_, row);
+    return true;
+}
+
+void land_module::set_area(int row, int column, const area_pair& areas) {
+    land_.set_cell(row, column, areas.entered);
+    land_.set_cell(row, other_of_pair(column), areas.rest);
+    recalculate_land_row(land_, row);
+}
+
+bool land_module::enter_area(int row, int column, const std::string& text) {
+    if (!holds_number(text)) return refuse(land_messages::no_area);
+    const area_pair areas =
+        split_field_area(leading_single(text), land_.number(row, land_column::total_area));
+    if (areas.cut_to_field) person_.tell(land_messages::area_adjusted);
+    set_area(row, column, areas);
+    return true;
+}
+
+bool land_module::enter_deduction(int row, int column, const std::string& text) {
+    if (!holds_number(text)) return refuse(land_messages::no_deduction);
+    const float room = room_for_deduction(land_, row, column);
+    const bool too_much = leading_single(text) > room;
+    if (too_much) person_.tell(land_messages::figure_amended);
+    land_.set_cell(row, column, too_much ? shortest_text(room) : text);
+    recalculate_land_row(land_, row);
+    return true;
+}
+
+bool land_module::enter_stock(int row, const std::string& type) {
+    if (type.empty()) return refuse(land_messages::no_livestock);
+    animals_.set_cell(row, stock_column::stock, type);
+    recalculate_stock_row(animals_, row, working_constant_);
+    animals_.keep_entry_row(row);
+    return true;
+}
+
+bool land_module::enter_number(int row, const std::string& text) {
+    if (!holds_number(text)) return refuse(land_messages::no_livestock_number);
+    animals_.set_cell(row, stock_column::number, text);
+    recalculate_stock_row(animals_, row, working_constant_);
+    animals_.keep_entry_row(row);
+    return true;
+}
+
+void land_module::clear_field(int row) {
+    land_.set_cell(row, land_column::field, "");
+    recalculate_land_row(land_, row);
+}
+
+void land_module::clear_area(int row, int column) {
+    set_area(row, column, split_field_area(0, land_.number(row, land_column::total_area)));
+}
+
+void land_module::clear_deduction(int row, int column) {
+    land_.set_cell(row, column, "");
+    recalculate_land_row(land_, row);
+}
+
+void land_module::clear_stock(int row) {
+    animals_.set_cell(row, stock_column::stock, "");
+    recalculate_stock_row(animals_, row, working_constant_);
+}
+
+void land_module::clear_number(int row) {
+    animals_.set_cell(row, stock_column::number, "");
+    recalculate_stock_row(animals_, row, working_constant_);
+}
+
+bool land_module::erase_row(text_grid& grid, int row) {
+    if (row == grid.row_count() - 1) return refuse(land_messages::cannot_delete);
+    grid.erase_row(row);
+    return true;
+}
+
+bool land_module::erase_land_row(int row) {
+    return erase_row(land_, row);
+}
+
+bool land_module::erase_stock_row(int row) {
+    return erase_row(animals_, row);
+}
+
+void land_module::calculate() {
+    const int fields = land_.data_row_count();
+    result_ = compare_with_limits({
+        .grass_ha = land_.sum(land_column::grass, fields),
+        .other_ha = land_.sum(land_column::not_in_grass, fields),
+        .field_limits_kg = land_.sum(land_column::field_limit, fields),
+        .production_kg = animals_.sum(stock_column::total_n, animals_.data_row_count()),
+    });
+}
+
+void land_module::back() {
+    result_.reset();
+}
+
+bool land_module::save() {
+    if (!choose_save_file(state_, person_)) return false;
+    text_grid land = land_;
+    fill_deductions(land);
+    const database db(state_.assess_file);
+    save_transaction transaction(db);
+    save_land(db, land);
+    save_stock(db, animals_);
+    transaction.commit();
+    land_ = std::move(land);
+    return true;
+}
+
+bool land_module::close() {
+    return person_.ask(land_messages::close_module) != answer::no;
+}
+
+void land_module::report(report_desk& desk) {
+    if (result_)
+        generate_report(desk, land_report_file, land_report(*result_, land_, animals_), "land", "land");
+}
+
+}  // namespace kel

@@ -1,0 +1,93 @@
+// Step 1, land available for spreading: the working copy of the land and the stock table and the flow of its
+// edits. Nothing reaches the file before save. Rows count from 0 without the heading; the last row of each
+// grid is the entry row.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/application_state.h"
+#include "core/prompts.h"
+#include "core/text_grid.h"
+#include "land/land_grids.h"
+#include "land/spreading_limits.h"
+#include "reports/report_viewer.h"
+
+namespace kel {
+
+enum class land_box { none, field, area, deduction, stock, number };
+
+/// What a click opens; none after a message.
+struct land_opening {
+    land_box box = land_box::none;
+    std::string_view caption;
+    std::string_view instruction;
+    bool operator==(const land_opening&) const = default;
+};
+
+class land_module {
+  public:
+    land_module(application_state& state, prompts& person);
+
+    const text_grid& land() const { return land_; }
+    const text_grid& animals() const { return animals_; }
+    const std::vector<std::string>& field_names() const { return field_names_; }
+    /// What the result panel shows; nothing while it is closed.
+    const std::optional<spreading_result>& result() const { return result_; }
+
+    /// Fills both tabs from the assessment and tells which stored fields the profile lacks. Throws file_error
+    /// and leaves everything as it was when the file cannot be read.
+    void load_land_stuff();
+
+    land_opening click_land(int row, int column);
+    land_opening click_animals(int row, int column);
+
+    // The entry boxes: what the person chose or typed goes into the cell, with the cells that follow from it.
+    // True: the box closes.
+    bool enter_field(int row, const std::string& name);
+    bool enter_area(int row, int column, const std::string& text);
+    bool enter_deduction(int row, int column, const std::string& text);
+    bool enter_stock(int row, const std::string& type);
+    bool enter_number(int row, const std::string& text);
+
+    void clear_field(int row);
+    void clear_area(int row, int column);
+    void clear_deduction(int row, int column);
+    void clear_stock(int row);
+    void clear_number(int row);
+
+    // False, after a message, for the entry row.
+    bool erase_land_row(int row);
+    bool erase_stock_row(int row);
+
+    /// Opens the result panel.
+    void calculate();
+    /// Closes the result panel.
+    void back();
+
+    /// Replaces both tables in the file in one transaction. False: no file was chosen. Throws file_error; the
+    /// file then holds its old rows.
+    bool save();
+    /// Asks whether the module may close.
+    bool close();
+    /// Shows the report of the result panel; does nothing while the panel is closed.
+    void report(report_desk& desk);
+
+  private:
+    bool refuse(const message& reason);
+    bool field_in_other_row(int row, std::string_view name) const;
+    void set_area(int row, int column, const area_pair& areas);
+    bool erase_row(text_grid& grid, int row);
+
+    application_state& state_;
+    prompts& person_;
+    text_grid land_;
+    text_grid animals_;
+    std::vector<std::string> field_names_;
+    float working_constant_ = 0;  // nitrogen constant of the stock row recalculated last
+    std::optional<spreading_result> result_;
+};
+
+}  // namespace kel

@@ -1,0 +1,196 @@
+#include "profile/profile_module.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <unordered_set>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+#include "core/settings_store.h"
+#include "profile/profile_file.h"
+#include "profile/profile_messages.h"
+#include "profile/profile_report.h"
+
+namespace kel {
+
+namespace messages = profile_messages;
+
+namespace {
+
+/// A count of fields as typed; nothing for a text that is no count or a number beyond any farm.
+std::optional<int> typed_count(std::string_view text) {
+    int count = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, count);
+    if (error != std::errc{} || stop != end || count < 0 || count > most_fields) return std::nullopt;
+    return count;
+}
+
+std::unordered_set<std::string> names_of(const text_grid& fields) {
+    std::unordered_set<std::string> names;
+    for (int row = 0; row < fields.row_count(); ++row)
+        names.insert(fields.cell(row, field_column::name));
+    return names;
+}
+
+}  // namespace
+
+std::string_view box_caption(profile_box box) {
+    switch (box) {
+        case profile_box::name:
+            return messages::enter_name;
+        case profile_box::area:
+            return messages::enter_area;
+        case profile_box::soil:
+            return messages::select_soil;
+        case profile_box::none:
+            break;
+    }
+    return {};
+}
+
+void profile_module::show_location() {
+    farm_.location = state_.farm_town + " - " + state_.farm_zone;
+}
+
+void profile_module::load_profile() {
+    loaded_profile fresh{
+        farm_, fields_, state_.farm_name, state_.farm_zone, state_.farm_town, state_.kel_year_start};
+    const database db(state_.assess_file);
+    if (!read_farm(db, fresh)) person_.tell(messages::data_load_error);
+    read_year(db, fresh);
+    farm_ = std::move(fresh.farm);
+    fields_ = std::move(fresh.fields);
+    state_.farm_name = std::move(fresh.farm_name);
+    state_.farm_zone = std::move(fresh.farm_zone);
+    state_.farm_town = std::move(fresh.farm_town);
+    state_.kel_year_start = fresh.kel_year_start;
+}
+
+void profile_module::ass_year() {
+    state_.kel_year_start = read_assessment_year(state_.assess_file);
+}
+
+void profile_module::new_farm() {
+    farm_ = {};
+    fields_.clear();
+    year_list_enabled_ = true;
+}
+
+profile_box profile_module::click(int row, int column) const {
+    if (row < 0 || row >= fields_.row_count()) return profile_box::none;
+    switch (column) {
+        case field_column::name:
+            return profile_box::name;
+        case field_column::area:
+        case field_column::kel_area:
+            return profile_box::area;
+        case field_column::soil:
+            return profile_box::soil;
+        default:
+            return profile_box::none;
+    }
+}
+
+bool profile_module::enter_name(int row, const std::string& text) {
+    const bool apostrophe = text.find('\'') != std::string::npos;
+    // The row's own name counts: to leave a name as it is, the box is cancelled.
+    const bool taken = fields_.find(field_column::name, text) >= 0;
+    if (apostrophe || taken) {
+        person_.tell(apostrophe ? messages::invalid_character : messages::name_exists);
+        return false;
+    }
+    fields_.set_cell(row, field_column::name, text);
+    return true;
+}
+
+bool profile_module::enter_area(int row, int row_selection, int column, const std::string& text) {
+    const auto [first, last] = std::minmax(row, row_selection);
+    for (int r = first; r <= last; ++r) {
+        if (column == field_column::area) fields_.set_cell(r, field_column::area, text);
+        const bool larger = leading_single(text) > fields_.number(r, field_column::area);
+        fields_.set_cell(r, field_column::kel_area, larger ? fields_.cell(r, field_column::area) : text);
+    }
+    return true;
+}
+
+bool profile_module::enter_soil(int row, int row_selection, const std::string& text) {
+    const auto [first, last] = std::minmax(row, row_selection);
+    for (int r = first; r <= last; ++r)
+        fields_.set_cell(r, field_column::soil, text);
+    return true;
+}
+
+bool profile_module::clear_cell(int row, int column) {
+    fields_.set_cell(row, column, {});
+    return true;
+}
+
+bool profile_module::erase_row(int row) {
+    if (row < 0) {
+        person_.tell(messages::heading_row);
+        return false;
+    }
+    fields_.erase_row(row);
+    show_field_count();
+    return true;
+}
+
+std::string profile_module::create_caption() const {
+    const double count = leading_number(farm_.field_count);
+    return count == 0 ? "Create Fields" : "Create " + shortest_text(count) + " Fields";
+}
+
+void profile_module::create_fields() {
+    const auto count = typed_count(farm_.field_count);
+    if (!count) return;
+    if (*count < fields_.row_count() && person_.ask(messages::fewer_fields) != answer::yes) return;
+    fields_.set_row_count(*count);
+    name_nameless_fields(fields_);
+}
+
+void profile_module::paste_names_and_sizes(std::string_view clipboard) {
+    if (!clipboard.empty()) add_pasted(parse_names_and_sizes(clipboard));
+}
+
+void profile_module::paste_names(std::string_view clipboard) {
+    if (clipboard.empty()) return;
+    if (clipboard.find('\t') != std::string_view::npos)
+        person_.tell(messages::more_than_names);
+    else
+        add_pasted(parse_names(clipboard));
+}
+
+void profile_module::add_pasted(const std::vector<pasted_field>& pasted) {
+    if (fields_.row_count() > 0) {
+        const answer reply = person_.ask(messages::add_or_overwrite);
+        if (reply != answer::yes && reply != answer::no) return;
+        if (reply == answer::no) fields_.clear();
+    }
+    auto names = names_of(fields_);
+    std::vector<std::string> rejected;
+    for (const auto& [name, size] : pasted) {
+        if (!names.insert(name).second) {
+            rejected.push_back(name);
+            continue;
+        }
+        const int row = fields_.add_row();
+        fields_.set_cell(row, field_column::name, name);
+        fields_.set_cell(row, field_column::area, size);
+        fields_.set_cell(row, field_column::kel_area, size);
+    }
+    show_field_count();
+    if (!rejected.empty()) person_.tell(messages::duplicate_fields(rejected));
+}
+
+void profile_module::cancel() {
+    read_store(state_);
+    if (!state_.assess_file.empty()) load_profile();
+}
+
+void profile_module::report(report_desk& desk) const {
+    generate_report(desk, profile_report_file, profile_report(farm_, fields_), "profile", "profile");
+}
+
+}  // namespace kel

@@ -1,0 +1,97 @@
+// The farm profile: its working copy and edit flow. The screen stays alive between uses; the field list on it
+// is the working copy until Set Profile, which is where an assessment file comes into being and where changes
+// of fields reach all modules and all linked years.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/application_state.h"
+#include "core/prompts.h"
+#include "core/text_grid.h"
+#include "profile/farm_profile.h"
+#include "profile/field_paste.h"
+#include "reports/report_viewer.h"
+
+namespace kel {
+
+/// Entry boxes over the grid.
+enum class profile_box { none, name, area, soil };
+
+/// What the box asks for.
+std::string_view box_caption(profile_box box);
+
+enum class set_profile_result {
+    refused,
+    refused_focus_kel_area,
+    refused_focus_farm_area,
+    cancelled,
+    saved,  // the screen gives way to the assessments screen
+};
+
+class profile_module {
+  public:
+    profile_module(application_state& state, prompts& person) : state_(state), person_(person) {}
+
+    const farm_details& farm() const { return farm_; }
+    const text_grid& fields() const { return fields_; }
+    /// The year of an existing assessment cannot be edited.
+    bool year_list_enabled() const { return year_list_enabled_; }
+
+    // What the person types above the grid.
+    void set_name(std::string text) { farm_.name = std::move(text); }
+    void set_total_area(std::string text) { farm_.total_area = std::move(text); }
+    void set_kel_area(std::string text) { farm_.kel_area = std::move(text); }
+    void set_field_count(std::string text) { farm_.field_count = std::move(text); }
+    void set_year(std::string text) { farm_.year = std::move(text); }
+    /// Shows the place that the location screen put into the state.
+    void show_location();
+
+    /// Reads the open file into the working copy and the state. Throws file_error and then leaves both as
+    /// they were.
+    void load_profile();
+    /// Reads the open file's year into the state. Throws file_error.
+    void ass_year();
+    void new_farm();
+    void edit_existing() { year_list_enabled_ = false; }
+
+    // The grid. Rows count from 0 without the heading, which is row -1. An entry returns whether its box
+    // closes.
+    profile_box click(int row, int column) const;
+    bool enter_name(int row, const std::string& text);
+    /// Hectares, into all rows from `row` to `row_selection`, whichever is larger.
+    bool enter_area(int row, int row_selection, int column, const std::string& text);
+    bool enter_soil(int row, int row_selection, const std::string& text);
+    bool clear_cell(int row, int column);
+    bool erase_row(int row);
+
+    std::string create_caption() const;
+    void create_fields();
+    void paste_names_and_sizes(std::string_view clipboard);
+    void paste_names(std::string_view clipboard);
+
+    /// Tests, questions and the save. Throws file_error; then nothing is saved and the state is as it was.
+    set_profile_result set_profile();
+    /// Back to the last write of the settings store. Throws file_error.
+    void cancel();
+    void report(report_desk& desk) const;
+
+  private:
+    void show_field_count() { farm_.field_count = std::to_string(fields_.row_count()); }
+    void add_pasted(const std::vector<pasted_field>& pasted);
+    const message* first_refusal() const;
+    bool any_field_incomplete() const;
+    bool kel_areas_agree();
+    std::string choose_new_file();
+    bool save_new_farm(const std::string& path);
+    bool save_into_new_file(const std::string& path, bool& store_written);
+
+    application_state& state_;
+    prompts& person_;
+    farm_details farm_;
+    text_grid fields_{field_columns};
+    bool year_list_enabled_ = true;
+};
+
+}  // namespace kel

@@ -1,0 +1,118 @@
+// Set Profile: its tests and questions in their order, the new farm's file, and the save.
+#include <filesystem>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+#include "core/settings_store.h"
+#include "profile/field_changes.h"
+#include "profile/profile_messages.h"
+#include "profile/profile_module.h"
+
+namespace kel {
+
+namespace messages = profile_messages;
+
+namespace {
+
+/// The store must not name a farm that was never saved: Cancel goes back to what it held. The failure that
+/// led here is the one to report.
+void put_back(const application_state& stored) {
+    try {
+        write_store(stored);
+    } catch (const file_error&) {
+    }
+}
+
+}  // namespace
+
+bool profile_module::any_field_incomplete() const {
+    for (int row = 0; row < fields_.row_count(); ++row)
+        for (int column = field_column::name; column <= field_column::soil; ++column)
+            if (fields_.cell(row, column).empty()) return true;
+    return false;
+}
+
+const message* profile_module::first_refusal() const {
+    if (farm_.name.empty()) return &messages::no_name;
+    if (farm_.location.empty()) return &messages::no_location;
+    if (farm_.total_area.empty()) return &messages::no_area;
+    if (leading_number(farm_.field_count) == 0 || fields_.row_count() == 0) return &messages::no_fields;
+    if (!parse_date(farm_.year)) return &messages::no_year;
+    if (any_field_incomplete()) return &messages::missing_data;
+    return nullptr;
+}
+
+bool profile_module::kel_areas_agree() {
+    const float total = fields_.sum(field_column::kel_area, fields_.row_count());
+    if (leading_single(farm_.kel_area) == total) return true;
+    if (person_.ask(messages::kel_area_query) == answer::yes) {
+        farm_.kel_area = shortest_text(total);
+        return true;
+    }
+    person_.tell(messages::kel_area_to_adjust);
+    return false;
+}
+
+set_profile_result profile_module::set_profile() {
+    if (const message* refusal = first_refusal()) {
+        person_.tell(*refusal);
+        return set_profile_result::refused;
+    }
+    state_.kel_year_start = parse_date(farm_.year);
+    if (!kel_areas_agree()) return set_profile_result::refused_focus_kel_area;
+    if (leading_single(farm_.total_area) < leading_single(farm_.kel_area)) {
+        person_.tell(messages::kel_area_above_total);
+        return set_profile_result::refused_focus_farm_area;
+    }
+    bool areas_changed = false;
+    if (state_.assess_file.empty()) {
+        const std::string path = choose_new_file();
+        if (path.empty()) return set_profile_result::cancelled;
+        areas_changed = save_new_farm(path);
+    } else {
+        areas_changed = save_prof(state_.assess_file, farm_, fields_, state_);
+    }
+    if (areas_changed) person_.tell(messages::areas_changed);
+    return set_profile_result::saved;
+}
+
+std::string profile_module::choose_new_file() {
+    std::string path = person_.file_to_save(
+        {std::string(messages::new_file_title), std::string(assessment_filter), dialog_folder(state_)});
+    if (path.empty()) return path;
+    state_.last_dir = folder_of(path);
+    if (std::filesystem::path(path).has_extension()) return path;
+    path += ".kel";
+    // The dialog asked about the name as it was typed.
+    if (!std::filesystem::exists(path)) return path;
+    return person_.ask(messages::replace_file(file_name_of(path))) == answer::yes ? path : std::string{};
+}
+
+bool profile_module::save_new_farm(const std::string& path) {
+    const application_state before = state_;
+    application_state stored = state_;
+    read_store(stored);
+    bool store_written = false;
+    try {
+        return save_into_new_file(path, store_written);
+    } catch (...) {
+        state_ = before;
+        if (store_written) put_back(stored);
+        throw;
+    }
+}
+
+bool profile_module::save_into_new_file(const std::string& path, bool& store_written) {
+    state_.slot_current = path;
+    copy_assessment(state_.places.blank_assessment(), path);
+    state_.slot_prev1.clear();
+    state_.slot_prev2.clear();
+    state_.assess_file = path;
+    state_.prev1_file.clear();
+    state_.prev2_file.clear();
+    write_store(state_);
+    store_written = true;
+    return save_prof(path, farm_, fields_, state_);
+}
+
+}  // namespace kel

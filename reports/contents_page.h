@@ -1,0 +1,40 @@
+// The contents page of the reports: which of the nine reports exist in the report folder, with a link to
+// each.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "reports/report_page.h"
+
+namespace kel {
+
+inline constexpr std::string_view contents_file = "KEL_report_contents.htm";
+
+struct report_file {
+    std::string_view file_name;
+    std::string_view row_text;
+};
+
+// The reports in the order of the contents page. A report has one fixed file name, so each new one replaces
+// the last, whichever farm it belonged to.
+// clang-format off
+inline constexpr std::array<report_file, 9> report_files{{
+    {"KEL_report_farmprof.htm",   "Farm Profile:"},
+    {"KEL_report_landspread.htm", "Land availability for spreading all organic manures:"},
+    {"KEL_report_storage.htm",    "Slurry storage and closed periods:"},
+    {"KEL_report_manureN.htm",    "Slurry and Manure applications:"},
+    {"KEL_report_inorganic.htm",  "Inorganic N applications:"},
+    {"KEL_report_croprec.htm",    "Crops: Assessment of Nitrogen Requirement:"},
+    {"KEL_report_grassrec.htm",   "Grassland: Assessment of Nitrogen Requirement:"},
+    {"KEL_report_compost.htm",    "In Field Composting of Vegetable Crop Residues to Minimise Nitrate Leaching:"},
+    {"KEL_report_record.htm",     "Field Record:"},
+}};
+// clang-format on
+
+/// Body of the contents page. `files` are the bare names of the files in the report folder, compared exactly.
+page_lines contents_body(const std::vector<std::string>& files);
+
+}  // namespace kel

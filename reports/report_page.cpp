@@ -1,0 +1,160 @@
+#include "reports/report_page.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "core/file_error.h"
+
+namespace kel {
+
+namespace {
+
+// The stray closing tags are part of the frame's stated form. The character set line is an addition: without
+// it a browser guesses, and a field named in Gaelic comes out garbled. The blank of the last cell and the
+// title's vertical alignment are for the viewer, which otherwise draws the rule into the empty cell and the
+// title at its top.
+// clang-format off
+constexpr std::string_view page_head[] = {
+    "<HTML>",
+    "<meta http-equiv=Content-Type content=text/html;charset=utf-8>",
+    "<style>",
+    "<!--",
+    ".turnred a:hover{",
+    "color:red",
+    "}",
+    "a:hover{",
+    "color:green",
+    "}",
+    "-->",
+    "</style>",
+    "</HEAD>",
+    "<body>",
+    "</table>",
+    "</center></div>",
+    "<div align=center><center>",
+    "<table border=0 width=100%>",
+    "<tr>",
+    "<td width=20% align=center><img src=tolmlogoscot.jpg width=68 height=68 alt=KEL></td>",
+    "<td width=80% align=center valign=middle><font size=6>Guidelines For Farmers In Scottish KELs</font></td>",
+    "</tr>",
+    "<tr>",
+    "<td width=100% colspan=2 align=center>&nbsp;</td>",
+    "</tr>",
+    "</table>",
+    "</center></div>",
+    "<hr>",
+};
+// clang-format on
+
+constexpr std::string_view credit =
+    "Generated from Guidelines For Farmers in Scottish KELs Computer Module, developed for ORDANE by ";
+
+page_lines page_foot(date today, std::string_view developer) {
+    const std::string day = std::string(weekday_name(today)) + " " + long_date_text(today);
+    return {
+        "<hr>",
+        "<font size=1>" + std::string(credit) + std::string(developer) + "</font><br>",
+        "<font size=1>" + day + "</font>",
+        "</body>",
+        "</html>",
+    };
+}
+
+std::string between(std::string_view opening, std::string_view text, std::string_view closing) {
+    return std::string(opening) + std::string(text) + std::string(closing);
+}
+
+std::string cell_tag(const report_cell& cell, std::string_view align) {
+    std::string tag = "<td";
+    if (!cell.width.empty()) tag += " width=" + cell.width;
+    if (!align.empty()) tag += between(" align=", align, "");
+    if (cell.columns > 1) tag += " colspan=" + std::to_string(cell.columns);
+    if (cell.rows > 1) tag += " rowspan=" + std::to_string(cell.rows);
+    return tag;
+}
+
+// A cell with nothing in it would be drawn without its border.
+std::string_view cell_text(const report_cell& cell) {
+    if (cell.text.empty()) return "&nbsp;";
+    return cell.text;
+}
+
+std::string heading_cell(const report_cell& cell) {
+    // The text's colour goes with the ground's: in a dark theme it would be light on light.
+    return cell_tag(cell, cell.align.empty() ? "center" : cell.align) + " bgcolor=#e0e0e0>" +
+           between("<font color=black><strong>", cell_text(cell), "</strong></font></td>");
+}
+
+std::string value_cell(const report_cell& cell) {
+    return cell_tag(cell, cell.align) + between(">", cell_text(cell), "</td>");
+}
+
+}  // namespace
+
+page_lines report_heading(std::string_view text) {
+    return {between("<p align=center><font size=5><strong>", text, "</strong></font></p>")};
+}
+
+page_lines report_section(std::string_view text) {
+    return {between("<p style=margin-top:24px><font size=4><strong>", text, "</strong></font></p>")};
+}
+
+page_lines report_paragraph(std::string_view text) {
+    return {between("<p>", text, "</p>")};
+}
+
+void report_table::add_heading_row(const std::vector<report_cell>& cells) {
+    rows_.emplace_back("<tr>");
+    for (const report_cell& cell : cells)
+        rows_.push_back(heading_cell(cell));
+    rows_.emplace_back("</tr>");
+}
+
+void report_table::add_row(const std::vector<report_cell>& cells) {
+    rows_.emplace_back("<tr>");
+    for (const report_cell& cell : cells)
+        rows_.push_back(value_cell(cell));
+    rows_.emplace_back("</tr>");
+}
+
+void report_table::add_row(const std::vector<std::string>& texts) {
+    std::vector<report_cell> cells;
+    cells.reserve(texts.size());
+    for (const std::string& text : texts)
+        cells.push_back({.text = text});
+    add_row(cells);
+}
+
+page_lines report_table::lines() const {
+    page_lines table{"<table border=1 width=100% cellpadding=3 cellspacing=0>"};
+    append(table, rows_);
+    table.emplace_back("</table>");
+    return table;
+}
+
+void append(page_lines& body, const page_lines& piece) {
+    body.insert(body.end(), piece.begin(), piece.end());
+}
+
+page_lines framed_page(const page_lines& body, date today, std::string_view developer) {
+    page_lines page(std::begin(page_head), std::end(page_head));
+    append(page, body);
+    append(page, page_foot(today, developer));
+    return page;
+}
+
+void write_page(const std::string& path, const page_lines& page) {
+    const std::string fresh = path + ".new";
+    std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
+    for (const std::string& line : page)
+        out << line << '\n';
+    out.close();
+    std::error_code trouble;
+    if (out) std::filesystem::rename(fresh, path, trouble);
+    if (out && !trouble) return;
+    std::error_code ignored;
+    std::filesystem::remove(fresh, ignored);
+    throw file_error(path, "the report could not be written. The folder may be read-only or the disc full.");
+}
+
+}  // namespace kel

@@ -1,0 +1,50 @@
+// The page frame of every report and the few pieces its body is built from. Reports are plain HTML files
+// without quotation marks in attributes; text goes through as it stands.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/dates.h"
+
+namespace kel {
+
+using page_lines = std::vector<std::string>;
+
+/// Pieces of a body: a centred heading, a section heading, a paragraph.
+page_lines report_heading(std::string_view text);
+page_lines report_section(std::string_view text);
+page_lines report_paragraph(std::string_view text);
+
+struct report_cell {
+    std::string text;
+    int columns = 1;
+    int rows = 1;
+    std::string width{};  // "15%"; empty: as the browser lays it out
+    std::string align{};  // "left", "center", "right"; empty: left for values, centred for headings
+};
+
+/// A bordered table of full width.
+class report_table {
+  public:
+    void add_heading_row(const std::vector<report_cell>& cells);
+    void add_row(const std::vector<report_cell>& cells);
+    void add_row(const std::vector<std::string>& texts);
+    page_lines lines() const;
+
+  private:
+    page_lines rows_;
+};
+
+/// Joins pieces in order.
+void append(page_lines& body, const page_lines& piece);
+
+/// Head, body and foot as one page; `today` and the developer's name stand in the foot.
+page_lines framed_page(const page_lines& body, date today, std::string_view developer);
+
+/// Writes the page in place of the file of that name. Throws file_error for a folder that cannot be written
+/// or a full disc; the old page then stays.
+void write_page(const std::string& path, const page_lines& page);
+
+}  // namespace kel

@@ -1,0 +1,35 @@
+#include "reports/report_viewer.h"
+
+#include <utility>
+
+namespace kel {
+
+namespace {
+
+class busy_cursor {
+  public:
+    explicit busy_cursor(report_viewer& viewer) : viewer_(viewer) { viewer_.wait_cursor(true); }
+    ~busy_cursor() { viewer_.wait_cursor(false); }
+    busy_cursor(const busy_cursor&) = delete;
+    busy_cursor& operator=(const busy_cursor&) = delete;
+
+  private:
+    report_viewer& viewer_;
+};
+
+}  // namespace
+
+void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
+                     std::string_view hidden_screen, std::string_view back_tag, viewer_request request) {
+    request.page = desk.state.places.report(file_name);
+    {
+        const busy_cursor busy(desk.viewer);
+        write_page(request.page, framed_page(body, desk.today(), desk.developer));
+        desk.state.last_report_path = request.page;
+        desk.viewer.hide_screen(hidden_screen);
+        desk.viewer.show(request);
+    }
+    desk.state.viewer_back = back_tag;
+}
+
+}  // namespace kel

@@ -1,0 +1,45 @@
+// The report viewer as the modules see it, and the sequence in which every report is generated and shown.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "core/application_state.h"
+#include "reports/report_page.h"
+
+namespace kel {
+
+/// What the viewer is told before it navigates: the page, the caption of its third button and which contents
+/// page that button leads to.
+struct viewer_request {
+    std::string page;  // a path or a web address
+    std::string caption = "Save";
+    int mode = 0;  // 0 contents of the reports, 1 contents of the guides
+    bool operator==(const viewer_request&) const = default;
+};
+
+class report_viewer {
+  public:
+    virtual ~report_viewer() = default;
+    virtual void wait_cursor(bool on) = 0;
+    /// Hides the screen of a tag as in viewer_back ("front", "profile", "land", ...), bringing it into being
+    /// if needed.
+    virtual void hide_screen(std::string_view tag) = 0;
+    virtual void show(const viewer_request& request) = 0;
+};
+
+/// Everything report generation needs from its surroundings.
+struct report_desk {
+    application_state& state;
+    report_viewer& viewer;
+    std::function<date()> today;
+    std::string developer;
+};
+
+/// Wait cursor, write the framed page into the report folder, show it, remember it, hide `hidden_screen`, set
+/// viewer_back to `back_tag`. Throws file_error before anything is shown when the page cannot be written.
+void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
+                     std::string_view hidden_screen, std::string_view back_tag, viewer_request request = {});
+
+}  // namespace kel

@@ -1,0 +1,48 @@
+#include "shell/file_choice.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "shell/assessments_messages.h"
+
+namespace kel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+file_request assessment_request(const application_state& state, std::string_view title) {
+    return {std::string(title), std::string(assessment_filter), dialog_folder(state)};
+}
+
+bool may_replace(prompts& person, std::string_view title, const std::string& path) {
+    std::error_code ignored;
+    if (!fs::exists(path, ignored)) return true;
+    return person.ask(assessments_messages::replace_file(title, file_name_of(path))) == answer::yes;
+}
+
+}  // namespace
+
+std::string choose_file_to_open(application_state& state, prompts& person, std::string_view title) {
+    std::string path = person.file_to_open(assessment_request(state, title));
+    if (!path.empty()) state.last_dir = folder_of(path);
+    return path;
+}
+
+std::string choose_file_to_save(application_state& state, prompts& person, std::string_view title) {
+    std::string path = person.file_to_save(assessment_request(state, title));
+    if (path.empty()) return path;
+    if (!fs::path(path).has_extension()) {
+        path += ".kel";
+        if (!may_replace(person, title, path)) return {};
+    }
+    state.last_dir = folder_of(path);
+    return path;
+}
+
+bool same_file(const std::string& a, const std::string& b) {
+    std::error_code trouble;
+    return a == b || (fs::equivalent(a, b, trouble) && !trouble);
+}
+
+}  // namespace kel

@@ -1,0 +1,17 @@
+// Brings the assessment that the settings store names back to the screen, at start-up and when the years
+// dialog is cancelled.
+#pragma once
+
+#include <optional>
+
+#include "core/application_state.h"
+#include "core/prompts.h"
+#include "profile/profile_module.h"
+
+namespace kel {
+
+/// read_store; then, if an assessment is open, load_profile and ass_year. A file that cannot be read leaves
+/// no assessment open, keeps the slots, and gives the box that says so.
+std::optional<message> reopen_assessment(application_state& state, profile_module& profile);
+
+}  // namespace kel

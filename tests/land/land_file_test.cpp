@@ -1,0 +1,161 @@
+// What loading makes of a file and what saving leaves in it.
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include "core/dates.h"
+#include "tests/land/land_fixture.h"
+
+namespace kel::test {
+
+class LandFile : public land_test {
+  protected:
+    void add_land(const std::string& name, const row_values& more) {
+        row_values values = more;
+        values.emplace_back("Field Area ID", name);
+        add_row(state.assess_file, "Land", values);
+    }
+    void add_stock(const std::string& type, const std::string& number, const std::string& unit_n) {
+        add_row(state.assess_file, "Land_animals",
+                {{"Stock Unit", type},
+                 {"Number Of Stock Units", number},
+                 {"Total N Excreted By One Stock Unit (kg/year)", unit_n},
+                 {"Total N Excreted By All These Animals (kg/year)", "1"}});
+    }
+    void drop_stock_table() {
+        SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE).exec("DROP TABLE [Land_animals]");
+    }
+};
+
+TEST_F(LandFile, FieldsOfTheProfileFillAnEmptyTable) {
+    open({{"Long Rig", "15", "Sandy loams"}, {"East Muir", "8", "Humose soils"}});
+    EXPECT_EQ(module.field_names(), (texts{"Long Rig", "East Muir"}));
+    ASSERT_EQ(module.land().row_count(), 3);
+    EXPECT_EQ(land(1, land_col::field), "East Muir");
+    EXPECT_EQ(land(1, land_col::soil), "Humose soils");
+    EXPECT_EQ(land(1, land_col::total_area), "8");
+    EXPECT_EQ(land_cells(1, 1, 6), texts(6));
+    EXPECT_EQ(land(2, land_col::field), "");
+    EXPECT_EQ(module.animals().row_count(), 1);
+}
+
+TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
+    open_farm({{"Long Rig", "15"}});
+    add_land("Old Park", {});
+    add_land("Long Rig", {{"Available Field Area (ha)", "6.20"}, {"Total Area", "14"}});
+    add_land("Sold Field", {});
+    person.expect(says::field_does_not_exist("Old Park")).expect(says::field_does_not_exist("Sold Field"));
+    module.load_land_stuff();
+    ASSERT_EQ(module.land().row_count(), 2);
+    EXPECT_EQ(land(0, land_col::field), "Long Rig");
+    EXPECT_EQ(land(0, land_col::total_area), "14");  // the table's, not the profile's
+    EXPECT_EQ(land(0, land_col::field_limit), "1550");
+    EXPECT_EQ(stored("Land", "Field Area ID").size(), 3U);
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Land", "Field Area ID"), texts{"Long Rig"});
+    ASSERT_TRUE(module.erase_land_row(0));
+    ASSERT_TRUE(module.save());
+    EXPECT_TRUE(stored("Land", "Field Area ID").empty());
+    add_land("Old Park", {});
+    person.expect(says::field_does_not_exist("Old Park"));
+    module.load_land_stuff();
+    EXPECT_EQ(land(0, land_col::field), "Long Rig");  // from the profile, since no row was left
+}
+
+TEST_F(LandFile, ConstantsOfTheProgramReplaceThoseOfTheFile) {
+    open_farm({});
+    add_stock("1 llama", "2", "40");
+    add_stock("1 sheep", "10", "8");
+    add_stock("1 llama", "2", "40");
+    add_stock("1 dairy cow (650 kg)", "", "");
+    module.load_land_stuff();
+    EXPECT_EQ(stock_line(0), (texts{"1 llama", "2", "", "0"}));  // nothing was recalculated before
+    EXPECT_EQ(stock_line(1), (texts{"1 sheep", "10", "9", "90"}));
+    EXPECT_EQ(stock_line(2), (texts{"1 llama", "2", "9", "18"}));  // keeps the constant of the line before
+    EXPECT_EQ(stock_line(3), (texts{"1 dairy cow (650 kg)", "", "116", "0"}));
+    EXPECT_EQ(module.animals().row_count(), 5);
+}
+
+TEST_F(LandFile, AFileThatCannotBeReadLeavesWhatWasThere) {
+    open({{"Long Rig", "15"}});
+    module.enter_area(0, land_col::grass, "10");
+    enter_sheep(0, "7");
+    const text_grid land_before = module.land();
+    const text_grid stock_before = module.animals();
+    drop_stock_table();
+    EXPECT_THROW(module.load_land_stuff(), file_error);
+    EXPECT_EQ(module.land(), land_before);
+    EXPECT_EQ(module.animals(), stock_before);
+    EXPECT_EQ(module.field_names(), texts{"Long Rig"});
+}
+
+TEST_F(LandFile, SaveWritesBothTablesAndLeavesEmptyCellsUnset) {
+    open({{"Long Rig", "15", "Sandy loams"}, {"East Muir", "8"}});
+    module.enter_area(0, land_col::grass, "10");
+    module.enter_deduction(0, land_col::slope, "1.5");
+    module.enter_stock(0, "1 sheep");
+    module.enter_number(1, "5");  // no stock unit
+    module.enter_stock(2, "1 suckler cow");
+    module.enter_number(2, "3");
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"Long Rig", "East Muir"}));
+    EXPECT_EQ(stored("Land", "Area Not In Grass (ha)"), (texts{"5", ""}));
+    EXPECT_EQ(stored("Land", "Buffer Areas To Be Deducted (ha)"), (texts{"0", "0"}));
+    EXPECT_EQ(stored("Land", "Slope Areas To Be Deducted (ha)"), (texts{"1.5", "0"}));
+    EXPECT_EQ(stored("Land", "Available Field Area (ha)"), (texts{"13.50", ""}));
+    EXPECT_EQ(stored("Land", "Soil"), (texts{"Sandy loams", "Other mineral soils"}));
+    EXPECT_EQ(stored("Land_animals", "Stock Unit"), (texts{"1 sheep", "1 suckler cow"}));
+    EXPECT_EQ(stored("Land_animals", "Number Of Stock Units"), (texts{"0", "3"}));
+    EXPECT_EQ(stored("Land_animals", "Total N Excreted By All These Animals (kg/year)"), (texts{"0", "174"}));
+}
+
+TEST_F(LandFile, CropAndMonthsOfTheStoragePlanSurviveASave) {
+    open_farm({{"Long Rig", "15"}, {"East Muir", "8"}});
+    add_land("Long Rig", {{"Crop", "Grass / Other"}});
+    row_values months;
+    for (int m = 1; m <= 12; ++m) {
+        months.emplace_back(std::string(month_name(m)), m == 1 ? "Closed" : std::to_string(m));
+        months.emplace_back("Applic_" + std::string(month_name(m)), std::to_string(100 + m));
+    }
+    add_land("East Muir", months);
+    module.load_land_stuff();
+    ASSERT_TRUE(module.erase_land_row(0));
+    ASSERT_TRUE(module.enter_field(1, "Long Rig"));
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"East Muir", "Long Rig"}));
+    for (const auto& [column, text] : months)
+        EXPECT_EQ(stored("Land", column), (texts{text, ""})) << column;
+}
+
+TEST_F(LandFile, ASaveThatFailsInItsSecondTableKeepsTheFirst) {
+    open_farm({{"Long Rig", "15"}});
+    add_land("Long Rig", {{"Area In Grass (ha)", "4"}, {"Total Area", "15"}});
+    module.load_land_stuff();
+    module.enter_area(0, land_col::grass, "10");
+    drop_stock_table();
+    EXPECT_THROW(module.save(), file_error);
+    EXPECT_EQ(stored("Land", "Area In Grass (ha)"), texts{"4"});
+    EXPECT_EQ(land(0, land_col::grass), "10");
+    EXPECT_EQ(land(0, land_col::buffer), "");
+}
+
+TEST_F(LandFile, SaveWithoutAnOpenFileAsksForOne) {
+    module.load_land_stuff();  // nothing open: two empty tables
+    enter_sheep(0, "10");
+    person.expect_file("Save the assessment", "");
+    EXPECT_FALSE(module.save());
+    EXPECT_EQ(person.last_folder(), state.places.user_files());
+
+    state.prev1_file = make_farm("last_year.kel", {}, 2023);
+    person.expect_file("Save the assessment", state.prev1_file)
+        .expect({"Cannot Save File", "This is last years file and cannot be saved to at this time!"});
+    EXPECT_FALSE(module.save());
+    EXPECT_EQ(state.assess_file, "");
+    EXPECT_EQ(column_of(state.prev1_file, "FarmProfile", "Name"), texts{"Test Farm"});
+    EXPECT_EQ(state.last_dir, folder_of(state.prev1_file));
+
+    person.expect_file("Save the assessment", path("fresh.kel"));
+    EXPECT_TRUE(module.save());
+    EXPECT_EQ(state.assess_file, path("fresh.kel"));
+    EXPECT_EQ(stored("Land_animals", "Number Of Stock Units"), texts{"10"});
+}
+
+}  // namespace kel::test

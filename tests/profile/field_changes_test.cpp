@@ -1,0 +1,247 @@
+#include "profile/field_changes.h"
+
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+
+#include "profile/profile_messages.h"
+#include "profile/profile_module.h"
+#include "tests/support/farm_files.h"
+#include "tests/support/scripted_prompts.h"
+
+namespace kel::test {
+namespace {
+
+namespace messages = profile_messages;
+using texts = std::vector<std::string>;
+using chrono_clock = std::chrono::steady_clock;
+
+// Every module table that knows a field, with the column that repeats its soil.
+constexpr std::pair<const char*, const char*> module_tables[] = {
+    {"Crops", "Soil Type"}, {"Land", "Soil"},         {"Manure_applic", "Soil"},   {"Site", "Soil Type"},
+    {"Straw", nullptr},     {"Inorganic N", nullptr}, {"Recommendations", nullptr}};
+
+class FieldChanges : public farm_test {
+  protected:
+    /// Three linked years; each has the fields and one row per field in every module table.
+    void open_chain(const std::vector<test_field>& fields) {
+        open_farm(fields, 2024);
+        state.slot_prev1 = state.prev1_file = make_farm("prev1.kel", fields, 2023);
+        state.slot_prev2 = state.prev2_file = make_farm("prev2.kel", fields, 2022);
+        for (const std::string& file : chain())
+            for (const test_field& field : fields)
+                add_module_rows(file, field);
+        profile.load_profile();
+    }
+    static void add_module_rows(const std::string& file, const test_field& field) {
+        for (const auto& [table, soil] : module_tables) {
+            row_values values{{"Field Area ID", field.name}};
+            if (soil) values.emplace_back(soil, field.soil);
+            if (table == std::string("Land"))
+                values.insert(values.end(), {{"Total Area", field.size},
+                                             {"Area In Grass (ha)", "1"},
+                                             {"Crop", "Grass / Other"},
+                                             {"March", "Closed"},
+                                             {"Applic_March", "20"}});
+            add_row(file, table, values);
+        }
+    }
+    std::array<std::string, 3> chain() const {
+        return {state.slot_current, state.slot_prev1, state.slot_prev2};
+    }
+    static std::string land_of(const std::string& file, const std::string& field) {
+        std::string text;
+        for (const char* column : {"Soil", "Total Area", "Area In Grass (ha)", "Available Field Area (ha)",
+                                   "Crop", "March", "December", "Applic_March"})
+            text += database(file).lookup(column, "Land", "Field Area ID", field).value_or("no row") + ",";
+        return text;
+    }
+    void set_profile() {
+        float total = 0;
+        for (int row = 0; row < profile.fields().row_count(); ++row)
+            total += profile.fields().number(row, field_column::kel_area);
+        profile.set_kel_area(std::to_string(total));
+        EXPECT_EQ(profile.set_profile(), set_profile_result::saved);
+    }
+
+    scripted_prompts person;
+    profile_module profile{state, person};
+};
+
+TEST_F(FieldChanges, RenameAreaAndSoilReachEveryTableOfAllLinkedYears) {
+    open_chain({{"Low", "4.0", "Sands"}, {"High", "3", "Sands"}, {"Far", "2", "Sands"}});
+    profile.enter_name(0, "Lower");
+    profile.enter_area(1, 1, field_column::area, "3.5");
+    profile.enter_soil(0, 0, "Peaty soils");
+    profile.enter_area(0, 0, field_column::area, "4");      // as a number it is what it was
+    profile.enter_area(2, 2, field_column::kel_area, "1");  // the zone area alone clears nothing
+    person.expect(messages::areas_changed);
+    set_profile();
+    for (const std::string& file : chain()) {
+        EXPECT_EQ(column_of(file, "Field Data", "Field Name"), (texts{"Lower", "High", "Far"})) << file;
+        for (const auto& [table, soil] : module_tables) {
+            EXPECT_EQ(column_of(file, table, "Field Area ID"), (texts{"Lower", "High", "Far"}))
+                << file << table;
+            if (soil) {
+                EXPECT_EQ(column_of(file, table, soil), (texts{"Peaty soils", "Sands", "Sands"}))
+                    << file << table;
+            }
+        }
+        EXPECT_EQ(land_of(file, "Lower"), "Peaty soils,4.0,1,,Grass / Other,Closed,,20,");
+        EXPECT_EQ(land_of(file, "High"), "Sands,3.5,0,0,,0,0,20,");
+        EXPECT_EQ(land_of(file, "Far"), "Sands,2,1,,Grass / Other,Closed,,20,");
+    }
+    // The years before keep their own areas, soils and year.
+    EXPECT_EQ(column_of(state.slot_prev1, "Field Data", "Size"), (texts{"4.0", "3", "2"}));
+    EXPECT_EQ(column_of(state.slot_prev2, "Field Data", "Soil"), (texts{"Sands", "Sands", "Sands"}));
+    EXPECT_EQ(column_of(state.slot_prev1, "Type", "Year"), texts{"2023-12-19"});
+}
+
+TEST_F(FieldChanges, ASecondRenameWithoutReloadFindsNothing) {
+    open_chain({{"Low", "4"}});
+    profile.enter_name(0, "Lower");
+    set_profile();
+    profile.enter_name(0, "Lowest");
+    set_profile();
+    EXPECT_EQ(column_of(state.slot_current, "Field Data", "Field Name"), texts{"Lowest"});
+    EXPECT_EQ(column_of(state.slot_prev1, "Field Data", "Field Name"), texts{"Lower"});
+    EXPECT_EQ(column_of(state.slot_current, "Crops", "Field Area ID"), texts{"Lower"});
+    profile.load_profile();
+    EXPECT_EQ(profile.fields().cell(0, field_column::stored_name), "Lowest");
+}
+
+// Rows are renamed one field after the other, so the first of two swapped names takes the second one's rows
+// along.
+TEST_F(FieldChanges, SwappedNamesEndInOne) {
+    open_chain({{"Low", "4"}, {"High", "4"}});
+    profile.enter_name(0, "between");
+    profile.enter_name(1, "Low");
+    profile.enter_name(0, "High");
+    set_profile();
+    EXPECT_EQ(column_of(state.slot_current, "Field Data", "Field Name"), (texts{"High", "Low"}));
+    EXPECT_EQ(column_of(state.slot_prev1, "Field Data", "Field Name"), (texts{"Low", "Low"}));
+    EXPECT_EQ(column_of(state.slot_current, "Straw", "Field Area ID"), (texts{"Low", "Low"}));
+}
+
+TEST_F(FieldChanges, OnlyTheSlotsAreCarriedIntoAndOneFileMayStandInTwo) {
+    open_chain({{"Low", "4"}});
+    std::filesystem::create_directory(path("sub"));
+    state.slot_prev2 = path("sub/../prev1.kel");
+    const std::string copy = path("copy.kel");
+    std::filesystem::copy_file(state.assess_file, copy);
+    state.assess_file = copy;  // as after Save As: the slots still name the file before
+    profile.enter_name(0, "Lower");
+    set_profile();
+    EXPECT_EQ(column_of(copy, "Field Data", "Field Name"), texts{"Lower"});
+    EXPECT_EQ(column_of(copy, "Crops", "Field Area ID"), texts{"Low"});
+    for (const std::string& file : {state.slot_current, state.slot_prev1}) {
+        EXPECT_EQ(column_of(file, "Field Data", "Field Name"), texts{"Lower"});
+        EXPECT_EQ(column_of(file, "Crops", "Field Area ID"), texts{"Lower"});
+    }
+}
+
+TEST_F(FieldChanges, ABrokenLinkedFileKeepsTheOldRowsEverywhere) {
+    open_chain({{"Low", "4"}});
+    const std::string first = file_text(state.slot_current);
+    const std::string second = file_text(state.slot_prev1);
+    profile.enter_name(0, "Lower");
+    profile.set_name("Renamed");
+    const std::string half_a_file = file_text(state.slot_prev2).substr(0, 20'000);
+    for (const std::string& content : {std::string("no database"), half_a_file, std::string{}}) {
+        write_file(state.slot_prev2, content);
+        try {
+            set_profile();
+            ADD_FAILURE() << "nothing was thrown";
+        } catch (const file_error& e) {
+            EXPECT_EQ(e.file(), state.slot_prev2);
+        }
+        EXPECT_EQ(file_text(state.slot_current), first);
+        EXPECT_EQ(file_text(state.slot_prev1), second);
+    }
+    std::filesystem::remove(state.slot_prev2);
+    EXPECT_THROW(set_profile(), file_error);
+    EXPECT_EQ(file_text(state.slot_current), first);
+    EXPECT_EQ(profile.fields().cell(0, 0), "Lower");  // nothing typed is lost
+}
+
+class KilledSave : public FieldChanges {
+  protected:
+    static constexpr int fields = 1500;
+    static constexpr std::pair<const char*, const char*> name_columns[] = {{"Field Data", "Field Name"},
+                                                                           {"Crops", "Field Area ID"}};
+
+    void make_masters() {
+        open_chain({});
+        for (const std::string& file : chain()) {
+            const database db(file);
+            save_transaction all_rows(db);
+            for (int i = 0; i < fields; ++i)
+                for (const auto& [table, column] : name_columns) {
+                    recordset rows = db.open(table);
+                    rows.add_new();
+                    rows.set(column, "old " + std::to_string(i));
+                    rows.update();
+                }
+            all_rows.commit();
+            std::filesystem::copy_file(file, file + ".master");
+        }
+        for (int i = 0; i < fields; ++i) {
+            grid.set_cell(grid.add_row(), field_column::name, "new " + std::to_string(i));
+            grid.set_cell(i, field_column::stored_name, "old " + std::to_string(i));
+        }
+    }
+    void restore_masters() {
+        for (const std::string& file : chain())
+            std::filesystem::copy_file(file + ".master", file,
+                                       std::filesystem::copy_options::overwrite_existing);
+    }
+    void save() { save_prof(state.assess_file, profile.farm(), grid, state); }
+    /// Saves in a process of its own, which is killed after the time given.
+    void save_and_kill(chrono_clock::duration after) {
+        const pid_t child = fork();
+        if (child == 0) {
+            save();
+            _exit(0);
+        }
+        usleep(static_cast<useconds_t>(std::chrono::duration_cast<std::chrono::microseconds>(after).count()));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+    }
+    /// "old" or "new" of each of the six lists of names, which must not be mixed within any of them.
+    texts generations() {
+        texts found;
+        for (const std::string& file : chain())
+            for (const auto& [table, column] : name_columns) {
+                const texts names = column_of(file, table, column);
+                std::string generation = names.empty() ? "none" : names.front().substr(0, 3);
+                for (std::size_t i = 0; i < names.size(); ++i)
+                    if (names[i] != generation + " " + std::to_string(i)) generation = "mixed";
+                found.push_back(names.size() == fields ? generation : "cut");
+            }
+        return found;
+    }
+
+    text_grid grid{field_columns};
+};
+
+TEST_F(KilledSave, LeavesAllThreeYearsOldOrAllNew) {
+    make_masters();
+    const auto start = chrono_clock::now();
+    save();
+    const auto whole = chrono_clock::now() - start;
+    EXPECT_EQ(generations(), texts(6, "new"));
+    constexpr int kills = 12;
+    for (int i = 1; i <= kills; ++i) {
+        restore_masters();
+        save_and_kill(whole * i / kills);
+        const texts after = generations();
+        EXPECT_EQ(after, texts(6, after.front())) << i;
+        EXPECT_TRUE(after.front() == "old" || after.front() == "new") << after.front();
+    }
+}
+
+}  // namespace
+}  // namespace kel::test

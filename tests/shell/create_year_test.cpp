@@ -1,0 +1,133 @@
+// Creating a new assessment year: what it asks, how the chain moves, and what each file holds afterwards.
+#include "shell/assessments_messages.h"
+#include "shell/years_messages.h"
+#include "shell/years_module.h"
+#include "tests/shell/shell_fixture.h"
+
+namespace kel::test {
+
+namespace text = years_messages;
+
+class CreateYear : public shell_test {
+  protected:
+    void SetUp() override {
+        open_farm({{"Long", "4"}}, 2024);
+        state.slot_prev1 = state.prev1_file = y2;
+        for (const std::string& file : {y3, y2})
+            for (const char* table :
+                 {"Crops", "Inorganic N", "Manure_applic", "Site", "Land", "Recommendations", "Straw"})
+                add_row(file, table, {{"Field Area ID", "Long"}});
+        write_store(state);
+        profile.load_profile();
+        years.open();
+        ASSERT_TRUE(years.open_create());
+    }
+    bool create(const std::string& file) {
+        choose(file);
+        return years.create();
+    }
+    void choose(const std::string& file) {
+        person.expect_file("Save Farm Assessment As...", file);
+        years.browse_new_file();
+    }
+    /// The chain in memory, in the store and in the dialog, and the year's file: this year's rows gone, the
+    /// others kept.
+    void expect_new_year(const texts& chain, const std::string& year) {
+        EXPECT_EQ(working(), chain);
+        EXPECT_EQ(slots(), chain);
+        std::string store = "0\n0\n1\n";
+        for (const std::string& file : chain)
+            store += (file.empty() ? "none" : file) + "\n";
+        EXPECT_EQ(settings(), store);
+        EXPECT_EQ(years.rows()[0].year_text, year);
+        EXPECT_EQ(profile.farm().year, year);
+        EXPECT_FALSE(years.creating());
+        for (const char* table : {"Crops", "Inorganic N", "Manure_applic", "Site"})
+            EXPECT_EQ(column_of(chain[0], table, "Field Area ID"), texts{}) << table;
+        for (const char* table : {"Land", "Recommendations", "Straw"})
+            EXPECT_EQ(column_of(chain[0], table, "Field Area ID"), texts{"Long"}) << table;
+    }
+
+    const std::string y3 = path("farm.kel");
+    const std::string y2 = make_farm("y2.kel", {{"Haugh", "2"}}, 2023);
+    years_module years{state, person, profile, [](picker_module) {}};
+};
+
+TEST_F(CreateYear, ProposedYearLinksToTheOldFile) {
+    EXPECT_EQ(years.new_date_text(), "19/12/2025");
+    const std::string old_bytes = file_text(y3);
+    EXPECT_TRUE(create(path("User_files/y4")));
+    expect_new_year({path("User_files/y4.kel"), y3, y2}, "19/12/2025");
+    EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2025));
+    EXPECT_EQ(file_text(y3), old_bytes);
+}
+
+TEST_F(CreateYear, AnotherYearEmptiesBothLinks) {
+    for (const char* year : {"19/12/2026", "19/12/2024", "19/12/2023"}) {
+        state.slot_current = y3;
+        state.slot_prev1 = y2;
+        ASSERT_TRUE(years.open_create());
+        years.change_date(year);
+        EXPECT_TRUE(create(path("far.kel")));
+        expect_new_year({path("far.kel"), "", ""}, year);
+    }
+}
+
+TEST_F(CreateYear, WritingOverTheCurrentFileGoesOnInIt) {
+    choose(path("User_files/../farm.kel"));
+    person.expect(text::new_file_is_linked, answer::no);
+    EXPECT_FALSE(years.create());
+    EXPECT_TRUE(years.creating());
+    EXPECT_EQ(column_of(y3, "Crops", "Field Area ID"), texts{"Long"});
+    choose(y3);
+    person.expect(text::new_file_is_linked, answer::yes);
+    EXPECT_TRUE(years.create());
+    expect_new_year({y3, "", ""}, "19/12/2025");
+}
+
+// The file of the year before becomes the one worked on as it stands; nothing is copied into it.
+TEST_F(CreateYear, WritingOverTheLinkedFileKeepsItsOwnFields) {
+    choose(y2);
+    person.expect(text::new_file_is_linked, answer::yes);
+    EXPECT_TRUE(years.create());
+    expect_new_year({y2, "", ""}, "19/12/2025");
+    EXPECT_EQ(profile.fields().cell(0, 0), "Haugh");
+    EXPECT_EQ(column_of(y3, "Type", "Year"), texts{"2024-12-19"});
+    EXPECT_EQ(column_of(y3, "Crops", "Field Area ID"), texts{"Long"});
+}
+
+TEST_F(CreateYear, NeedsACurrentFileAndANewOneAndOpensFreshEachTime) {
+    person.expect(text::no_new_file);
+    EXPECT_FALSE(years.create());
+    years.change_date("19/12/2030");
+    choose(path("y4.kel"));
+    choose("");
+    EXPECT_EQ(years.new_path(), path("y4.kel"));
+    ASSERT_TRUE(years.open_create());
+    EXPECT_EQ(years.new_date_text(), "19/12/2025");
+    EXPECT_EQ(years.new_path(), "");
+    state.slot_current.clear();
+    person.expect(text::no_current_file);
+    EXPECT_FALSE(years.open_create());
+}
+
+// After a failure behind the copy the chain in memory has moved, the store has not, and Cancel goes back to
+// it.
+TEST_F(CreateYear, FailureTellsSaveErrorAndCancelGoesBack) {
+    const std::string before = settings();
+    choose(path("no_such_folder/y4.kel"));
+    person.expect(assessments_messages::save_error);
+    EXPECT_FALSE(years.create());
+    EXPECT_EQ(working(), (texts{y3, y2, ""}));
+    choose(make_damaged("y2.kel"));
+    person.expect(text::new_file_is_linked, answer::yes).expect(assessments_messages::save_error);
+    EXPECT_FALSE(years.create());
+    EXPECT_EQ(state.assess_file, y2);
+    EXPECT_EQ(settings(), before);
+    years.cancel();
+    EXPECT_EQ(state.assess_file, y3);
+    EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2024));
+    EXPECT_EQ(column_of(y3, "Crops", "Field Area ID"), texts{"Long"});
+}
+
+}  // namespace kel::test

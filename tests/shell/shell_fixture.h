@@ -1,0 +1,57 @@
+// A farm with the shell's modules around it; what the screens were told is kept in order as short texts.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/assessment_files.h"
+#include "core/settings_store.h"
+#include "profile/profile_module.h"
+#include "reports/report_viewer.h"
+#include "shell/screens.h"
+#include "tests/support/farm_files.h"
+#include "tests/support/scripted_prompts.h"
+
+namespace kel::test {
+
+using texts = std::vector<std::string>;
+
+struct recording_screens : screens, report_viewer {
+    void open(std::string_view tag) override { events.push_back("open " + std::string(tag)); }
+    bool exists(std::string_view) const override { return true; }
+    bool start_updater(const std::string&) override { return events.emplace_back("start"), updater_starts; }
+    void end() override { events.emplace_back("end"); }
+    void wait_cursor(bool on) override { events.emplace_back(on ? "wait" : "ready"); }
+    void hide_screen(std::string_view tag) override { events.push_back("hide " + std::string(tag)); }
+    void show(const viewer_request& request) override { events.emplace_back("show"), shown = request; }
+
+    texts events;
+    viewer_request shown;
+    bool updater_starts = true;
+};
+
+class shell_test : public farm_test {
+  protected:
+    static void change(const std::string& file, const char* table, const char* column,
+                       const std::string& text) {
+        recordset row = database(file).open(table);
+        row.edit();
+        row.set(column, text);
+        row.update();
+    }
+    /// A file that is no assessment at all.
+    std::string make_damaged(const std::string& name) {
+        write_file(path(name), "no database, but long enough to be taken for one");
+        return path(name);
+    }
+    std::string settings() const { return file_text(state.places.settings_store()); }
+    texts working() const { return {state.assess_file, state.prev1_file, state.prev2_file}; }
+    texts slots() const { return {state.slot_current, state.slot_prev1, state.slot_prev2}; }
+
+    scripted_prompts person;
+    recording_screens shown;
+    profile_module profile{state, person};
+    report_desk desk{state, shown, [] { return make_date(15, 11, 2026); }, "the developer"};
+};
+
+}  // namespace kel::test

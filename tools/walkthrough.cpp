@@ -1,0 +1,224 @@
+// Works the sample farm through the real screens, as a person would, and leaves a picture of every screen and every report
+// in a folder: a demonstration without a display, the source of the guides' pictures, and a look at what was built.
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTest>
+#include <cstdio>
+#include <deque>
+#include <filesystem>
+#include <fstream>
+
+#include "core/assessment_files.h"
+#include "tools/screen_driver.h"
+#include "ui/grid_view.h"
+#include "ui/kel_application.h"
+#include "ui/map_view.h"
+#include "ui/program.h"
+#include "ui/qt_text.h"
+#include "ui/today.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace kel;
+
+// Answers every box and writes down what was said. File dialogs take the next path laid ready.
+class walking_person : public prompts {
+  public:
+    explicit walking_person(const std::string& log) : log_(log) {}
+
+    answer ask(const message& box) override {
+        log_ << "[" << box.title << "] " << box.text << "\n\n";
+        return box.buttons == message_buttons::ok ? answer::ok : answer::yes;
+    }
+    std::string file_to_open(const file_request&) override { return next(); }
+    std::string file_to_save(const file_request&) override { return next(); }
+    void lay_ready(std::string path) { paths_.push_back(std::move(path)); }
+
+  private:
+    std::string next() {
+        if (paths_.empty()) return {};
+        std::string path = paths_.front();
+        paths_.pop_front();
+        return path;
+    }
+    std::ofstream log_;
+    std::deque<std::string> paths_;
+};
+
+class walk {
+  public:
+    walk(const std::string& folder, walking_person& person, const installation& places)
+        : folder_(folder), person_(person), program_(places, person, today) {}
+
+    void all();
+
+  private:
+    QWidget* screen(const char* tag) { return program_.screen(tag); }
+    void picture(const char* tag, const std::string& name);
+    void new_farm();
+    void choose_place();
+    void open_sample();
+    void step1();
+    void reports();
+    void help();
+
+    std::string folder_;
+    walking_person& person_;
+    program program_;
+};
+
+void walk::picture(const char* tag, const std::string& name) {
+    drive::settle();
+    QWidget* shown = screen(tag);
+    if (!shown || !shown->isVisible()) throw std::runtime_error(std::string(tag) + " is not in view");
+    const std::string file = name + ".png";
+    if (!shown->grab().save(qt(folder_ + "/" + file))) throw std::runtime_error("cannot write " + file);
+    std::printf("%s\n", file.c_str());
+}
+
+void walk::choose_place() {
+    drive::key(drive::control(screen("profile"), "txtLocation"), Qt::Key_A);
+    auto* map = drive::control(screen("location"), "Picture1");
+    map->setFocus();
+    const auto steps = [&](Qt::Key key, int count) {
+        for (int i = 0; i < count; ++i) drive::key(map, key);
+    };
+    steps(Qt::Key_Right, 6);
+    steps(Qt::Key_Down, 5);
+    drive::key(map, Qt::Key_Return);
+    drive::choose_in_list(screen("location"), "lstScotland_town", "Kirriemuir");
+    picture("location", "first_farm_3");
+    drive::press(screen("location"), "cmdScotland_enter");
+}
+
+void walk::new_farm() {
+    drive::press(screen("front"), "cmdFront_new");
+    picture("profile", "first_farm_2");
+    QWidget* profile = screen("profile");
+    drive::type(profile, "txtName", "Nether Tullifern");
+    drive::type(profile, "txtArea", "40");
+    drive::control<QComboBox>(profile, "cboAssess_year")->setCurrentText("19/12/2024");
+    drive::type(profile, "Text1", "12");
+    drive::press(profile, "Command1");
+    choose_place();
+    auto* fields = drive::control<grid_view>(profile, "MSFlexGridFields");
+    for (int row = 0; row < 12; ++row)
+        drive::enter_number(profile, fields, row, 1, "Profile_farea", QString::number(2.5 + 0.25 * (row % 4)));
+    const auto soils = [&](int first, int last, const char* soil) {
+        drive::draw_range(fields, first, last, 3);
+        if (first == 4) picture("profile", "profile_soil_box");
+        drive::choose_in_list(profile, "lstProfile_soil", soil);
+        drive::press(profile, "cmdProfile_soil_enter");
+    };
+    soils(0, 3, "Sandy loams");
+    soils(4, 8, "Other mineral soils");
+    soils(9, 11, "Humose soils");
+    picture("profile", "first_farm_4");
+    drive::press(profile, "cmdReport");
+    picture("viewer", "report_farm_profile");
+    drive::press(screen("viewer"), "Command1");
+    person_.lay_ready(folder_ + "/User_files/Nether Tullifern.kel");
+    drive::press(profile, "cmdProfile_set");
+}
+
+void walk::open_sample() {
+    drive::press(screen("front"), "cmdFront_open");
+    for (const auto& file : fs::directory_iterator(folder_ + "/User_files"))
+        if (file.path().filename().string().starts_with("Mains")) person_.lay_ready(file.path().string());
+    drive::press(screen("years"), "cmdYear_browse1");
+    picture("years", "years_dialog");
+    drive::press(screen("years"), "cmdYear_new");
+    picture("years", "years_create");
+    drive::press(screen("years"), "cmdYear_create_cancel");
+    drive::press(screen("years"), "cmdYear_ok");
+    picture("front", "first_farm_1");
+}
+
+void walk::step1() {
+    drive::press(screen("front"), "cmdFront_land");
+    picture("land", "first_farm_5");
+    QWidget* land = screen("land");
+    auto* grid = drive::control<grid_view>(land, "MSFlexGridLand");
+    drive::click_cell(grid, 2, 3);
+    picture("land", "land_deduction_box");
+    drive::key(drive::control(land, "txtLand_deduct"), Qt::Key_Escape);
+    drive::control<QTabWidget>(land, "SSTabLand")->setCurrentIndex(1);
+    picture("land", "first_farm_6");
+    auto* animals = drive::control<grid_view>(land, "MSFlexGridLand_animals");
+    drive::click_cell(animals, animals->model()->rowCount() - 1, 0);
+    picture("land", "land_stock_box");
+    drive::key(drive::control(land, "lstLand_animal"), Qt::Key_Escape);
+    drive::press(land, "cmdLand_continue2");
+    picture("land", "first_farm_7");
+    drive::press(land, "cmdReport");
+    picture("viewer", "first_farm_8");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(land, "cmdLand_back");
+    drive::press(land, "cmdLand_save2");
+    drive::press(land, "cmdLand_cancel2");
+}
+
+void walk::reports() {
+    drive::press(screen("front"), "cmdFront_edit");
+    drive::press(screen("profile"), "cmdReport");
+    picture("viewer", "report_farm_profile_sample");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(screen("profile"), "cmdProfile_cancel");
+    drive::press(screen("front"), "cmdFront_reports");
+    picture("viewer", "first_farm_9");
+    drive::press(screen("viewer"), "Command1");
+}
+
+void walk::help() {
+    drive::press(screen("front"), "cmdFront_whats_this");
+    picture("viewer", "help_intro");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(screen("front"), "cmdFront_show_me");
+    picture("viewer", "guides");
+    drive::press(screen("viewer"), "Command1");
+    program_.open("splash");
+    picture("splash", "about_box");
+    screen("splash")->close();
+}
+
+void walk::all() {
+    program_.start();
+    drive::settle();
+    picture("front", "front_nothing_open");
+    new_farm();
+    open_sample();
+    step1();
+    reports();
+    help();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    kel_application application(argc, argv);
+    if (argc != 2) {
+        std::fputs("usage: kel_walkthrough FOLDER\n", stderr);
+        return 2;
+    }
+    try {
+        const std::string folder = fs::absolute(argv[1]).string();
+        fs::create_directories(folder);
+        const std::string stage = KEL_STAGE_DIR;
+        const installation places{stage + "/kel_calc", stage, folder};
+        prepare_written_folder(places);
+        walking_person person(folder + "/messages.txt");
+        application.set_prompts(&person);
+        walk(folder, person, places).all();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "the walkthrough stopped: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}

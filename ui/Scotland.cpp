@@ -1,0 +1,167 @@
+#include "ui/Scotland.h"
+
+#include <QAction>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "profile/profile_messages.h"
+#include "ui/map_view.h"
+#include "ui/qt_text.h"
+
+namespace kel {
+
+namespace {
+
+QLabel* value_label(const char* name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    label->setMinimumWidth(210);
+    return label;
+}
+
+QString place_text(const map_place& place) {
+    QString text = qt(place.location);
+    if (place.grid_number) text += QString("  (%1)").arg(*place.grid_number);
+    return text;
+}
+
+}  // namespace
+
+Scotland::Scotland(application_state& state, prompts& person, profile_module& profile)
+    : module_(state, person, profile) {
+    setObjectName("Scotland");
+    setWindowTitle(tr("Scotland: Soil, Environmental Risk Potentials and Climate Database"));
+    map_ = new map_view(module_.zone_squares(), this);
+    auto* centre = new QWidget(this);
+    auto* layout = new QHBoxLayout(centre);
+    layout->setSpacing(16);
+    layout->addWidget(map_, 1);
+    layout->addWidget(side_panel());
+    setCentralWidget(centre);
+    add_menu();
+    connect(map_, &map_view::pointer_moved, this, [this](int x, int y) {
+        module_.pointer_move(static_cast<float>(x), static_cast<float>(y));
+        refresh_pointer();
+    });
+    connect(map_, &map_view::map_clicked, this, &Scotland::click_map);
+    connect(map_, &map_view::square_confirmed, this, &Scotland::click_map);
+    connect(map_, &map_view::square_stepped, this, [this](int dx, int dy) {
+        module_.arrow_move(dx, dy);
+        map_->mark_square(module_.square());
+        refresh_pointer();
+    });
+    refresh_pointer();
+    refresh_place();
+    map_->setFocus();
+}
+
+QWidget* Scotland::side_panel() {
+    auto* panel = new QWidget(this);
+    panel->setFixedWidth(330);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* hint = new QLabel(tr("Click on the map where the farm lies, or move the square with the arrow keys and "
+                               "press Enter. Then choose the nearest town."),
+                            panel);
+    hint->setWordWrap(true);
+    column->addWidget(hint);
+
+    auto* under = new QGroupBox(tr("Under the pointer"), panel);
+    auto* under_form = new QFormLayout(under);
+    pointer_ = value_label("lblScotland_pointer", under);
+    under_form->addRow(tr("Location:"), pointer_);
+    column->addWidget(under);
+
+    auto* chosen = new QGroupBox(tr("Chosen"), panel);
+    auto* form = new QFormLayout(chosen);
+    location_ = value_label("lblScotland_location", chosen);
+    number_ = value_label("lblScotland_gridnumber", chosen);
+    zone_ = value_label("lblScotland_kel", chosen);
+    form->addRow(tr("Location:"), location_);
+    form->addRow(tr("Grid number:"), number_);
+    form->addRow(tr("KEL:"), zone_);
+    column->addWidget(chosen);
+
+    town_prompt_ = new QLabel("\u2192 " + qt(profile_messages::town_prompt), panel);
+    town_prompt_->setObjectName("lblScotland_town");
+    town_prompt_->setWordWrap(true);
+    towns_ = new QListWidget(panel);
+    towns_->setObjectName("lstScotland_town");
+    towns_->setAccessibleName(tr("Towns"));
+    connect(towns_, &QListWidget::currentTextChanged, this,
+            [this](const QString& town) { module_.select_town(from_qt(town)); });
+    connect(towns_, &QListWidget::itemActivated, this, &Scotland::enter);
+    column->addWidget(town_prompt_);
+    column->addWidget(towns_, 1);
+    column->addStretch();
+
+    auto* buttons = new QHBoxLayout;
+    auto* enter_button = new QPushButton(tr("E&nter"), panel);
+    enter_button->setObjectName("cmdScotland_enter");
+    auto* cancel_button = new QPushButton(tr("&Cancel"), panel);
+    cancel_button->setObjectName("cmdScotland_cancel");
+    buttons->addStretch();
+    buttons->addWidget(enter_button);
+    buttons->addWidget(cancel_button);
+    column->addLayout(buttons);
+    connect(enter_button, &QPushButton::clicked, this, &Scotland::enter);
+    connect(cancel_button, &QPushButton::clicked, this, &QWidget::close);
+    return panel;
+}
+
+void Scotland::add_menu() {
+    QAction* grid = menuBar()->addMenu(tr("&Map"))->addAction(tr("&Grid On/Off"));
+    grid->setObjectName("mnuScotland_grid");
+    grid->setCheckable(true);
+    grid->setChecked(true);
+    connect(grid, &QAction::toggled, map_, &map_view::show_grid);
+}
+
+void Scotland::click_map() {
+    module_.click();
+    map_->mark_square(module_.marker_visible() ? std::optional(module_.marker()) : std::nullopt);
+    refresh_place();
+}
+
+void Scotland::refresh_pointer() {
+    const map_square square = module_.square();
+    pointer_->setText(tr("%1\nsquare %2, %3").arg(place_text(module_.pointer_place())).arg(square.x).arg(square.y));
+    map_->setCursor(module_.custom_pointer() ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
+void Scotland::refresh_place() {
+    location_->setText(qt(module_.place().location));
+    const auto number = module_.place().grid_number;
+    number_->setText(number ? QString::number(*number) : QString());
+    zone_->setText(qt(module_.zone()));
+    town_prompt_->setVisible(module_.towns_visible());
+    towns_->setVisible(module_.towns_visible());
+    towns_->clear();
+    for (const std::string& town : module_.towns()) towns_->addItem(qt(town));
+    towns_->setCurrentItem(nullptr);
+}
+
+void Scotland::enter() {
+    if (module_.enter()) close();
+}
+
+void Scotland::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) close();
+    QMainWindow::keyPressEvent(event);
+}
+
+void Scotland::closeEvent(QCloseEvent* event) {
+    QMainWindow::closeEvent(event);
+    emit closed();
+}
+
+}  // namespace kel

@@ -1,0 +1,81 @@
+// The entry box frame that all modules share. It stands over the grid beside the chosen cell, locks the grid
+// and disables the module's main buttons until it closes. Enter confirms, Esc cancels; focus returns to the
+// cell.
+#pragma once
+
+#include <QFrame>
+#include <QPointer>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QAbstractButton;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace kel {
+
+class grid_view;
+
+/// A line edit that takes digits, backspace and one decimal point.
+QLineEdit* new_number_box(const QString& name, QWidget* parent);
+/// A line edit that takes digits and backspace only.
+QLineEdit* new_whole_number_box(const QString& name, QWidget* parent);
+
+class entry_box : public QFrame {
+    Q_OBJECT
+
+  public:
+    /// `name` is the part of the object names behind fra, cmd, txt and lst, as in fraLand_area.
+    entry_box(const QString& name, grid_view& grid, QWidget* parent);
+
+    /// Controls that stay disabled while the box is open.
+    void set_disabled_meanwhile(std::vector<QWidget*> controls) { disabled_meanwhile_ = std::move(controls); }
+
+    QLineEdit* use_number_box();
+    QLineEdit* use_text_box();
+    QListWidget* use_list(const QStringList& items);
+
+    using operation = std::function<bool()>;  // true: the box closes
+    void on_enter(operation enter) { enter_ = std::move(enter); }
+    QPushButton* add_clear(operation clear);
+    QPushButton* add_erase(operation erase);
+
+    /// Opens over the cell with this caption, instruction and the cell's text in the editor.
+    void open(const QString& caption, const QString& instruction, const QString& text);
+    void close_box();
+
+    std::string entered_text() const;
+    /// The list entry chosen; nothing if none is.
+    std::optional<std::string> chosen() const;
+
+  signals:
+    void closed();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    QPushButton* add_button(const QString& caption, const QString& suffix, operation action);
+    void run(const operation& action);
+    void place_beside_cell();
+    QString name_;
+    grid_view& grid_;
+    QLabel* caption_;
+    QLabel* instruction_;
+    QGridLayout* layout_;
+    QLineEdit* line_ = nullptr;
+    QListWidget* list_ = nullptr;
+    QPushButton* enter_button_;
+    QPushButton* cancel_button_;
+    operation enter_;
+    std::vector<QWidget*> disabled_meanwhile_;
+    int buttons_ = 0;
+};
+
+}  // namespace kel

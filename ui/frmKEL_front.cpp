@@ -1,0 +1,201 @@
+#include "ui/frmKEL_front.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QIcon>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "ui/qt_text.h"
+
+namespace kel {
+
+namespace {
+
+using front = assessments_module;
+
+// One command of the screen: its button, its menu entry or both; `needs` is the screen it opens, without which the command
+// is shown disabled.
+struct command {
+    const char* name;
+    const char* button;
+    const char* menu;
+    const char* entry;
+    const char* needs;
+    const char* tip;
+    void (front::*action)();
+};
+
+constexpr const char* open_tip = "Open assessments and/or select a year";
+constexpr const char* reports_tip =
+    "View the last reports generated (note may not relate to current farm if last report was produced for "
+    "another farm)";
+
+// clang-format off
+constexpr std::array<command, 19> commands{{
+    // name        button caption                                          menu            menu entry                                    needs        tool tip     action
+    {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                nullptr,     nullptr,     &front::new_farm},
+    {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      "years",     open_tip,    &front::open_assessments},
+    {"edit",       "&Edit Farm Profile",                                   "&File",        "&Edit/View Farm Profile",                    nullptr,     nullptr,     &front::edit_profile},
+    {"save_as",    nullptr,                                                "&File",        "&Save Farm Assessment As...",                nullptr,     nullptr,     &front::save_as},
+    {"exit",       "E&xit",                                                "&File",        "E&xit",                                      nullptr,     nullptr,     &front::exit},
+    {"land",       "Step &1. Land available for spreading?",               "&Assessments", "&Land available for spreading?",             "land",      nullptr,     &front::step1},
+    {"storage",    "Step &2. Enough slurry storage && closed periods?",    "&Assessments", "Enough &slurry storage && closed periods?",  "storage",   nullptr,     &front::step2},
+    {"manure",     "Step &3. Slurry && manure applications?",              "&Assessments", "Slurry && &manure applications?",            "reduction", nullptr,     &front::step3},
+    {"inorganic",  "Step &4. Inorganic N applications",                    "&Assessments", "&Inorganic N applications",                  "inorg",     nullptr,     &front::step4},
+    {"crops",      "Nitrogen Requirement of &Crops",                       "&Assessments", "&Crops: assessment of N requirement",        "crop",      nullptr,     &front::crops},
+    {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    "grass",     nullptr,     &front::grassland},
+    {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", "straw",     nullptr,     &front::composting},
+    {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              "record",    nullptr,     &front::field_record},
+    {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   nullptr,     nullptr,     &front::show_me},
+    {"guidelines", nullptr,                                                "&Help",        "KEL &guidelines",                            nullptr,     nullptr,     &front::guidelines},
+    {"update",     nullptr,                                                "&Help",        "Update facility",                            nullptr,     nullptr,     &front::update},
+    {"about",      nullptr,                                                "&Help",        "About this software",                        nullptr,     nullptr,     &front::about},
+    {"whats_this", "&What's this?",                                        nullptr,        nullptr,                                      nullptr,     nullptr,     &front::whats_this},
+    {"reports",    "View Re&ports",                                        nullptr,        nullptr,                                      nullptr,     reports_tip, &front::view_reports},
+}};
+// clang-format on
+
+struct button_group {
+    const char* title;
+    std::array<const char*, 5> names;
+};
+
+constexpr std::array<button_group, 4> groups{
+    {{"Farm", {"new", "open", "edit"}},
+     {"Assessments", {"land", "storage", "manure", "inorganic"}},
+     {"Nitrogen requirement and records", {"crops", "grassland", "composting", "record"}},
+     {"Reports and help", {"reports", "show_me", "whats_this", "exit"}}}};
+
+constexpr int picture_px = 64;
+constexpr int button_height_px = 40;
+
+}  // namespace
+
+frmKEL_front::frmKEL_front(assessments_module& module, const application_state& state, const screens& built)
+    : module_(module), state_(state), built_(built) {
+    setObjectName("frmKEL_front");
+    add_menus();
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(18, 14, 18, 18);
+    layout->setSpacing(14);
+    layout->addWidget(header());
+    layout->addWidget(buttons(), 1);
+    setCentralWidget(centre);
+    refresh();
+}
+
+QWidget* frmKEL_front::header() {
+    auto* panel = new QWidget(this);
+    auto* layout = new QHBoxLayout(panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(16);
+    auto* picture = new QLabel(panel);
+    picture->setPixmap(windowIcon().pixmap(picture_px, picture_px));
+    layout->addWidget(picture);
+    auto* texts = new QVBoxLayout;
+    farm_ = new QLabel(panel);
+    farm_->setObjectName("lblFront_farm");
+    farm_->setTextFormat(Qt::PlainText);
+    QFont large = farm_->font();
+    large.setPointSize(large.pointSize() + 4);
+    large.setBold(true);
+    farm_->setFont(large);
+    file_ = new QLabel(panel);
+    file_->setObjectName("lblFront_file");
+    file_->setTextFormat(Qt::PlainText);
+    file_->setWordWrap(true);
+    texts->addStretch();
+    texts->addWidget(farm_);
+    texts->addWidget(file_);
+    texts->addStretch();
+    layout->addLayout(texts, 1);
+    return panel;
+}
+
+QPushButton* frmKEL_front::button(const char* name) {
+    const auto& c = *std::find_if(commands.begin(), commands.end(),
+                                  [&](const command& x) { return std::string_view(x.name) == name; });
+    auto* made = new QPushButton(tr(c.button), this);
+    made->setObjectName(QString("cmdFront_") + c.name);
+    made->setMinimumHeight(button_height_px);
+    const bool built = !c.needs || built_.exists(c.needs);
+    made->setEnabled(built);
+    made->setToolTip(built ? tr(c.tip ? c.tip : "") : tr("Not part of this version"));
+    connect(made, &QPushButton::clicked, this, [this, action = c.action] {
+        (module_.*action)();
+        refresh();
+    });
+    return made;
+}
+
+QWidget* frmKEL_front::buttons() {
+    auto* panel = new QWidget(this);
+    auto* layout = new QGridLayout(panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(14);
+    int place = 0;
+    for (const button_group& group : groups) {
+        auto* box = new QGroupBox(tr(group.title), panel);
+        auto* column = new QVBoxLayout(box);
+        column->setSpacing(8);
+        for (const char* name : group.names)
+            if (name) column->addWidget(button(name));
+        column->addStretch();
+        layout->addWidget(box, place / 2, place % 2);
+        ++place;
+    }
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    return panel;
+}
+
+void frmKEL_front::add_menus() {
+    QMenu* menu = nullptr;
+    for (const command& c : commands) {
+        if (!c.entry) continue;
+        if (!menu || menu->title() != c.menu) menu = menuBar()->addMenu(c.menu);
+        if (std::string_view(c.name) == "exit") menu->addSeparator();
+        QAction* action = menu->addAction(c.entry);
+        action->setObjectName(QString("mnuFront_") + c.name);
+        action->setEnabled(!c.needs || built_.exists(c.needs));
+        connect(action, &QAction::triggered, this, [this, act = c.action] {
+            (module_.*act)();
+            refresh();
+        });
+    }
+}
+
+void frmKEL_front::refresh() {
+    setWindowTitle(qt(module_.title()));
+    const bool open = !state_.assess_file.empty();
+    const QString farm = qt(state_.farm_name);
+    // A name of any length must not widen the window.
+    farm_->setText(open ? farm_->fontMetrics().elidedText(farm, Qt::ElideRight, 640) : tr("No assessment is open"));
+    farm_->setToolTip(open && farm.size() < 500 ? farm : QString());
+    QString told = tr("Create a new farm, or open an assessment.");
+    if (open) {
+        told = state_.kel_year_start ? tr("KEL year from %1   ").arg(qt(long_date_text(*state_.kel_year_start))) : "";
+        told += qt(state_.assess_file);
+    }
+    file_->setText(told);
+}
+
+void frmKEL_front::showEvent(QShowEvent* event) {
+    refresh();
+    QMainWindow::showEvent(event);
+}
+
+void frmKEL_front::closeEvent(QCloseEvent* event) {
+    // What follows, the store and the end of the process, is not the window's business.
+    event->ignore();
+    emit close_pressed();
+}
+
+}  // namespace kel

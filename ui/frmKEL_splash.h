@@ -1,0 +1,22 @@
+// The About box: version, licence and the bodies whose figures the program carries.
+#pragma once
+
+#include <QWidget>
+
+namespace kel {
+
+class frmKEL_splash : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit frmKEL_splash(QWidget* parent = nullptr);
+
+  signals:
+    /// A logo was pressed: its web page is to be shown.
+    void page_wanted(const QString& address);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace kel

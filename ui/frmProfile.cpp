@@ -1,0 +1,271 @@
+#include "ui/frmProfile.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "profile/profile_messages.h"
+#include "ui/entry_box.h"
+#include "ui/grid_view.h"
+#include "ui/qt_text.h"
+
+namespace kel {
+
+namespace {
+
+QLineEdit* named_edit(const char* name, QWidget* parent) {
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(name);
+    return edit;
+}
+
+void show_text(QLineEdit* edit, const std::string& text) {
+    if (edit->text() != qt(text)) edit->setText(qt(text));
+}
+
+}  // namespace
+
+frmProfile::frmProfile(profile_module& module, report_desk& desk, application_state& state)
+    : module_(module), desk_(desk), state_(state) {
+    setObjectName("frmProfile");
+    setWindowTitle(tr("Farm Profile"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(10);
+    layout->addWidget(farm_entries());
+    grid_ = new grid_view(module_.fields(), "MSFlexGridFields", this);
+    grid_->setAccessibleName(tr("Fields"));
+    layout->addWidget(field_entries());
+    layout->addWidget(grid_, 1);
+    layout->addWidget(main_buttons());
+    connect(grid_, &grid_view::cell_chosen, this, &frmProfile::open_box);
+    add_boxes();
+    refresh();
+}
+
+// The texts go to the module as they are typed, so that nothing on the screen can differ from what is saved.
+QWidget* frmProfile::farm_entries() {
+    auto* panel = new QWidget(this);
+    auto* columns = new QHBoxLayout(panel);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(24);
+    name_ = named_edit("txtName", panel);
+    location_ = named_edit("txtLocation", panel);
+    location_->setReadOnly(true);
+    location_->setPlaceholderText(tr("Click to choose the place on the map"));
+    location_->installEventFilter(this);
+    area_ = new_number_box("txtArea", panel);
+    kel_area_ = named_edit("Text2", panel);
+    auto* left = new QFormLayout;
+    left->addRow(tr("Na&me:"), name_);
+    left->addRow(tr("&Location:"), location_);
+    left->addRow(tr("&Total area of the farm (ha):"), area_);
+    left->addRow(tr("&KEL area of the farm (ha):"), kel_area_);
+    columns->addLayout(left, 3);
+
+    year_frame_ = new QGroupBox(tr("Year"), panel);
+    year_frame_->setObjectName("fraProfile_year");
+    auto* year_layout = new QVBoxLayout(year_frame_);
+    auto* year_caption = new QLabel(
+        tr("Select the date at which the KEL &year to be assessed comences:"), year_frame_);
+    year_caption->setWordWrap(true);
+    year_ = new QComboBox(year_frame_);
+    year_->setObjectName("cboAssess_year");
+    for (const std::string& choice : year_choices()) year_->addItem(qt(choice));
+    year_caption->setBuddy(year_);
+    year_layout->addWidget(year_caption);
+    year_layout->addWidget(year_);
+    year_layout->addStretch();
+    columns->addWidget(year_frame_, 2);
+
+    connect(name_, &QLineEdit::textChanged, this, [this](const QString& t) { module_.set_name(from_qt(t)); });
+    connect(area_, &QLineEdit::textChanged, this, [this](const QString& t) { module_.set_total_area(from_qt(t)); });
+    connect(kel_area_, &QLineEdit::textChanged, this,
+            [this](const QString& t) { module_.set_kel_area(from_qt(t)); });
+    connect(year_, &QComboBox::currentTextChanged, this,
+            [this](const QString& t) { module_.set_year(from_qt(t)); });
+    return panel;
+}
+
+QWidget* frmProfile::field_entries() {
+    auto* panel = new QWidget(this);
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(0, 0, 0, 0);
+    count_ = new_whole_number_box("Text1", panel);
+    count_->setFixedWidth(90);
+    auto* caption = new QLabel(tr("Num&ber of fields:"), panel);
+    caption->setBuddy(count_);
+    create_ = new QPushButton(panel);
+    create_->setObjectName("Command1");
+    auto* paste_both = new QPushButton(tr("&Paste from Excel (names and sizes)"), panel);
+    paste_both->setObjectName("Command3");
+    paste_both->setToolTip(tr("Field names and areas copied from two columns of a spreadsheet"));
+    auto* paste_names = new QPushButton(tr("Paste from E&xcel (names only)"), panel);
+    paste_names->setObjectName("Command2");
+    paste_names->setToolTip(tr("Field names copied from one column of a spreadsheet"));
+    row->addWidget(caption);
+    row->addWidget(count_);
+    row->addWidget(create_);
+    row->addStretch();
+    row->addWidget(paste_both);
+    row->addWidget(paste_names);
+    connect(count_, &QLineEdit::textChanged, this, [this](const QString& t) {
+        module_.set_field_count(from_qt(t));
+        create_->setText(qt(module_.create_caption()));
+    });
+    connect(count_, &QLineEdit::returnPressed, this, [this] { and_refresh([this] { module_.create_fields(); }); });
+    connect(create_, &QPushButton::clicked, this, [this] { and_refresh([this] { module_.create_fields(); }); });
+    const auto clipboard = [] { return from_qt(QApplication::clipboard()->text()); };
+    connect(paste_both, &QPushButton::clicked, this, [this, clipboard] {
+        and_refresh([&] { module_.paste_names_and_sizes(clipboard()); });
+    });
+    connect(paste_names, &QPushButton::clicked, this,
+            [this, clipboard] { and_refresh([&] { module_.paste_names(clipboard()); }); });
+    main_buttons_ = {create_, paste_both, paste_names, count_};
+    return panel;
+}
+
+QWidget* frmProfile::main_buttons() {
+    auto* panel = new QWidget(this);
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(0, 0, 0, 0);
+    const auto button = [&](const QString& caption, const char* name, auto action) {
+        auto* made = new QPushButton(caption, panel);
+        made->setObjectName(name);
+        connect(made, &QPushButton::clicked, this, action);
+        main_buttons_.push_back(made);
+        row->addWidget(made);
+        return made;
+    };
+    button(tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
+    button(tr("&Open Assessments"), "cmdProfile_open", [this] {
+        state_.picker_caller = picker_module::profile;
+        emit years_wanted();
+    });
+    auto* import = new QPushButton(tr("Add records from another file"), panel);
+    import->setObjectName("cmdProfile_import");
+    import->setEnabled(false);
+    import->setToolTip(tr("Not part of this version"));
+    row->addWidget(import);
+    row->addStretch();
+    button(tr("&Cancel"), "cmdProfile_cancel", [this] { cancel(); });
+    button(tr("&Set Profile"), "cmdProfile_set", [this] { set_profile(); });
+    return panel;
+}
+
+void frmProfile::add_boxes() {
+    name_box_ = new entry_box("Profile_fname", *grid_, this);
+    QLineEdit* name_edit = name_box_->use_text_box();
+    name_edit->installEventFilter(this);
+    name_box_->on_enter([this] { return module_.enter_name(grid_->current_row(), name_box_->entered_text()); });
+
+    area_box_ = new entry_box("Profile_farea", *grid_, this);
+    area_box_->use_number_box();
+    area_box_->on_enter([this] {
+        const auto rows = grid_->selected_rows();
+        return module_.enter_area(rows.first, rows.last, grid_->current_column(), area_box_->entered_text());
+    });
+
+    soil_box_ = new entry_box("Profile_soil", *grid_, this);
+    QStringList soils;
+    for (const std::string_view soil : soil_types) soils << qt(soil);
+    soil_box_->use_list(soils);
+    soil_box_->on_enter([this] {
+        const auto rows = grid_->selected_rows();
+        const auto soil = soil_box_->chosen();
+        return soil && module_.enter_soil(rows.first, rows.last, *soil);
+    });
+    for (entry_box* box : {name_box_, area_box_, soil_box_}) {
+        box->add_clear([this] { return module_.clear_cell(grid_->current_row(), grid_->current_column()); });
+        box->add_erase([this] { return module_.erase_row(grid_->current_row()); });
+        box->set_disabled_meanwhile(main_buttons_);
+        connect(box, &entry_box::closed, this, &frmProfile::refresh);
+    }
+}
+
+void frmProfile::open_box(int row, int column) {
+    const profile_box wanted = module_.click(row, column);
+    entry_box* box = nullptr;
+    if (wanted == profile_box::name) box = name_box_;
+    if (wanted == profile_box::area) box = area_box_;
+    if (wanted == profile_box::soil) box = soil_box_;
+    if (!box) return;
+    const auto rows = grid_->selected_rows();
+    const bool fills_range = box != name_box_ && rows.last > rows.first;
+    const QString told = fills_range ? tr("Goes into %1 selected fields.").arg(rows.last - rows.first + 1) : QString();
+    box->open(qt(box_caption(wanted)), told, qt(module_.fields().cell(row, column)));
+}
+
+template <class Work>
+void frmProfile::and_refresh(Work work) {
+    work();
+    refresh();
+}
+
+void frmProfile::refresh() {
+    const farm_details& farm = module_.farm();
+    show_text(name_, farm.name);
+    show_text(location_, farm.location);
+    show_text(area_, farm.total_area);
+    show_text(kel_area_, farm.kel_area);
+    show_text(count_, farm.field_count);
+    create_->setText(qt(module_.create_caption()));
+    const QString year = qt(farm.year);
+    // A file may start its year on a day that the list does not offer.
+    if (!year.isEmpty() && year_->findText(year) < 0) year_->addItem(year);
+    year_->setCurrentIndex(year_->findText(year));
+    year_frame_->setEnabled(module_.year_list_enabled());
+    grid_->refresh();
+}
+
+void frmProfile::set_profile() {
+    const set_profile_result result = module_.set_profile();
+    refresh();
+    if (result == set_profile_result::refused_focus_kel_area) kel_area_->setFocus();
+    if (result == set_profile_result::refused_focus_farm_area) area_->setFocus();
+    if (result == set_profile_result::saved) emit left();
+}
+
+void frmProfile::cancel() {
+    for (entry_box* box : {name_box_, area_box_, soil_box_}) box->close_box();
+    // The assessments screen comes back even if the last assessment cannot be read any more.
+    emit left();
+    module_.cancel();
+    refresh();
+}
+
+bool frmProfile::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == location_) {
+        const bool clicked = event->type() == QEvent::MouseButtonPress;
+        const auto* key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+        const bool typed = key && (!key->text().isEmpty()) && key->key() != Qt::Key_Tab &&
+                           key->key() != Qt::Key_Backtab && key->key() != Qt::Key_Escape;
+        if (clicked || typed) {
+            emit location_wanted();
+            return true;
+        }
+    } else if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->text() == "'") {
+        return true;  // no apostrophe in a field name; a pasted one is refused at Enter
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmProfile::showEvent(QShowEvent* event) {
+    refresh();
+    if (module_.farm().name.empty()) name_->setFocus();
+    QWidget::showEvent(event);
+}
+
+void frmProfile::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    cancel();
+}
+
+}  // namespace kel

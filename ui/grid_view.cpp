@@ -1,0 +1,135 @@
+#include "ui/grid_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFontMetrics>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+namespace kel {
+
+namespace {
+constexpr int cell_padding_px = 12;
+}
+
+grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent)
+    : QTableView(parent), model_(new grid_model(grid, this)) {
+    setObjectName(name);
+    setModel(model_);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ContiguousSelection);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    lay_out_columns();
+}
+
+void grid_view::lay_out_columns() {
+    QHeaderView* header = horizontalHeader();
+    header->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    header->setHighlightSections(false);
+    const int character = fontMetrics().averageCharWidth();
+    int height = 0;
+    for (int c = 0; c < model_->columnCount(); ++c) {
+        const grid_column& column = model_->grid().columns()[static_cast<std::size_t>(c)];
+        setColumnHidden(c, column.kind == column_kind::carried);
+        const int width = column.width * character + cell_padding_px;
+        setColumnWidth(c, width);
+        if (isColumnHidden(c)) continue;
+        const QRect room(0, 0, width - cell_padding_px, 1000);
+        const QString heading = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        height = std::max(
+            height,
+            header->fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, heading).height());
+    }
+    header->setFixedHeight(height + cell_padding_px);
+}
+
+grid_view::row_range grid_view::selected_rows() const {
+    row_range range{current_row(), current_row()};
+    for (const QItemSelectionRange& part : selectionModel()->selection()) {
+        range.first = std::min(range.first, part.top());
+        range.last = std::max(range.last, part.bottom());
+    }
+    return range;
+}
+
+void grid_view::refresh() {
+    const int row = current_row();
+    const int column = std::max(0, current_column());
+    model_->refresh();
+    if (row >= 0 && model_->rowCount() > 0 && !currentIndex().isValid())
+        setCurrentIndex(model_->index(std::min(row, model_->rowCount() - 1), column));
+}
+
+void grid_view::choose_cell(int row, int column) {
+    setCurrentIndex(model_->index(row, column));
+    emit cell_chosen(row, column);
+}
+
+void grid_view::set_locked(bool locked) {
+    locked_ = locked;
+    setFocusPolicy(locked ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+// Tab walks the cells; behind the last and before the first it goes on to the next control.
+bool grid_view::leaves_by_tab(const QKeyEvent* event) const {
+    if (model_->rowCount() == 0 || !currentIndex().isValid()) return true;
+    const auto last_shown = [this] {
+        int c = model_->columnCount() - 1;
+        while (c > 0 && isColumnHidden(c))
+            --c;
+        return c;
+    };
+    if (event->key() == Qt::Key_Backtab) return current_row() == 0 && current_column() == 0;
+    return current_row() == model_->rowCount() - 1 && current_column() == last_shown();
+}
+
+void grid_view::keyPressEvent(QKeyEvent* event) {
+    if (locked_) return;
+    const bool chooses =
+        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
+    if (event->matches(QKeySequence::Copy)) {
+        copy_selection();
+    } else if (chooses && currentIndex().isValid()) {
+        emit cell_chosen(current_row(), current_column());
+    } else if ((event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) && leaves_by_tab(event)) {
+        focusNextPrevChild(event->key() == Qt::Key_Tab);
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void grid_view::mousePressEvent(QMouseEvent* event) {
+    if (!locked_) QTableView::mousePressEvent(event);
+}
+
+void grid_view::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!locked_) QTableView::mouseDoubleClickEvent(event);
+}
+
+void grid_view::mouseReleaseEvent(QMouseEvent* event) {
+    if (locked_) return;
+    QTableView::mouseReleaseEvent(event);
+    // A range drawn with the pointer is chosen as a whole, like a single cell.
+    if (event->button() == Qt::LeftButton && currentIndex().isValid() &&
+        indexAt(event->position().toPoint()).isValid())
+        emit cell_chosen(current_row(), current_column());
+}
+
+void grid_view::copy_selection() const {
+    QString text;
+    for (const QItemSelectionRange& part : selectionModel()->selection())
+        for (int row = part.top(); row <= part.bottom(); ++row) {
+            QStringList cells;
+            for (int c = part.left(); c <= part.right(); ++c)
+                if (!isColumnHidden(c)) cells << model_->index(row, c).data().toString();
+            text += cells.join('\t') + '\n';
+        }
+    if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+}
+
+}  // namespace kel

@@ -1,0 +1,51 @@
+// The grid of every module: arrow keys and Tab move, Enter, F2 or a click chooses a cell, ranges can be
+// selected and copied as tab-separated text. While an entry box is open the grid keeps its selection and
+// takes no input.
+#pragma once
+
+#include <QTableView>
+
+#include "ui/grid_model.h"
+
+namespace kel {
+
+class grid_view : public QTableView {
+    Q_OBJECT
+
+  public:
+    grid_view(const text_grid& grid, const QString& name, QWidget* parent = nullptr);
+
+    struct row_range {
+        int first;
+        int last;
+    };
+    int current_row() const { return currentIndex().row(); }
+    int current_column() const { return currentIndex().column(); }
+    /// The rows of the selection, at least the current one.
+    row_range selected_rows() const;
+
+    /// Shows the grid as it now is and puts the current cell back within it.
+    void refresh();
+    void choose_cell(int row, int column);
+    void set_locked(bool locked);
+    bool locked() const { return locked_; }
+
+  signals:
+    /// A cell was clicked, or Enter or F2 pressed on it.
+    void cell_chosen(int row, int column);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+  private:
+    void lay_out_columns();
+    void copy_selection() const;
+    bool leaves_by_tab(const QKeyEvent* event) const;
+    grid_model* model_;
+    bool locked_ = false;
+};
+
+}  // namespace kel

@@ -1,0 +1,38 @@
+#include "ui/kel_application.h"
+
+#include <QIcon>
+#include <QLocale>
+#include <stdexcept>
+
+#include "core/file_error.h"
+
+namespace kel {
+
+message stop_box(const std::exception& failure) {
+    message box{"", "Something unexpected went wrong:\r\n\r\n" + std::string(failure.what()), message_kind::stop,
+                message_buttons::ok};
+    if (const auto* file = dynamic_cast<const file_error*>(&failure))
+        box.text = "There is a problem with the file\r\n" + file->file() + "\r\n\r\n" + file->trouble();
+    return box;
+}
+
+kel_application::kel_application(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName("kel-calculator");
+    setApplicationDisplayName("KEL Calculator");
+    setDesktopFileName("org.kel_calculator.KelCalculator");
+    setWindowIcon(QIcon(":/kel-calculator.png"));
+    setQuitOnLastWindowClosed(false);
+    // Calendars and date boxes read day first on a machine of any locale.
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+}
+
+bool kel_application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& failure) {
+        if (person_) person_->tell(stop_box(failure));
+        return true;
+    }
+}
+
+}  // namespace kel

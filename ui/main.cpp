@@ -1,0 +1,32 @@
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <exception>
+
+#include "ui/kel_application.h"
+#include "ui/program.h"
+#include "ui/qt_prompts.h"
+#include "ui/qt_text.h"
+#include "ui/today.h"
+
+int main(int argc, char** argv) {
+    kel::kel_application application(argc, argv);
+    kel::qt_prompts prompts;
+    application.set_prompts(&prompts);
+    try {
+        const auto places = kel::locate_installation(
+            kel::from_qt(QCoreApplication::applicationFilePath()),
+            kel::from_qt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/kel-calculator"));
+        kel::prepare_written_folder(places);
+        kel::program program(places, prompts, kel::today);
+        QObject::connect(&program, &kel::program::ended, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+        // The desktop hands over the assessment that was opened from a folder.
+        const QStringList arguments = QCoreApplication::arguments();
+        const std::string assessment =
+            arguments.size() > 1 ? kel::from_qt(QFileInfo(arguments[1]).absoluteFilePath()) : std::string{};
+        program.start(assessment);
+        return QCoreApplication::exec();
+    } catch (const std::exception& failure) {
+        prompts.tell(kel::stop_box(failure));
+        return 1;
+    }
+}

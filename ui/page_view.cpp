@@ -1,0 +1,47 @@
+#include "ui/page_view.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+
+namespace kel {
+
+page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
+    setOpenLinks(false);
+    setAccessibleName(tr("Page"));
+    // Pages are written for white paper, whatever the desktop's theme is.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    paper.setColor(QPalette::Link, QColor(0, 70, 160));
+    setPalette(paper);
+    document()->setDocumentMargin(16);
+    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { follow(source().resolved(link)); });
+}
+
+bool page_view::navigate(const QString& page) {
+    const bool web = page.startsWith("http://") || page.startsWith("https://");
+    return follow(web ? QUrl(page) : QUrl::fromLocalFile(page));
+}
+
+bool page_view::follow(const QUrl& url) {
+    if (url.scheme().startsWith("http") || url.scheme() == "mailto") {
+        QDesktopServices::openUrl(url);
+        setHtml(tr("<p>The page <b>%1</b> is shown in your web browser.</p>").arg(url.toDisplayString().toHtmlEscaped()));
+        return true;
+    }
+    if (!url.isLocalFile() || !QFileInfo::exists(url.toLocalFile())) {
+        setHtml(tr("<p>There is no page <b>%1</b>.</p>").arg(url.toDisplayString(QUrl::PreferLocalFile).toHtmlEscaped()));
+        return false;
+    }
+    setSource(url);
+    // A report made anew has the address of the one before it.
+    reload();
+    return true;
+}
+
+QVariant page_view::loadResource(int type, const QUrl& name) {
+    const QUrl url = source().resolved(name);
+    return url.isLocalFile() ? QTextBrowser::loadResource(type, url) : QVariant();
+}
+
+}  // namespace kel

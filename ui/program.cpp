@@ -1,0 +1,200 @@
+#include "ui/program.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QWidget>
+#include <algorithm>
+#include <array>
+
+#include "ui/FullScreen.h"
+#include "ui/Scotland.h"
+#include "ui/Year_Picker.h"
+#include "ui/frmKEL_front.h"
+#include "ui/frmKEL_splash.h"
+#include "ui/frmLand_new.h"
+#include "ui/frmProfile.h"
+#include "ui/qt_text.h"
+
+namespace kel {
+
+namespace {
+
+constexpr std::string_view front_tag = "front";
+constexpr std::string_view location_tag = "location";
+constexpr std::string_view viewer_tag = "viewer";
+
+constexpr std::array<std::string_view, 4> built_screens{"land", "profile", "splash", "years"};
+
+struct window_size {
+    std::string_view tag;
+    int width;
+    int height;
+};
+// Sizes at first view; each fits a screen of 1280 x 800.
+constexpr std::array<window_size, 6> first_sizes{{{"front", 900, 620},
+                                                  {"profile", 1000, 700},
+                                                  {"location", 1000, 760},
+                                                  {"land", 1220, 720},
+                                                  {"viewer", 1040, 740},
+                                                  {"years", 760, 420}}};
+
+}  // namespace
+
+program::program(const installation& places, prompts& person, std::function<date()> today)
+    : person_(person),
+      desk_{state_, *this, std::move(today), KEL_DEVELOPER_NAME},
+      profile_(state_, person_),
+      front_(state_, person_, profile_, *this, desk_),
+      years_(state_, person_, profile_, [this](picker_module caller) { reload(caller); }) {
+    state_.places = places;
+}
+
+program::~program() = default;
+
+void program::start(const std::string& assessment) {
+    made(front_tag);
+    front_.start_up();
+    if (!assessment.empty()) years_.open_file(assessment);
+    show_screen(front_tag);
+}
+
+QWidget* program::screen(std::string_view tag) const {
+    const auto found = screens_.find(tag);
+    return found == screens_.end() ? nullptr : found->second.get();
+}
+
+QWidget* program::make(std::string_view tag) {
+    const auto leaving_to = [this](auto* screen, auto left, std::string_view from, std::string_view to) {
+        // Queued: the screen that says it is left must not be deleted under its own feet.
+        connect(screen, left, this, [this, from, to] { leave(from, to); }, Qt::QueuedConnection);
+    };
+    if (tag == front_tag) {
+        auto* front = new frmKEL_front(front_, state_, *this);
+        connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
+        return front;
+    }
+    if (tag == "profile") {
+        auto* profile = new frmProfile(profile_, desk_, state_);
+        connect(profile, &frmProfile::left, this, [this, profile] {
+            show_screen(front_tag);
+            profile->hide();
+        });
+        connect(profile, &frmProfile::years_wanted, this, [this] { open("years"); });
+        connect(profile, &frmProfile::location_wanted, this, [this, profile] {
+            open(location_tag);
+            profile->hide();
+        });
+        return profile;
+    }
+    if (tag == location_tag) {
+        auto* map = new Scotland(state_, person_, profile_);
+        leaving_to(map, &Scotland::closed, location_tag, "profile");
+        return map;
+    }
+    if (tag == "land") {
+        auto* land = new frmLand_new(state_, person_, desk_);
+        leaving_to(land, &frmLand_new::left, "land", front_tag);
+        connect(land, &frmLand_new::years_wanted, this, [this] { open("years"); });
+        return land;
+    }
+    if (tag == "years") {
+        auto* years = new Year_Picker(years_);
+        leaving_to(years, &Year_Picker::closed, "years", {});
+        return years;
+    }
+    if (tag == "splash") {
+        auto* splash = new frmKEL_splash;
+        connect(splash, &frmKEL_splash::page_wanted, this,
+                [this](const QString& address) { front_.show_partner(from_qt(address)); });
+        return splash;
+    }
+    auto* viewer = new FullScreen(state_, person_, report_folder_);
+    connect(viewer, &FullScreen::closed, this, [this] { close_viewer(); }, Qt::QueuedConnection);
+    return viewer;
+}
+
+QWidget* program::made(std::string_view tag) {
+    if (QWidget* there = screen(tag)) return there;
+    QWidget* widget = make(tag);
+    screens_[std::string(tag)].reset(widget);
+    const auto kept = sizes_.find(tag);
+    const auto size = std::find_if(first_sizes.begin(), first_sizes.end(),
+                                   [&](const window_size& s) { return s.tag == tag; });
+    if (kept != sizes_.end())
+        widget->restoreGeometry(kept->second);
+    else if (size != first_sizes.end())
+        widget->resize(size->width, size->height);
+    return widget;
+}
+
+void program::show_screen(std::string_view tag) {
+    QWidget* widget = made(tag);
+    widget->show();
+    widget->raise();
+    widget->activateWindow();
+}
+
+void program::leave(std::string_view tag, std::string_view back_tag) {
+    if (!back_tag.empty()) show_screen(back_tag);
+    const auto found = screens_.find(tag);
+    if (found == screens_.end()) return;
+    sizes_[found->first] = found->second->saveGeometry();
+    found->second.release()->deleteLater();
+    screens_.erase(found);
+    refresh_front();
+}
+
+void program::open(std::string_view tag) {
+    const bool there = screen(tag) != nullptr;
+    wait_cursor(true);
+    try {
+        made(tag);
+    } catch (...) {
+        wait_cursor(false);
+        throw;
+    }
+    wait_cursor(false);
+    if (tag == "years" && !(there && screen(tag)->isVisible())) static_cast<Year_Picker*>(screen(tag))->open();
+    show_screen(tag);
+}
+
+bool program::exists(std::string_view tag) const {
+    return std::find(built_screens.begin(), built_screens.end(), tag) != built_screens.end();
+}
+
+bool program::start_updater(const std::string& path) { return QProcess::startDetached(qt(path), {}); }
+
+void program::end() {
+    for (const auto& [tag, widget] : screens_) widget->hide();
+    emit ended();
+}
+
+void program::wait_cursor(bool on) {
+    if (on)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void program::hide_screen(std::string_view tag) { made(tag)->hide(); }
+
+void program::show(const viewer_request& request) {
+    show_screen(viewer_tag);
+    static_cast<FullScreen*>(screen(viewer_tag))->show_page(request);
+}
+
+void program::close_viewer() {
+    leave(viewer_tag, screen(state_.viewer_back) ? std::string_view(state_.viewer_back) : front_tag);
+}
+
+void program::reload(picker_module caller) {
+    if (caller == picker_module::land)
+        if (auto* land = static_cast<frmLand_new*>(screen("land"))) land->reload();
+}
+
+void program::refresh_front() {
+    if (auto* front = static_cast<frmKEL_front*>(screen(front_tag))) front->refresh();
+    if (auto* profile = static_cast<frmProfile*>(screen("profile"))) profile->refresh();
+}
+
+}  // namespace kel

@@ -1,0 +1,93 @@
+#include "ui/qt_prompts.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "ui/qt_text.h"
+
+namespace kel {
+
+namespace {
+
+QMessageBox::Icon icon_of(message_kind kind) {
+    switch (kind) {
+        case message_kind::warning:
+            return QMessageBox::Warning;
+        case message_kind::information:
+            return QMessageBox::Information;
+        case message_kind::question:
+            return QMessageBox::Question;
+        case message_kind::stop:
+            return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttons_of(message_buttons buttons) {
+    switch (buttons) {
+        case message_buttons::ok:
+            return QMessageBox::Ok;
+        case message_buttons::yes_no:
+            return QMessageBox::Yes | QMessageBox::No;
+        case message_buttons::yes_no_cancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+answer answer_of(int pressed, message_buttons buttons) {
+    if (pressed == QMessageBox::Yes) return answer::yes;
+    if (pressed == QMessageBox::No) return answer::no;
+    return buttons == message_buttons::ok ? answer::ok : answer::cancel;
+}
+
+// A file name of ten thousand characters must not push the buttons off the screen.
+QString readable(std::string_view text) {
+    constexpr qsizetype longest = 2500;
+    QString shown = qt(text).replace("\r\n", "\n");
+    if (shown.size() > longest) shown = shown.left(longest / 2) + " ... " + shown.right(longest / 2);
+    return shown;
+}
+
+QString shown_folder(const std::string& folder) {
+    return folder.empty() ? QDir::homePath() : qt(folder);
+}
+
+}  // namespace
+
+answer qt_prompts::ask(const message& box) {
+    // A box under the wait cursor would look stuck.
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    QMessageBox shown(QApplication::activeWindow());
+    shown.setIcon(icon_of(box.kind));
+    shown.setWindowTitle(qt(box.title.empty() ? program_title : std::string_view(box.title)));
+    // What a farm is called must never be read as markup.
+    shown.setTextFormat(Qt::PlainText);
+    shown.setText(readable(box.text));
+    shown.setStandardButtons(buttons_of(box.buttons));
+    const int pressed = shown.exec();
+    QApplication::restoreOverrideCursor();
+    return answer_of(pressed, box.buttons);
+}
+
+std::string qt_prompts::chosen_file(const file_request& request, bool save) {
+    QFileDialog dialog(QApplication::activeWindow(), qt(request.title), shown_folder(request.folder));
+    // "KEL database (*.kel)|*.kel": what is shown, then the pattern.
+    const QStringList filter = qt(request.filter).split('|');
+    dialog.setNameFilters({filter.front(), "All files (*)"});
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (save) dialog.setDefaultSuffix(filter.back().section('.', -1));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return from_qt(dialog.selectedFiles().front());
+}
+
+std::string qt_prompts::file_to_open(const file_request& request) {
+    return chosen_file(request, false);
+}
+std::string qt_prompts::file_to_save(const file_request& request) {
+    return chosen_file(request, true);
+}
+
+}  // namespace kel
