@@ -7,6 +7,21 @@ namespace kel {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+// A text that is no date goes through as it stands: the module that reads it says what is wrong.
+std::string stored_date_text(const std::string& shown) {
+    const auto d = parse_date(shown);
+    return d ? iso_date_text(*d) : shown;
+}
+
+std::string shown_date_text(const std::string& stored) {
+    const auto d = parse_date(stored);
+    return d ? short_date_text(*d) : stored;
+}
+
+}  // namespace
+
 void save_grid(const database& db, std::string_view table, const text_grid& grid, int rows) {
     db.delete_rows(table);
     recordset target = db.open(table);
@@ -17,7 +32,9 @@ void save_grid(const database& db, std::string_view table, const text_grid& grid
         target.add_new();
         for (int c = 0; c < grid.column_count(); ++c) {
             const int into = stored[static_cast<std::size_t>(c)];
-            if (into >= 0 && !grid.cell(row, c).empty()) target.set(into, grid.cell(row, c));
+            if (into < 0 || grid.cell(row, c).empty()) continue;
+            const bool is_date = grid.columns()[static_cast<std::size_t>(c)].is_date;
+            target.set(into, is_date ? stored_date_text(grid.cell(row, c)) : grid.cell(row, c));
         }
         target.update();
     }
@@ -25,10 +42,10 @@ void save_grid(const database& db, std::string_view table, const text_grid& grid
 
 void load_grid_row(const recordset& source, text_grid& grid, int row) {
     for (int c = 0; c < grid.column_count(); ++c) {
-        const std::string_view stored = grid.columns()[static_cast<std::size_t>(c)].stored;
-        if (stored.empty()) continue;
-        std::string text = source.text(stored);
-        if (!text.empty()) grid.set_cell(row, c, std::move(text));
+        const grid_column& column = grid.columns()[static_cast<std::size_t>(c)];
+        if (column.stored.empty()) continue;
+        std::string text = source.text(column.stored);
+        if (!text.empty()) grid.set_cell(row, c, column.is_date ? shown_date_text(text) : std::move(text));
     }
 }
 

@@ -20,7 +20,8 @@ struct grid_column {
     std::string_view heading;
     std::string_view stored;  // the column in the file; empty: not stored
     column_kind kind;
-    int width;  // in characters of the body font
+    int width;             // in characters of the body font
+    bool is_date = false;  // day-first text here, a typed date in the file
 };
 
 class text_grid {

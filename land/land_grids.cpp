@@ -1,8 +1,6 @@
 #include "land/land_grids.h"
 
 #include <array>
-#include <functional>
-#include <set>
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
@@ -112,13 +110,6 @@ void recalculate_stock_row(text_grid& animals, int row, float& working_constant)
     animals.set_cell(row, stock_column::total_n, shortest_text(line.total_n_kg_per_year));
 }
 
-std::vector<farm_field> read_farm_fields(const database& db) {
-    std::vector<farm_field> fields;
-    for (recordset rows = db.open("Field Data"); !rows.eof(); rows.move_next())
-        fields.push_back({rows.text("Field Name"), rows.text("Size"), rows.text("Soil")});
-    return fields;
-}
-
 text_grid fields_to_grid(const std::vector<farm_field>& fields) {
     text_grid land(land_columns);
     for (const farm_field& field : fields) {
@@ -133,13 +124,11 @@ text_grid fields_to_grid(const std::vector<farm_field>& fields) {
 
 text_grid load_land(const database& db, const std::vector<farm_field>& fields,
                     std::vector<std::string>& unknown_fields) {
-    std::set<std::string_view> names;
-    for (const farm_field& field : fields)
-        names.insert(field.name);
+    const known_fields known(fields);
     text_grid land(land_columns);
     for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
         std::string name = rows.text("Field Area ID");
-        if (!names.contains(name)) {
+        if (!known.contains(name)) {
             unknown_fields.push_back(std::move(name));
             continue;
         }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/assessment_store.h"
+#include "core/farm_fields.h"
 #include "core/text_grid.h"
 
 namespace kel {
@@ -40,14 +41,6 @@ void recalculate_land_row(text_grid& land, int row);
 /// Nitrogen per unit and of the line, kg N; an unknown type takes and every other one sets
 /// `working_constant`.
 void recalculate_stock_row(text_grid& animals, int row, float& working_constant);
-
-/// A field of the farm profile; the size in hectares is text as the profile has it.
-struct farm_field {
-    std::string name;
-    std::string size;
-    std::string soil;
-};
-std::vector<farm_field> read_farm_fields(const database& db);
 
 /// One row per field of the profile with its soil and size; the areas are left to the user.
 text_grid fields_to_grid(const std::vector<farm_field>& fields);

@@ -66,13 +66,6 @@ std::string stock_instruction() {
         "Manure Production - stock types present on the farm and stock numbers in each category.");
 }
 
-message field_does_not_exist(const std::string& name) {
-    return {"Field does not exist", "The field you are trying to load (" + name +
-                                        ") does not exist in the farm profile, and will not be imported. If "
-                                        "you wish to include it in the "
-                                        "analysis, the profile will need to be amended before continuing!"};
-}
-
 std::array<panel_line, 5> panel_lines(const spreading_result& result) {
     return {{
         {"Total N production as organic manures =", result.production},

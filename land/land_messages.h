@@ -67,14 +67,9 @@ inline const message figure_amended{"Figure amended",
                                     "adjusted accordingly. Please check the figures."};
 inline const message no_livestock{"No Livestock Selected", "No livestock category selected!"};
 inline const message no_livestock_number{"No Livestock Number", "No livestock number has been entered!"};
-inline const message calculation{"Calculation", "This element is calculated automatically!",
-                                 message_kind::information};
-inline const message cannot_delete{"Cannot Delete", "This row cannot be deleted!", message_kind::information};
 inline const message close_module{"Close Module",
                                   "Are you sure you wish to close the module, unsaved data will be lost?",
                                   message_kind::question, message_buttons::yes_no};
-/// A stored row whose field the farm profile no longer has.
-message field_does_not_exist(const std::string& name);
 
 // The result.
 struct panel_line {

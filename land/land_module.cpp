@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "core/module_save.h"
+#include "core/file_choice.h"
+#include "core/module_messages.h"
 #include "core/numbers.h"
 #include "land/land_messages.h"
 #include "land/land_report.h"
@@ -43,8 +44,7 @@ void land_module::load_land_stuff() {
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
         const std::vector<farm_field> fields = read_farm_fields(db);
-        for (const farm_field& field : fields)
-            names.push_back(field.name);
+        names = kel::field_names(fields);
         land = load_land(db, fields, unknown_fields);
         if (land.data_row_count() == 0) land = fields_to_grid(fields);
         animals = load_stock(db, constant);
@@ -55,7 +55,7 @@ void land_module::load_land_stuff() {
     working_constant_ = constant;
     result_.reset();
     for (const std::string& name : unknown_fields)
-        person_.tell(land_messages::field_does_not_exist(name));
+        person_.tell(module_messages::field_does_not_exist(name));
 }
 
 land_opening land_module::click_land(int /*row*/, int column) {
@@ -74,7 +74,7 @@ land_opening land_module::click_land(int /*row*/, int column) {
         case land_column::other_deduction:
             return {land_box::deduction, deduction_caption, other_deduction_instruction};
         default:
-            person_.tell(calculation);
+            person_.tell(module_messages::calculation);
             return {};
     }
 }
@@ -87,7 +87,7 @@ land_opening land_module::click_animals(int /*row*/, int column) {
         case stock_column::number:
             return {land_box::number, number_caption, number_instruction};
         default:
-            person_.tell(calculation);
+            person_.tell(module_messages::calculation);
             return {};
     }
 }
@@ -184,7 +184,7 @@ void land_module::clear_number(int row) {
 }
 
 bool land_module::erase_row(text_grid& grid, int row) {
-    if (row == grid.row_count() - 1) return refuse(land_messages::cannot_delete);
+    if (row == grid.row_count() - 1) return refuse(module_messages::cannot_delete);
     grid.erase_row(row);
     return true;
 }
@@ -212,7 +212,7 @@ void land_module::back() {
 }
 
 bool land_module::save() {
-    if (!choose_save_file(state_, person_)) return false;
+    if (!have_file_to_save(state_, person_)) return false;
     text_grid land = land_;
     fill_deductions(land);
     const database db(state_.assess_file);

@@ -1,11 +1,10 @@
 #include "profile/field_changes.h"
 
 #include <array>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
+#include "core/file_choice.h"
 #include "core/file_error.h"
 #include "core/numbers.h"
 
@@ -64,11 +63,6 @@ bool carry_into_land(const database& db, const field_change& change) {
         cleared = cleared || resized;
     }
     return cleared;
-}
-
-bool same_file(const std::string& a, const std::string& b) {
-    std::error_code missing;
-    return a == b || std::filesystem::equivalent(a, b, missing);
 }
 
 /// A filled slot, opened within the transaction of the file that is saved.

@@ -71,11 +71,6 @@ inline const message kel_area_above_total{"Farm Area Mis-match",
                                           "The KEL area of the farm is greater than the total area of the "
                                           "farm.  Please check and adjust the figures."};
 inline constexpr std::string_view new_file_title = "Set up a new profile";
-inline message replace_file(const std::string& file_name) {
-    return {std::string(new_file_title),
-            "The file " + file_name + " already exists. Do you want to replace it?", message_kind::warning,
-            message_buttons::yes_no};
-}
 inline const message areas_changed{
     "Change in field areas",
     "One or more of the fields have changed in size. You will need to re-assess the land availability for "

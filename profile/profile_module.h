@@ -83,7 +83,6 @@ class profile_module {
     const message* first_refusal() const;
     bool any_field_incomplete() const;
     bool kel_areas_agree();
-    std::string choose_new_file();
     bool save_new_farm(const std::string& path);
     bool save_into_new_file(const std::string& path, bool& store_written);
 

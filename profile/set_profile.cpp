@@ -1,7 +1,6 @@
 // Set Profile: its tests and questions in their order, the new farm's file, and the save.
-#include <filesystem>
-
 #include "core/assessment_files.h"
+#include "core/file_choice.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
 #include "profile/field_changes.h"
@@ -66,7 +65,7 @@ set_profile_result profile_module::set_profile() {
     }
     bool areas_changed = false;
     if (state_.assess_file.empty()) {
-        const std::string path = choose_new_file();
+        const std::string path = choose_file_to_save(state_, person_, messages::new_file_title);
         if (path.empty()) return set_profile_result::cancelled;
         areas_changed = save_new_farm(path);
     } else {
@@ -74,18 +73,6 @@ set_profile_result profile_module::set_profile() {
     }
     if (areas_changed) person_.tell(messages::areas_changed);
     return set_profile_result::saved;
-}
-
-std::string profile_module::choose_new_file() {
-    std::string path = person_.file_to_save(
-        {std::string(messages::new_file_title), std::string(assessment_filter), dialog_folder(state_)});
-    if (path.empty()) return path;
-    state_.last_dir = folder_of(path);
-    if (std::filesystem::path(path).has_extension()) return path;
-    path += ".kel";
-    // The dialog asked about the name as it was typed.
-    if (!std::filesystem::exists(path)) return path;
-    return person_.ask(messages::replace_file(file_name_of(path))) == answer::yes ? path : std::string{};
 }
 
 bool profile_module::save_new_farm(const std::string& path) {

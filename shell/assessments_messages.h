@@ -64,13 +64,6 @@ inline message page_missing(std::string_view title, std::string_view page, std::
             message_kind::information, message_buttons::ok};
 }
 
-/// Asked where the file dialog could not: the extension was added to the name afterwards.
-inline message replace_file(std::string_view title, std::string_view file_name) {
-    return {std::string(title),
-            "The file " + std::string(file_name) + " already exists. Do you want to replace it?",
-            message_kind::warning, message_buttons::yes_no};
-}
-
 inline constexpr std::string_view save_as_title = "Save Farm Assessment As...";
 
 }  // namespace kel::assessments_messages

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "core/assessment_files.h"
+#include "core/file_choice.h"
 #include "core/settings_store.h"
 #include "reports/contents_page.h"
 #include "shell/assessments_messages.h"
-#include "shell/file_choice.h"
 #include "shell/reopen_assessment.h"
 
 namespace kel {

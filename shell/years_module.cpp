@@ -4,9 +4,9 @@
 #include <exception>
 
 #include "core/assessment_files.h"
+#include "core/file_choice.h"
 #include "core/settings_store.h"
 #include "shell/assessments_messages.h"
-#include "shell/file_choice.h"
 #include "shell/reopen_assessment.h"
 #include "shell/year_data.h"
 #include "shell/years_messages.h"

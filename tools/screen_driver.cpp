@@ -14,7 +14,8 @@ namespace kel::drive {
 QWidget* control(QWidget* screen, const QString& name) {
     if (!screen) throw std::runtime_error("no screen for " + name.toStdString());
     auto* found = screen->findChild<QWidget*>(name);
-    if (!found) throw std::runtime_error(screen->objectName().toStdString() + " has no " + name.toStdString());
+    if (!found)
+        throw std::runtime_error(screen->objectName().toStdString() + " has no " + name.toStdString());
     return found;
 }
 
@@ -25,7 +26,8 @@ void settle() {
 
 void press(QWidget* screen, const QString& button) {
     auto* found = control<QAbstractButton>(screen, button);
-    if (!found->isEnabled() || !found->isVisible()) throw std::runtime_error(button.toStdString() + " cannot be pressed");
+    if (!found->isEnabled() || !found->isVisible())
+        throw std::runtime_error(button.toStdString() + " cannot be pressed");
     found->click();
     settle();
 }
@@ -41,7 +43,8 @@ void type(QWidget* screen, const QString& box, const QString& text) {
 void choose_in_list(QWidget* screen, const QString& list, const QString& entry) {
     auto* found = control<QListWidget>(screen, list);
     const auto items = found->findItems(entry, Qt::MatchExactly);
-    if (items.isEmpty()) throw std::runtime_error(list.toStdString() + " has no entry " + entry.toStdString());
+    if (items.isEmpty())
+        throw std::runtime_error(list.toStdString() + " has no entry " + entry.toStdString());
     found->setCurrentItem(items.front());
     found->scrollToItem(items.front());
 }
@@ -63,20 +66,22 @@ void draw_range(grid_view* grid, int first_row, int last_row, int column) {
     QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier, place(first_row));
     QTest::mouseMove(grid->viewport(), place(last_row));
     // The move of a held button reaches the view as the pointer's real path would.
-    QMouseEvent move(QEvent::MouseMove, place(last_row), grid->viewport()->mapToGlobal(place(last_row)), Qt::LeftButton,
-                     Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, place(last_row), grid->viewport()->mapToGlobal(place(last_row)),
+                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(grid->viewport(), &move);
     QTest::mouseRelease(grid->viewport(), Qt::LeftButton, Qt::NoModifier, place(last_row));
     settle();
 }
 
-void enter_number(QWidget* screen, grid_view* grid, int row, int column, const QString& box, const QString& text) {
+void enter_number(QWidget* screen, grid_view* grid, int row, int column, const QString& box,
+                  const QString& text) {
     click_cell(grid, row, column);
     type(screen, "txt" + box, text);
     key(control(screen, "txt" + box), Qt::Key_Return);
 }
 
-void enter_choice(QWidget* screen, grid_view* grid, int row, int column, const QString& box, const QString& entry) {
+void enter_choice(QWidget* screen, grid_view* grid, int row, int column, const QString& box,
+                  const QString& entry) {
     click_cell(grid, row, column);
     choose_in_list(screen, "lst" + box, entry);
     key(control(screen, "lst" + box), Qt::Key_Return);

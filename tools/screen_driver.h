@@ -1,5 +1,5 @@
-// Drives the real screens as a person would, by the names of their controls: clicks, keys, cells of grids. Used by the
-// walkthrough and by the tests of the screens.
+// Drives the real screens as a person would, by the names of their controls: clicks, keys, cells of grids.
+// Used by the walkthrough and by the tests of the screens.
 #pragma once
 
 #include <QPoint>
@@ -35,9 +35,11 @@ void click_cell(grid_view* grid, int row, int column);
 void draw_range(grid_view* grid, int first_row, int last_row, int column);
 
 /// Chooses a cell, types into the box that opens and confirms with Enter.
-void enter_number(QWidget* screen, grid_view* grid, int row, int column, const QString& box, const QString& text);
+void enter_number(QWidget* screen, grid_view* grid, int row, int column, const QString& box,
+                  const QString& text);
 /// Chooses a cell, picks from the list that opens and confirms with Enter.
-void enter_choice(QWidget* screen, grid_view* grid, int row, int column, const QString& box, const QString& entry);
+void enter_choice(QWidget* screen, grid_view* grid, int row, int column, const QString& box,
+                  const QString& entry);
 
 }  // namespace drive
 }  // namespace kel

@@ -1,5 +1,6 @@
-// Works the sample farm through the real screens, as a person would, and leaves a picture of every screen and every report
-// in a folder: a demonstration without a display, the source of the guides' pictures, and a look at what was built.
+// Works the sample farm through the real screens, as a person would, and leaves a picture of every screen and
+// every report in a folder: a demonstration without a display, the source of the guides' pictures, and a look
+// at what was built.
 
 #include <QApplication>
 #include <QComboBox>
@@ -88,7 +89,8 @@ void walk::choose_place() {
     auto* map = drive::control(screen("location"), "Picture1");
     map->setFocus();
     const auto steps = [&](Qt::Key key, int count) {
-        for (int i = 0; i < count; ++i) drive::key(map, key);
+        for (int i = 0; i < count; ++i)
+            drive::key(map, key);
     };
     steps(Qt::Key_Right, 6);
     steps(Qt::Key_Down, 5);
@@ -110,7 +112,8 @@ void walk::new_farm() {
     choose_place();
     auto* fields = drive::control<grid_view>(profile, "MSFlexGridFields");
     for (int row = 0; row < 12; ++row)
-        drive::enter_number(profile, fields, row, 1, "Profile_farea", QString::number(2.5 + 0.25 * (row % 4)));
+        drive::enter_number(profile, fields, row, 1, "Profile_farea",
+                            QString::number(2.5 + 0.25 * (row % 4)));
     const auto soils = [&](int first, int last, const char* soil) {
         drive::draw_range(fields, first, last, 3);
         if (first == 4) picture("profile", "profile_soil_box");

@@ -1,4 +1,5 @@
-// The report viewer: one page and three buttons, over the calling screen. The third button's caption says what it does.
+// The report viewer: one page and three buttons, over the calling screen. The third button's caption says
+// what it does.
 #pragma once
 
 #include <QWidget>

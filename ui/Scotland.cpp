@@ -69,11 +69,24 @@ QWidget* Scotland::side_panel() {
     panel->setFixedWidth(330);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
-    auto* hint = new QLabel(tr("Click on the map where the farm lies, or move the square with the arrow keys and "
-                               "press Enter. Then choose the nearest town."),
-                            panel);
+    auto* hint =
+        new QLabel(tr("Click on the map where the farm lies, or move the square with the arrow keys and "
+                      "press Enter. Then choose the nearest town."),
+                   panel);
     hint->setWordWrap(true);
     column->addWidget(hint);
+
+    auto* zones = new QGroupBox(tr("Zones"), panel);
+    auto* legend = new QFormLayout(zones);
+    legend->setVerticalSpacing(3);
+    for (const auto& entry : map_->legend()) {
+        QPixmap swatch(14, 14);
+        swatch.fill(entry.colour);
+        auto* mark = new QLabel(zones);
+        mark->setPixmap(swatch);
+        legend->addRow(mark, new QLabel(qt(entry.zone), zones));
+    }
+    column->addWidget(zones);
 
     auto* under = new QGroupBox(tr("Under the pointer"), panel);
     auto* under_form = new QFormLayout(under);
@@ -134,7 +147,8 @@ void Scotland::click_map() {
 
 void Scotland::refresh_pointer() {
     const map_square square = module_.square();
-    pointer_->setText(tr("%1\nsquare %2, %3").arg(place_text(module_.pointer_place())).arg(square.x).arg(square.y));
+    pointer_->setText(
+        tr("%1\nsquare %2, %3").arg(place_text(module_.pointer_place())).arg(square.x).arg(square.y));
     map_->setCursor(module_.custom_pointer() ? Qt::CrossCursor : Qt::ArrowCursor);
 }
 
@@ -146,7 +160,8 @@ void Scotland::refresh_place() {
     town_prompt_->setVisible(module_.towns_visible());
     towns_->setVisible(module_.towns_visible());
     towns_->clear();
-    for (const std::string& town : module_.towns()) towns_->addItem(qt(town));
+    for (const std::string& town : module_.towns())
+        towns_->addItem(qt(town));
     towns_->setCurrentItem(nullptr);
 }
 

@@ -1,5 +1,5 @@
-// The location screen: the map of Scotland, the labels of what is under the pointer and what was clicked, and the towns of
-// the zone.
+// The location screen: the map of Scotland, the labels of what is under the pointer and what was clicked, and
+// the towns of the zone.
 #pragma once
 
 #include <QMainWindow>

@@ -28,6 +28,8 @@ constexpr std::array<row_text, 3> row_texts{
      {"Previous Year 1:", "Select a previous assessment (1 year ago)"},
      {"Previous Year 2:", "Select a previous assessment (2 years ago)"}}};
 
+constexpr int instruction_px = 720;
+
 QLabel* text_label(const QString& name, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(name);
@@ -42,7 +44,9 @@ QPushButton* named_button(const QString& caption, const QString& name, QWidget* 
     return button;
 }
 
-year_option option_of(int row) { return static_cast<year_option>(row + 1); }
+year_option option_of(int row) {
+    return static_cast<year_option>(row + 1);
+}
 
 // A path of any length keeps its beginning and its end in view.
 void show_elided(QLabel* label, const std::string& text, int width_px) {
@@ -75,7 +79,8 @@ Year_Picker::Year_Picker(years_module& module) : module_(module) {
     buttons->addWidget(cancel_button);
     layout->addLayout(buttons);
     layout->addWidget(create_panel());
-    layout->addStretch();
+    // The window follows the creation frame as it opens and closes.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
     connect(create, &QPushButton::clicked, this, [this] {
         module_.open_create();
         refresh_create();
@@ -98,7 +103,10 @@ QWidget* Year_Picker::rows_panel() {
         heading->setFont(bold);
         grid->addWidget(heading, 0, c);
     }
-    for (int row = 0; row < 3; ++row) add_row(grid, row);
+    for (int row = 0; row < 3; ++row)
+        add_row(grid, row);
+    grid->setColumnMinimumWidth(1, 200);
+    grid->setColumnMinimumWidth(2, 200);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     return panel;
@@ -138,12 +146,14 @@ QWidget* Year_Picker::create_panel() {
     auto* layout = new QGridLayout(create_frame_);
     auto* told = new QLabel(qt(years_messages::create_instruction), create_frame_);
     told->setWordWrap(true);
+    told->setFixedWidth(instruction_px);
     layout->addWidget(told, 0, 0, 1, 4);
     new_date_ = text_label("lblYear_newdate", create_frame_);
     new_year_ = new QComboBox(create_frame_);
     new_year_->setObjectName("cboYear_new");
     new_year_->setAccessibleName(tr("Start of the new year"));
-    for (const std::string& choice : year_choices()) new_year_->addItem(qt(choice));
+    for (const std::string& choice : year_choices())
+        new_year_->addItem(qt(choice));
     new_year_->hide();
     auto* change = named_button(tr("Chan&ge ..."), "cmdYear_change", create_frame_);
     new_path_ = text_label("lblYear_newpath", create_frame_);
@@ -231,8 +241,10 @@ void Year_Picker::leave() {
 }
 
 void Year_Picker::ok() {
-    if (module_.ok()) leave();
-    else refresh();
+    if (module_.ok())
+        leave();
+    else
+        refresh();
 }
 
 void Year_Picker::cancel() {
@@ -244,8 +256,10 @@ bool Year_Picker::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonDblClick) {
         for (int i = 0; i < 3; ++i)
             if (watched == rows_[static_cast<std::size_t>(i)].option) {
-                if (module_.double_click_option(option_of(i))) leave();
-                else refresh();
+                if (module_.double_click_option(option_of(i)))
+                    leave();
+                else
+                    refresh();
                 return true;
             }
     }

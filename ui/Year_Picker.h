@@ -1,5 +1,5 @@
-// The years dialog: the chain of up to three assessments of a farm, which of them is worked on, and the creation of the
-// next year's file.
+// The years dialog: the chain of up to three assessments of a farm, which of them is worked on, and the
+// creation of the next year's file.
 #pragma once
 
 #include <QWidget>

@@ -113,7 +113,7 @@ void entry_box::open(const QString& caption, const QString& instruction, const Q
     instruction_->setText(instruction);
     instruction_->setVisible(!instruction.isEmpty());
     grid_.set_locked(true);
-    for (QWidget* control : disabled_meanwhile_)
+    for (QWidget* control : *disabled_meanwhile_)
         control->setEnabled(false);
     if (line_) {
         line_->setText(text);
@@ -135,7 +135,7 @@ void entry_box::open(const QString& caption, const QString& instruction, const Q
 void entry_box::close_box() {
     if (isHidden()) return;
     hide();
-    for (QWidget* control : disabled_meanwhile_)
+    for (QWidget* control : *disabled_meanwhile_)
         control->setEnabled(true);
     grid_.set_locked(false);
     grid_.setFocus();

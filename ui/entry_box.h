@@ -33,8 +33,8 @@ class entry_box : public QFrame {
     /// `name` is the part of the object names behind fra, cmd, txt and lst, as in fraLand_area.
     entry_box(const QString& name, grid_view& grid, QWidget* parent);
 
-    /// Controls that stay disabled while the box is open.
-    void set_disabled_meanwhile(std::vector<QWidget*> controls) { disabled_meanwhile_ = std::move(controls); }
+    /// Controls that stay disabled while the box is open; the list is the screen's.
+    void set_disabled_meanwhile(const std::vector<QWidget*>* controls) { disabled_meanwhile_ = controls; }
 
     QLineEdit* use_number_box();
     QLineEdit* use_text_box();
@@ -74,7 +74,7 @@ class entry_box : public QFrame {
     QPushButton* enter_button_;
     QPushButton* cancel_button_;
     operation enter_;
-    std::vector<QWidget*> disabled_meanwhile_;
+    const std::vector<QWidget*>* disabled_meanwhile_ = nullptr;
     int buttons_ = 0;
 };
 

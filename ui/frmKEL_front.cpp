@@ -19,8 +19,8 @@ namespace {
 
 using front = assessments_module;
 
-// One command of the screen: its button, its menu entry or both; `needs` is the screen it opens, without which the command
-// is shown disabled.
+// One command of the screen: its button, its menu entry or both; `needs` is the screen it opens, without
+// which the command is shown disabled.
 struct command {
     const char* name;
     const char* button;
@@ -177,11 +177,14 @@ void frmKEL_front::refresh() {
     const bool open = !state_.assess_file.empty();
     const QString farm = qt(state_.farm_name);
     // A name of any length must not widen the window.
-    farm_->setText(open ? farm_->fontMetrics().elidedText(farm, Qt::ElideRight, 640) : tr("No assessment is open"));
+    farm_->setText(open ? farm_->fontMetrics().elidedText(farm, Qt::ElideRight, 640)
+                        : tr("No assessment is open"));
     farm_->setToolTip(open && farm.size() < 500 ? farm : QString());
     QString told = tr("Create a new farm, or open an assessment.");
     if (open) {
-        told = state_.kel_year_start ? tr("KEL year from %1   ").arg(qt(long_date_text(*state_.kel_year_start))) : "";
+        told = state_.kel_year_start
+                   ? tr("KEL year from %1   ").arg(qt(long_date_text(*state_.kel_year_start)))
+                   : "";
         told += qt(state_.assess_file);
     }
     file_->setText(told);

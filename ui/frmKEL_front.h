@@ -1,4 +1,5 @@
-// The assessments screen: the program's hub. It forwards its buttons and menu entries and shows which assessment is open.
+// The assessments screen: the program's hub. It forwards its buttons and menu entries and shows which
+// assessment is open.
 #pragma once
 
 #include <QMainWindow>

@@ -1,6 +1,5 @@
 #include "ui/frmLand_new.h"
 
-#include <QCloseEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -25,10 +24,8 @@ namespace kel {
 namespace text = land_messages;
 
 frmLand_new::frmLand_new(application_state& state, prompts& person, report_desk& desk)
-    : module_(state, person), state_(state), desk_(desk) {
+    : module_screen("frmLand_new", qt(text::title)), module_(state, person), state_(state), desk_(desk) {
     module_.load_land_stuff();
-    setObjectName("frmLand_new");
-    setWindowTitle(qt(text::title));
     land_ = new grid_view(module_.land(), "MSFlexGridLand", this);
     land_->setAccessibleName(qt(text::land_tab));
     animals_ = new grid_view(module_.animals(), "MSFlexGridLand_animals", this);
@@ -42,7 +39,7 @@ frmLand_new::frmLand_new(application_state& state, prompts& person, report_desk&
     views_->addWidget(result_page());
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(views_);
-    main_buttons_.push_back(tabs_->tabBar());
+    disable_meanwhile(tabs_->tabBar());
     add_land_boxes();
     add_stock_boxes();
     connect(land_, &grid_view::cell_chosen, this,
@@ -56,31 +53,20 @@ frmLand_new::frmLand_new(application_state& state, prompts& person, report_desk&
 QWidget* frmLand_new::tab_page(const QString& instruction, grid_view* grid, const char* suffix) {
     auto* page = new QWidget(this);
     auto* layout = new QVBoxLayout(page);
-    auto* told = new QLabel(instruction, page);
-    told->setObjectName(QString("lblLand_instruction") + suffix);
-    told->setTextFormat(Qt::PlainText);
-    told->setWordWrap(true);
+    auto* told = new_text(QString("lblLand_instruction") + suffix, page);
+    told->setText(instruction);
     layout->addWidget(told);
     layout->addWidget(grid, 1);
     auto* row = new QHBoxLayout;
-    const auto button = [&](const QString& caption, const QString& name, auto action) {
-        auto* made = new QPushButton(caption, page);
-        made->setObjectName(name + suffix);
-        connect(made, &QPushButton::clicked, this, action);
-        row->addWidget(made);
-        return made;
-    };
-    main_buttons_.push_back(button(tr("&Calculate"), "cmdLand_continue", [this] { calculate(); }));
-    main_buttons_.push_back(button(tr("&Save"), "cmdLand_save", [this] { save(); }));
-    main_buttons_.push_back(button(tr("&Open Assessments"), "cmdLand_open", [this] {
+    add_command(row, tr("&Calculate"), QString("cmdLand_continue") + suffix, [this] { calculate(); });
+    add_command(row, tr("&Save"), QString("cmdLand_save") + suffix, [this] { save(); });
+    add_command(row, tr("&Open Assessments"), QString("cmdLand_open") + suffix, [this] {
         state_.picker_caller = picker_module::land;
         emit years_wanted();
-    }));
-    auto* import = button(tr("Add records from another file"), "cmdImport_land", [] {});
-    import->setEnabled(false);
-    import->setToolTip(tr("Not part of this version"));
+    });
+    add_missing_command(row, tr("Add records from another file"), QString("cmdImport_land") + suffix);
     row->addStretch();
-    main_buttons_.push_back(button(tr("Close &Module"), "cmdLand_cancel", [this] { close(); }));
+    add_command(row, tr("Close &Module"), QString("cmdLand_cancel") + suffix, [this] { close(); });
     layout->addLayout(row);
     return page;
 }
@@ -101,37 +87,18 @@ QWidget* frmLand_new::result_page() {
         values_.push_back(value);
     }
     layout->addLayout(lines);
-    comment_ = new QLabel(page);
-    comment_->setObjectName("lblLand_comment");
-    note_ = new QLabel(page);
-    note_->setObjectName("lblLand_note");
-    for (QLabel* label : {comment_, note_}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        layout->addWidget(label);
-    }
+    comment_ = new_text("lblLand_comment", page);
+    note_ = new_text("lblLand_note", page);
+    layout->addWidget(comment_);
+    layout->addWidget(note_);
     layout->addStretch();
     auto* row = new QHBoxLayout;
-    const auto button = [&](const QString& caption, const char* name, auto action) {
-        auto* made = new QPushButton(caption, page);
-        made->setObjectName(name);
-        connect(made, &QPushButton::clicked, this, action);
-        row->addWidget(made);
-    };
-    button(tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
-    button(tr("&Print Result"), "cmdLand_print", [this] { print_result(); });
+    report_ = add_command(row, tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
+    add_command(row, tr("&Print Result"), "cmdLand_print", [this] { print_result(); });
     row->addStretch();
-    button(tr("&Back"), "cmdLand_back", [this] { back(); });
+    add_command(row, tr("&Back"), "cmdLand_back", [this] { back(); });
     layout->addLayout(row);
     return page;
-}
-
-entry_box* frmLand_new::new_box(const char* name, grid_view& grid) {
-    auto* box = new entry_box(name, grid, this);
-    box->set_disabled_meanwhile(main_buttons_);
-    connect(box, &entry_box::closed, this, &frmLand_new::refresh);
-    return box;
 }
 
 void frmLand_new::add_land_boxes() {
@@ -140,7 +107,8 @@ void frmLand_new::add_land_boxes() {
     const auto erase = [this, row] { return module_.erase_land_row(row()); };
     field_box_ = new_box("Land_fieldID", *land_);
     field_box_->use_list({});
-    field_box_->on_enter([this, row] { return module_.enter_field(row(), field_box_->chosen().value_or("")); });
+    field_box_->on_enter(
+        [this, row] { return module_.enter_field(row(), field_box_->chosen().value_or("")); });
     field_box_->add_clear([this, row] { return module_.clear_field(row()), true; });
     field_box_->add_erase(erase);
     area_box_ = new_box("Land_area", *land_);
@@ -161,9 +129,11 @@ void frmLand_new::add_stock_boxes() {
     const auto erase = [this, row] { return module_.erase_stock_row(row()); };
     stock_box_ = new_box("Land_animal", *animals_);
     QStringList types;
-    for (const auto& type : stock_types()) types << qt(type.name);
+    for (const auto& type : stock_types())
+        types << qt(type.name);
     stock_box_->use_list(types);
-    stock_box_->on_enter([this, row] { return module_.enter_stock(row(), stock_box_->chosen().value_or("")); });
+    stock_box_->on_enter(
+        [this, row] { return module_.enter_stock(row(), stock_box_->chosen().value_or("")); });
     stock_box_->add_clear([this, row] { return module_.clear_stock(row()), true; });
     stock_box_->add_erase(erase);
     number_box_ = new_box("Land_animal_no", *animals_);
@@ -196,7 +166,8 @@ void frmLand_new::open_box(const land_opening& opening, grid_view& grid) {
     if (!box) return;
     if (box == field_box_) {
         QStringList names;
-        for (const std::string& name : module_.field_names()) names << qt(name);
+        for (const std::string& name : module_.field_names())
+            names << qt(name);
         field_box_->use_list(names);
     }
     box->open(qt(opening.caption), qt(opening.instruction), grid.currentIndex().data().toString());
@@ -217,12 +188,13 @@ void frmLand_new::reload() {
 void frmLand_new::calculate() {
     module_.calculate();
     const auto lines = text::panel_lines(*module_.result());
-    for (std::size_t i = 0; i < values_.size(); ++i) values_[i]->setText(qt(lines[i].value));
+    for (std::size_t i = 0; i < values_.size(); ++i)
+        values_[i]->setText(qt(lines[i].value));
     comment_->setText(qt(text::comment(*module_.result())));
     note_->setText(qt(text::note(*module_.result())));
     note_->setVisible(!note_->text().isEmpty());
     views_->setCurrentIndex(1);
-    findChild<QPushButton*>("cmdReport")->setFocus();
+    report_->setFocus();
 }
 
 void frmLand_new::back() {
@@ -240,12 +212,6 @@ void frmLand_new::print_result() {
     print_page(framed_page(land_report(*module_.result(), module_.land(), module_.animals()), desk_.today(),
                            desk_.developer),
                desk_.state.places.written_folder, this);
-}
-
-void frmLand_new::closeEvent(QCloseEvent* event) {
-    if (!module_.close()) return event->ignore();
-    event->accept();
-    emit left();
 }
 
 }  // namespace kel

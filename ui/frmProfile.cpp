@@ -53,6 +53,7 @@ frmProfile::frmProfile(profile_module& module, report_desk& desk, application_st
 // The texts go to the module as they are typed, so that nothing on the screen can differ from what is saved.
 QWidget* frmProfile::farm_entries() {
     auto* panel = new QWidget(this);
+    panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* columns = new QHBoxLayout(panel);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(24);
@@ -73,12 +74,13 @@ QWidget* frmProfile::farm_entries() {
     year_frame_ = new QGroupBox(tr("Year"), panel);
     year_frame_->setObjectName("fraProfile_year");
     auto* year_layout = new QVBoxLayout(year_frame_);
-    auto* year_caption = new QLabel(
-        tr("Select the date at which the KEL &year to be assessed comences:"), year_frame_);
+    auto* year_caption =
+        new QLabel(tr("Select the date at which the KEL &year to be assessed comences:"), year_frame_);
     year_caption->setWordWrap(true);
     year_ = new QComboBox(year_frame_);
     year_->setObjectName("cboAssess_year");
-    for (const std::string& choice : year_choices()) year_->addItem(qt(choice));
+    for (const std::string& choice : year_choices())
+        year_->addItem(qt(choice));
     year_caption->setBuddy(year_);
     year_layout->addWidget(year_caption);
     year_layout->addWidget(year_);
@@ -86,7 +88,8 @@ QWidget* frmProfile::farm_entries() {
     columns->addWidget(year_frame_, 2);
 
     connect(name_, &QLineEdit::textChanged, this, [this](const QString& t) { module_.set_name(from_qt(t)); });
-    connect(area_, &QLineEdit::textChanged, this, [this](const QString& t) { module_.set_total_area(from_qt(t)); });
+    connect(area_, &QLineEdit::textChanged, this,
+            [this](const QString& t) { module_.set_total_area(from_qt(t)); });
     connect(kel_area_, &QLineEdit::textChanged, this,
             [this](const QString& t) { module_.set_kel_area(from_qt(t)); });
     connect(year_, &QComboBox::currentTextChanged, this,
@@ -120,12 +123,13 @@ QWidget* frmProfile::field_entries() {
         module_.set_field_count(from_qt(t));
         create_->setText(qt(module_.create_caption()));
     });
-    connect(count_, &QLineEdit::returnPressed, this, [this] { and_refresh([this] { module_.create_fields(); }); });
-    connect(create_, &QPushButton::clicked, this, [this] { and_refresh([this] { module_.create_fields(); }); });
+    connect(count_, &QLineEdit::returnPressed, this,
+            [this] { and_refresh([this] { module_.create_fields(); }); });
+    connect(create_, &QPushButton::clicked, this,
+            [this] { and_refresh([this] { module_.create_fields(); }); });
     const auto clipboard = [] { return from_qt(QApplication::clipboard()->text()); };
-    connect(paste_both, &QPushButton::clicked, this, [this, clipboard] {
-        and_refresh([&] { module_.paste_names_and_sizes(clipboard()); });
-    });
+    connect(paste_both, &QPushButton::clicked, this,
+            [this, clipboard] { and_refresh([&] { module_.paste_names_and_sizes(clipboard()); }); });
     connect(paste_names, &QPushButton::clicked, this,
             [this, clipboard] { and_refresh([&] { module_.paste_names(clipboard()); }); });
     main_buttons_ = {create_, paste_both, paste_names, count_};
@@ -164,7 +168,8 @@ void frmProfile::add_boxes() {
     name_box_ = new entry_box("Profile_fname", *grid_, this);
     QLineEdit* name_edit = name_box_->use_text_box();
     name_edit->installEventFilter(this);
-    name_box_->on_enter([this] { return module_.enter_name(grid_->current_row(), name_box_->entered_text()); });
+    name_box_->on_enter(
+        [this] { return module_.enter_name(grid_->current_row(), name_box_->entered_text()); });
 
     area_box_ = new entry_box("Profile_farea", *grid_, this);
     area_box_->use_number_box();
@@ -175,7 +180,8 @@ void frmProfile::add_boxes() {
 
     soil_box_ = new entry_box("Profile_soil", *grid_, this);
     QStringList soils;
-    for (const std::string_view soil : soil_types) soils << qt(soil);
+    for (const std::string_view soil : soil_types)
+        soils << qt(soil);
     soil_box_->use_list(soils);
     soil_box_->on_enter([this] {
         const auto rows = grid_->selected_rows();
@@ -185,7 +191,7 @@ void frmProfile::add_boxes() {
     for (entry_box* box : {name_box_, area_box_, soil_box_}) {
         box->add_clear([this] { return module_.clear_cell(grid_->current_row(), grid_->current_column()); });
         box->add_erase([this] { return module_.erase_row(grid_->current_row()); });
-        box->set_disabled_meanwhile(main_buttons_);
+        box->set_disabled_meanwhile(&main_buttons_);
         connect(box, &entry_box::closed, this, &frmProfile::refresh);
     }
 }
@@ -199,7 +205,8 @@ void frmProfile::open_box(int row, int column) {
     if (!box) return;
     const auto rows = grid_->selected_rows();
     const bool fills_range = box != name_box_ && rows.last > rows.first;
-    const QString told = fills_range ? tr("Goes into %1 selected fields.").arg(rows.last - rows.first + 1) : QString();
+    const QString told =
+        fills_range ? tr("Goes into %1 selected fields.").arg(rows.last - rows.first + 1) : QString();
     box->open(qt(box_caption(wanted)), told, qt(module_.fields().cell(row, column)));
 }
 
@@ -234,7 +241,8 @@ void frmProfile::set_profile() {
 }
 
 void frmProfile::cancel() {
-    for (entry_box* box : {name_box_, area_box_, soil_box_}) box->close_box();
+    for (entry_box* box : {name_box_, area_box_, soil_box_})
+        box->close_box();
     // The assessments screen comes back even if the last assessment cannot be read any more.
     emit left();
     module_.cancel();

@@ -46,6 +46,14 @@ void grid_view::lay_out_columns() {
             header->fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, heading).height());
     }
     header->setFixedHeight(height + cell_padding_px);
+    first_column_px_ = columnWidth(0);
+}
+
+// The first column, which holds names, takes the width that the others leave.
+void grid_view::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    const int others = horizontalHeader()->length() - columnWidth(0);
+    setColumnWidth(0, std::max(first_column_px_, viewport()->width() - others));
 }
 
 grid_view::row_range grid_view::selected_rows() const {

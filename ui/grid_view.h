@@ -39,6 +39,7 @@ class grid_view : public QTableView {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void lay_out_columns();
@@ -46,6 +47,7 @@ class grid_view : public QTableView {
     bool leaves_by_tab(const QKeyEvent* event) const;
     grid_model* model_;
     bool locked_ = false;
+    int first_column_px_ = 0;  // what its heading and cells need
 };
 
 }  // namespace kel

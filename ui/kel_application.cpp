@@ -6,17 +6,24 @@
 
 #include "core/file_error.h"
 
+// The pictures lie in a library, whose resources nobody registers unasked; the macro wants to stand outside
+// namespaces.
+static void register_pictures() {
+    Q_INIT_RESOURCE(resources);
+}
+
 namespace kel {
 
 message stop_box(const std::exception& failure) {
-    message box{"", "Something unexpected went wrong:\r\n\r\n" + std::string(failure.what()), message_kind::stop,
-                message_buttons::ok};
+    message box{"", "Something unexpected went wrong:\r\n\r\n" + std::string(failure.what()),
+                message_kind::stop, message_buttons::ok};
     if (const auto* file = dynamic_cast<const file_error*>(&failure))
         box.text = "There is a problem with the file\r\n" + file->file() + "\r\n\r\n" + file->trouble();
     return box;
 }
 
 kel_application::kel_application(int& argc, char** argv) : QApplication(argc, argv) {
+    register_pictures();
     setApplicationName("kel-calculator");
     setApplicationDisplayName("KEL Calculator");
     setDesktopFileName("org.kel_calculator.KelCalculator");

@@ -1,5 +1,5 @@
-// The application with the one place where an unexpected failure is caught: round the event loop. It is shown as a stop box
-// that names the file and the trouble; the screen and what was typed stay.
+// The application with the one place where an unexpected failure is caught: round the event loop. It is shown
+// as a stop box that names the file and the trouble; the screen and what was typed stay.
 #pragma once
 
 #include <QApplication>

@@ -15,10 +15,12 @@ int main(int argc, char** argv) {
     try {
         const auto places = kel::locate_installation(
             kel::from_qt(QCoreApplication::applicationFilePath()),
-            kel::from_qt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/kel-calculator"));
+            kel::from_qt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                         "/kel-calculator"));
         kel::prepare_written_folder(places);
         kel::program program(places, prompts, kel::today);
-        QObject::connect(&program, &kel::program::ended, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+        QObject::connect(&program, &kel::program::ended, &application, &QCoreApplication::quit,
+                         Qt::QueuedConnection);
         // The desktop hands over the assessment that was opened from a folder.
         const QStringList arguments = QCoreApplication::arguments();
         const std::string assessment =

@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/qt_text.h"
-
 namespace kel {
 
 namespace {
@@ -19,7 +17,8 @@ constexpr double map_width = side * grid_columns;
 constexpr double map_height = side * grid_rows;
 
 // Fills that stay apart in print and for most colour-blind eyes, in the order in which the zones come up.
-constexpr std::array<QRgb, 6> zone_colours{0xffe6b45a, 0xff7fb3d9, 0xffc78fc1, 0xff8cc08a, 0xffd98880, 0xffb0b070};
+constexpr std::array<QRgb, 6> zone_colours{0xffe6b45a, 0xff7fb3d9, 0xffc78fc1,
+                                           0xff8cc08a, 0xffd98880, 0xffb0b070};
 constexpr QRgb sea_colour = 0xffdde9f0;
 constexpr QRgb land_colour = 0xfff4f1e6;
 constexpr QRgb coast_colour = 0xff5d6b60;
@@ -69,7 +68,8 @@ map_view::map_view(const std::vector<zone_square>& squares, QWidget* parent) : Q
     land_.setFillRule(Qt::WindingFill);
     read_coast(land_, border_);
     for (const zone_square& s : squares) {
-        auto found = std::find_if(tints_.begin(), tints_.end(), [&](const tint& t) { return t.zone == s.zone; });
+        auto found =
+            std::find_if(tints_.begin(), tints_.end(), [&](const tint& t) { return t.zone == s.zone; });
         if (found == tints_.end()) {
             tints_.push_back({s.zone, QColor(zone_colours[tints_.size() % zone_colours.size()]), {}});
             found = std::prev(tints_.end());
@@ -78,7 +78,9 @@ map_view::map_view(const std::vector<zone_square>& squares, QWidget* parent) : Q
     }
 }
 
-QSize map_view::sizeHint() const { return {560, static_cast<int>(560 * map_height / map_width)}; }
+QSize map_view::sizeHint() const {
+    return {560, static_cast<int>(560 * map_height / map_width)};
+}
 
 void map_view::show_grid(bool on) {
     grid_ = on;
@@ -114,7 +116,8 @@ void map_view::paintEvent(QPaintEvent*) {
     painter.save();
     painter.setClipPath(land_, Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    for (const tint& t : tints_) painter.fillPath(t.area, t.colour);
+    for (const tint& t : tints_)
+        painter.fillPath(t.area, t.colour);
     painter.restore();
     QPen pen{QColor(coast_colour)};
     pen.setCosmetic(true);
@@ -131,10 +134,8 @@ void map_view::paintEvent(QPaintEvent*) {
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(QRectF(twips_of(marked_->x, marked_->y), QSizeF(side, side)));
     }
-    painter.resetTransform();
-    painter.setClipping(false);
-    draw_legend(painter);
     if (hasFocus()) {
+        painter.resetTransform();
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(twips_to_widget().mapRect(sheet).adjusted(1, 1, -1, -1));
@@ -150,30 +151,16 @@ void map_view::draw_grid(QPainter& painter) const {
         const double x = side * i - left_margin_twips;
         painter.drawLine(QPointF(x, 0), QPointF(x, map_height));
     }
-    for (int i = 0; i <= grid_rows; ++i) painter.drawLine(QPointF(0, side * i), QPointF(map_width, side * i));
+    for (int i = 0; i <= grid_rows; ++i)
+        painter.drawLine(QPointF(0, side * i), QPointF(map_width, side * i));
     painter.setRenderHint(QPainter::Antialiasing);
 }
 
-// The open sea of the north-east corner has room for the names of the zones.
-void map_view::draw_legend(QPainter& painter) const {
-    const QRectF sheet = twips_to_widget().mapRect(QRectF(0, 0, map_width, map_height));
-    const int line = painter.fontMetrics().height() + 4;
-    int widest = 0;
-    for (const tint& t : tints_) widest = std::max(widest, painter.fontMetrics().horizontalAdvance(qt(t.zone)));
-    const int swatch = line - 6;
-    const QRectF box(sheet.left() + 6, sheet.bottom() - line * static_cast<int>(tints_.size()) - 14,
-                     widest + swatch + 22, line * static_cast<int>(tints_.size()) + 8);
-    painter.setPen(QColor(coast_colour));
-    painter.setBrush(QColor(255, 255, 255, 225));
-    painter.drawRect(box);
-    double y = box.top() + 4;
-    for (const tint& t : tints_) {
-        const QRectF mark(box.left() + 6, y + 3, swatch, swatch);
-        painter.fillRect(mark, t.colour);
-        painter.setPen(Qt::black);
-        painter.drawText(QRectF(mark.right() + 8, y, widest + 4, line), Qt::AlignVCenter, qt(t.zone));
-        y += line;
-    }
+std::vector<map_view::legend_entry> map_view::legend() const {
+    std::vector<legend_entry> entries;
+    for (const tint& t : tints_)
+        entries.push_back({t.zone, t.colour});
+    return entries;
 }
 
 void map_view::mouseMoveEvent(QMouseEvent* event) {

@@ -1,7 +1,9 @@
-// The map of Scotland: the coast, the zones tinted, the grid and the marker of the chosen square. Everything is drawn from
-// figures in the map's twips, so it is sharp at any size. The pointer reports twips; the arrow keys move the square.
+// The map of Scotland: the coast, the zones tinted, the grid and the marker of the chosen square. Everything
+// is drawn from figures in the map's twips, so it is sharp at any size. The pointer reports twips; the arrow
+// keys move the square.
 #pragma once
 
+#include <QColor>
 #include <QPainterPath>
 #include <QWidget>
 #include <optional>
@@ -17,6 +19,12 @@ class map_view : public QWidget {
 
   public:
     map_view(const std::vector<zone_square>& squares, QWidget* parent);
+
+    struct legend_entry {
+        std::string zone;
+        QColor colour;
+    };
+    std::vector<legend_entry> legend() const;
 
     void show_grid(bool on);
     /// Marks the square of these numbers, or none.
@@ -43,7 +51,6 @@ class map_view : public QWidget {
     };
     QTransform twips_to_widget() const;
     QPoint twips_at(const QPointF& position) const;
-    void draw_legend(QPainter& painter) const;
     void draw_grid(QPainter& painter) const;
     QPainterPath land_;
     QPainterPath border_;

@@ -15,7 +15,8 @@ page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
     paper.setColor(QPalette::Link, QColor(0, 70, 160));
     setPalette(paper);
     document()->setDocumentMargin(16);
-    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { follow(source().resolved(link)); });
+    connect(this, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& link) { follow(source().resolved(link)); });
 }
 
 bool page_view::navigate(const QString& page) {
@@ -26,11 +27,13 @@ bool page_view::navigate(const QString& page) {
 bool page_view::follow(const QUrl& url) {
     if (url.scheme().startsWith("http") || url.scheme() == "mailto") {
         QDesktopServices::openUrl(url);
-        setHtml(tr("<p>The page <b>%1</b> is shown in your web browser.</p>").arg(url.toDisplayString().toHtmlEscaped()));
+        setHtml(tr("<p>The page <b>%1</b> is shown in your web browser.</p>")
+                    .arg(url.toDisplayString().toHtmlEscaped()));
         return true;
     }
     if (!url.isLocalFile() || !QFileInfo::exists(url.toLocalFile())) {
-        setHtml(tr("<p>There is no page <b>%1</b>.</p>").arg(url.toDisplayString(QUrl::PreferLocalFile).toHtmlEscaped()));
+        setHtml(tr("<p>There is no page <b>%1</b>.</p>")
+                    .arg(url.toDisplayString(QUrl::PreferLocalFile).toHtmlEscaped()));
         return false;
     }
     setSource(url);

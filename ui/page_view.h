@@ -1,5 +1,5 @@
-// The page of the report viewer: local pages with relative links. Nothing in a page can run and no network is touched; a
-// web address goes to the desktop's browser.
+// The page of the report viewer: local pages with relative links. Nothing in a page can run and no network is
+// touched; a web address goes to the desktop's browser.
 #pragma once
 
 #include <QTextBrowser>
@@ -11,7 +11,8 @@ class page_view : public QTextBrowser {
 
   public:
     explicit page_view(QWidget* parent = nullptr);
-    /// Shows a local page or hands a web address to the desktop, telling so on the page. False: there is no such page.
+    /// Shows a local page or hands a web address to the desktop, telling so on the page. False: there is no
+    /// such page.
     bool navigate(const QString& page);
 
   protected:

@@ -17,7 +17,8 @@ void print_document(const QTextDocument& document, QWidget* parent) {
 
 void print_page(const page_lines& page, const std::string& folder, QWidget* parent) {
     QString html;
-    for (const std::string& line : page) html += qt(line) + '\n';
+    for (const std::string& line : page)
+        html += qt(line) + '\n';
     QTextDocument document;
     document.setBaseUrl(QUrl::fromLocalFile(qt(folder) + '/'));
     document.setHtml(html);

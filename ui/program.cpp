@@ -13,6 +13,7 @@
 #include "ui/frmKEL_splash.h"
 #include "ui/frmLand_new.h"
 #include "ui/frmProfile.h"
+#include "ui/module_screen.h"
 #include "ui/qt_text.h"
 
 namespace kel {
@@ -25,18 +26,23 @@ constexpr std::string_view viewer_tag = "viewer";
 
 constexpr std::array<std::string_view, 4> built_screens{"land", "profile", "splash", "years"};
 
+struct picker_tag {
+    picker_module caller;
+    std::string_view tag;
+};
+constexpr std::array<picker_tag, 1> picker_tags{{{picker_module::land, "land"}}};
+
 struct window_size {
     std::string_view tag;
     int width;
     int height;
 };
 // Sizes at first view; each fits a screen of 1280 x 800.
-constexpr std::array<window_size, 6> first_sizes{{{"front", 900, 620},
+constexpr std::array<window_size, 5> first_sizes{{{"front", 900, 620},
                                                   {"profile", 1000, 700},
                                                   {"location", 1000, 760},
                                                   {"land", 1220, 720},
-                                                  {"viewer", 1040, 740},
-                                                  {"years", 760, 420}}};
+                                                  {"viewer", 1040, 740}}};
 
 }  // namespace
 
@@ -63,10 +69,16 @@ QWidget* program::screen(std::string_view tag) const {
     return found == screens_.end() ? nullptr : found->second.get();
 }
 
+module_screen* program::make_module(std::string_view tag) {
+    if (tag == "land") return new frmLand_new(state_, person_, desk_);
+    return nullptr;
+}
+
 QWidget* program::make(std::string_view tag) {
     const auto leaving_to = [this](auto* screen, auto left, std::string_view from, std::string_view to) {
         // Queued: the screen that says it is left must not be deleted under its own feet.
-        connect(screen, left, this, [this, from, to] { leave(from, to); }, Qt::QueuedConnection);
+        connect(
+            screen, left, this, [this, from, to] { leave(from, to); }, Qt::QueuedConnection);
     };
     if (tag == front_tag) {
         auto* front = new frmKEL_front(front_, state_, *this);
@@ -91,11 +103,13 @@ QWidget* program::make(std::string_view tag) {
         leaving_to(map, &Scotland::closed, location_tag, "profile");
         return map;
     }
-    if (tag == "land") {
-        auto* land = new frmLand_new(state_, person_, desk_);
-        leaving_to(land, &frmLand_new::left, "land", front_tag);
-        connect(land, &frmLand_new::years_wanted, this, [this] { open("years"); });
-        return land;
+    if (module_screen* module = make_module(tag)) {
+        connect(
+            module, &module_screen::left, this,
+            [this, module, left = std::string(tag)] { leave(left, module->back_tag()); },
+            Qt::QueuedConnection);
+        connect(module, &module_screen::years_wanted, this, [this] { open("years"); });
+        return module;
     }
     if (tag == "years") {
         auto* years = new Year_Picker(years_);
@@ -109,7 +123,8 @@ QWidget* program::make(std::string_view tag) {
         return splash;
     }
     auto* viewer = new FullScreen(state_, person_, report_folder_);
-    connect(viewer, &FullScreen::closed, this, [this] { close_viewer(); }, Qt::QueuedConnection);
+    connect(
+        viewer, &FullScreen::closed, this, [this] { close_viewer(); }, Qt::QueuedConnection);
     return viewer;
 }
 
@@ -154,7 +169,8 @@ void program::open(std::string_view tag) {
         throw;
     }
     wait_cursor(false);
-    if (tag == "years" && !(there && screen(tag)->isVisible())) static_cast<Year_Picker*>(screen(tag))->open();
+    if (tag == "years" && !(there && screen(tag)->isVisible()))
+        static_cast<Year_Picker*>(screen(tag))->open();
     show_screen(tag);
 }
 
@@ -162,10 +178,13 @@ bool program::exists(std::string_view tag) const {
     return std::find(built_screens.begin(), built_screens.end(), tag) != built_screens.end();
 }
 
-bool program::start_updater(const std::string& path) { return QProcess::startDetached(qt(path), {}); }
+bool program::start_updater(const std::string& path) {
+    return QProcess::startDetached(qt(path), {});
+}
 
 void program::end() {
-    for (const auto& [tag, widget] : screens_) widget->hide();
+    for (const auto& [tag, widget] : screens_)
+        widget->hide();
     emit ended();
 }
 
@@ -176,7 +195,9 @@ void program::wait_cursor(bool on) {
         QApplication::restoreOverrideCursor();
 }
 
-void program::hide_screen(std::string_view tag) { made(tag)->hide(); }
+void program::hide_screen(std::string_view tag) {
+    made(tag)->hide();
+}
 
 void program::show(const viewer_request& request) {
     show_screen(viewer_tag);
@@ -188,8 +209,10 @@ void program::close_viewer() {
 }
 
 void program::reload(picker_module caller) {
-    if (caller == picker_module::land)
-        if (auto* land = static_cast<frmLand_new*>(screen("land"))) land->reload();
+    const auto entry = std::find_if(picker_tags.begin(), picker_tags.end(),
+                                    [&](const picker_tag& p) { return p.caller == caller; });
+    if (entry == picker_tags.end()) return;
+    if (auto* module = static_cast<module_screen*>(screen(entry->tag))) module->reload();
 }
 
 void program::refresh_front() {

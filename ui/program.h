@@ -1,5 +1,5 @@
-// The running program: the application state, the modules and their screens. It brings screens to view by their tags and
-// is the viewer for the report generation; everything else is the modules' doing.
+// The running program: the application state, the modules and their screens. It brings screens to view by
+// their tags and is the viewer for the report generation; everything else is the modules' doing.
 #pragma once
 
 #include <QByteArray>
@@ -20,6 +20,8 @@ class QWidget;
 
 namespace kel {
 
+class module_screen;
+
 class program : public QObject, public screens, public report_viewer {
     Q_OBJECT
 
@@ -27,7 +29,8 @@ class program : public QObject, public screens, public report_viewer {
     program(const installation& places, prompts& person, std::function<date()> today);
     ~program() override;
 
-    /// Start-up in its order, then the assessments screen. A path opens that assessment, as the years dialog would.
+    /// Start-up in its order, then the assessments screen. A path opens that assessment, as the years dialog
+    /// would.
     void start(const std::string& assessment = {});
 
     application_state& state() { return state_; }
@@ -47,6 +50,7 @@ class program : public QObject, public screens, public report_viewer {
     void ended();
 
   private:
+    module_screen* make_module(std::string_view tag);
     QWidget* make(std::string_view tag);
     QWidget* made(std::string_view tag);
     /// Shows another screen and does away with this one; its size is kept for the next time.

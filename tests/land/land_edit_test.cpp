@@ -1,4 +1,5 @@
 // The edits of both tables: which box opens, what it refuses in which order, which cells follow.
+#include "core/module_messages.h"
 #include "tests/land/land_fixture.h"
 
 namespace kel::test {
@@ -14,7 +15,9 @@ TEST_F(LandEdit, WhiteCellsOpenTheirBoxAndGreyOnesSayWhy) {
               "Enter field area NOT in grass (in hectares)");
     EXPECT_EQ(module.click_land(0, land_col::slope).instruction.substr(0, 15), "Slopes = field ");
     EXPECT_EQ(module.click_animals(0, stock_column::number).box, land_box::number);
-    person.expect(says::calculation).expect(says::calculation).expect(says::calculation);
+    person.expect(module_messages::calculation)
+        .expect(module_messages::calculation)
+        .expect(module_messages::calculation);
     EXPECT_EQ(module.click_land(0, land_col::available).box, land_box::none);
     EXPECT_EQ(module.click_land(0, land_col::field_limit).box, land_box::none);
     EXPECT_EQ(module.click_animals(0, stock_column::total_n).box, land_box::none);
@@ -112,7 +115,7 @@ TEST_F(LandEdit, ClearingACellRecalculatesTheRow) {
 
 TEST_F(LandEdit, EntryRowsCannotBeErased) {
     open({{"Long Rig", "15"}, {"East Muir", "8"}});
-    person.expect(says::cannot_delete).expect(says::cannot_delete);
+    person.expect(module_messages::cannot_delete).expect(module_messages::cannot_delete);
     EXPECT_FALSE(module.erase_land_row(2));
     EXPECT_FALSE(module.erase_stock_row(0));
     EXPECT_TRUE(module.erase_land_row(0));

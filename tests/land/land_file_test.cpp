@@ -2,6 +2,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include "core/dates.h"
+#include "core/module_messages.h"
 #include "tests/land/land_fixture.h"
 
 namespace kel::test {
@@ -42,7 +43,8 @@ TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
     add_land("Old Park", {});
     add_land("Long Rig", {{"Available Field Area (ha)", "6.20"}, {"Total Area", "14"}});
     add_land("Sold Field", {});
-    person.expect(says::field_does_not_exist("Old Park")).expect(says::field_does_not_exist("Sold Field"));
+    person.expect(module_messages::field_does_not_exist("Old Park"))
+        .expect(module_messages::field_does_not_exist("Sold Field"));
     module.load_land_stuff();
     ASSERT_EQ(module.land().row_count(), 2);
     EXPECT_EQ(land(0, land_col::field), "Long Rig");
@@ -55,7 +57,7 @@ TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
     ASSERT_TRUE(module.save());
     EXPECT_TRUE(stored("Land", "Field Area ID").empty());
     add_land("Old Park", {});
-    person.expect(says::field_does_not_exist("Old Park"));
+    person.expect(module_messages::field_does_not_exist("Old Park"));
     module.load_land_stuff();
     EXPECT_EQ(land(0, land_col::field), "Long Rig");  // from the profile, since no row was left
 }

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/file_choice.h"
 #include "core/settings_store.h"
 #include "profile/profile_messages.h"
 #include "profile/profile_module.h"
@@ -128,11 +129,11 @@ TEST_F(SetProfile, AFileThatTheDialogDidNotAskAboutIsNotReplacedUnasked) {
     const std::string other = make_farm("other.kel", {{"Keep", "1"}});
     type_farm();
     person.expect_file("Set up a new profile", path("other"))
-        .expect(messages::replace_file("other.kel"), answer::no);
+        .expect(replace_file(messages::new_file_title, "other.kel"), answer::no);
     EXPECT_EQ(profile.set_profile(), result::cancelled);
     EXPECT_EQ(column_of(other, "Field Data", "Field Name"), std::vector<std::string>{"Keep"});
     person.expect_file("Set up a new profile", path("other"))
-        .expect(messages::replace_file("other.kel"), answer::yes);
+        .expect(replace_file(messages::new_file_title, "other.kel"), answer::yes);
     EXPECT_EQ(profile.set_profile(), result::saved);
     EXPECT_EQ(column_of(other, "Field Data", "Field Name"), std::vector<std::string>{"Low"});
 }

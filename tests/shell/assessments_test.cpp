@@ -1,6 +1,7 @@
 // The commands of the assessments screen: step entries with their prompts, files, help and the end.
 #include <filesystem>
 
+#include "core/file_choice.h"
 #include "shell/assessments_messages.h"
 #include "shell/assessments_module.h"
 #include "tests/shell/shell_fixture.h"
@@ -112,7 +113,7 @@ TEST_F(AssessmentsScreen, SaveAsThatFailsOrWouldReplaceAFileUnaskedKeepsTheOpenF
     open_farm({});
     write_file(path("other.kel"), "precious");
     save_as(path("other"));
-    person.expect(text::replace_file(text::save_as_title, "other.kel"), answer::no);
+    person.expect(replace_file(text::save_as_title, "other.kel"), answer::no);
     front.save_as();
     EXPECT_EQ(file_text(path("other.kel")), "precious");
     save_as(path("no_such_folder/copy.kel"));

@@ -1,9 +1,9 @@
-#include "shell/file_choice.h"
+#include "core/file_choice.h"
 
 #include <filesystem>
 #include <system_error>
 
-#include "shell/assessments_messages.h"
+#include "core/assessment_files.h"
 
 namespace kel {
 
@@ -18,10 +18,16 @@ file_request assessment_request(const application_state& state, std::string_view
 bool may_replace(prompts& person, std::string_view title, const std::string& path) {
     std::error_code ignored;
     if (!fs::exists(path, ignored)) return true;
-    return person.ask(assessments_messages::replace_file(title, file_name_of(path))) == answer::yes;
+    return person.ask(replace_file(title, file_name_of(path))) == answer::yes;
 }
 
 }  // namespace
+
+message replace_file(std::string_view title, std::string_view file_name) {
+    return {std::string(title),
+            "The file " + std::string(file_name) + " already exists. Do you want to replace it?",
+            message_kind::warning, message_buttons::yes_no};
+}
 
 std::string choose_file_to_open(application_state& state, prompts& person, std::string_view title) {
     std::string path = person.file_to_open(assessment_request(state, title));
@@ -38,6 +44,20 @@ std::string choose_file_to_save(application_state& state, prompts& person, std::
     }
     state.last_dir = folder_of(path);
     return path;
+}
+
+bool have_file_to_save(application_state& state, prompts& person, std::string_view refusal_title) {
+    if (!state.assess_file.empty()) return true;
+    const std::string chosen = choose_file_to_save(state, person, "Save the assessment");
+    if (chosen.empty()) return false;
+    if (chosen == state.prev1_file) {
+        person.tell(
+            {std::string(refusal_title), "This is last years file and cannot be saved to at this time!"});
+        return false;
+    }
+    copy_assessment(state.places.blank_assessment(), chosen);
+    state.assess_file = chosen;
+    return true;
 }
 
 bool same_file(const std::string& a, const std::string& b) {

@@ -1,0 +1,27 @@
+// What the modules say in the same words.
+#pragma once
+
+#include <string>
+
+#include "core/prompts.h"
+
+namespace kel::module_messages {
+
+inline const message calculation{"Calculation", "This element is calculated automatically!",
+                                 message_kind::information};
+inline const message cannot_delete{"Cannot Delete", "This row cannot be deleted!", message_kind::information};
+/// Step 1 speaks of "the module", the others of "this module".
+inline const message close_module{"Close Module",
+                                  "Are you sure you wish to close this module, unsaved data will be lost?",
+                                  message_kind::question, message_buttons::yes_no};
+
+/// A stored row whose field the farm profile no longer has.
+inline message field_does_not_exist(const std::string& name) {
+    return {
+        "Field does not exist",
+        "The field you are trying to load (" + name +
+            ") does not exist in the farm profile, and will not be imported. If you wish to include it in "
+            "the analysis, the profile will need to be amended before continuing!"};
+}
+
+}  // namespace kel::module_messages

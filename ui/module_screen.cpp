@@ -1,0 +1,57 @@
+#include "ui/module_screen.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPushButton>
+
+#include "ui/entry_box.h"
+
+namespace kel {
+
+module_screen::module_screen(const QString& name, const QString& title) {
+    setObjectName(name);
+    setWindowTitle(title);
+}
+
+void module_screen::closeEvent(QCloseEvent* event) {
+    if (!may_close()) return event->ignore();
+    event->accept();
+    emit left();
+}
+
+QLabel* module_screen::new_text(const QString& name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QPushButton* module_screen::add_command(QBoxLayout* row, const QString& caption, const QString& name,
+                                        std::function<void()> action) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    connect(button, &QPushButton::clicked, this, [run = std::move(action)] { run(); });
+    row->addWidget(button);
+    main_controls_.push_back(button);
+    return button;
+}
+
+void module_screen::add_missing_command(QBoxLayout* row, const QString& caption, const QString& name) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setEnabled(false);
+    button->setToolTip(tr("Not part of this version"));
+    row->addWidget(button);
+}
+
+entry_box* module_screen::new_box(const char* name, grid_view& grid) {
+    auto* box = new entry_box(name, grid, this);
+    box->set_disabled_meanwhile(&main_controls_);
+    connect(box, &entry_box::closed, this, [this] { refresh(); });
+    return box;
+}
+
+}  // namespace kel

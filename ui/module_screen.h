@@ -1,0 +1,57 @@
+// What the screens of all modules have in common: rows of commands that stay disabled while an entry box is
+// open, the close question, and the way back to the screen that opened them.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace kel {
+
+class entry_box;
+class grid_view;
+
+class module_screen : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit module_screen(const QString& name, const QString& title);
+
+    /// Loads the assessment anew, as after the years dialog. Throws file_error.
+    virtual void reload() = 0;
+    /// Tag of the screen to show when this one closes.
+    virtual std::string_view back_tag() const { return "front"; }
+
+  signals:
+    /// The module was closed.
+    void left();
+    void years_wanted();
+
+  protected:
+    /// Asks the module's close question.
+    virtual bool may_close() = 0;
+    /// Shows the grids as they now are.
+    virtual void refresh() = 0;
+    void closeEvent(QCloseEvent* event) override;
+
+    /// A label of plain, wrapped text.
+    QLabel* new_text(const QString& name, QWidget* parent);
+    /// A button at the end of the row; with an entry box open it is disabled.
+    QPushButton* add_command(QBoxLayout* row, const QString& caption, const QString& name,
+                             std::function<void()> action);
+    /// A button for what this version lacks.
+    void add_missing_command(QBoxLayout* row, const QString& caption, const QString& name);
+    /// An entry box over the grid, which refreshes this screen as it closes.
+    entry_box* new_box(const char* name, grid_view& grid);
+    /// Keeps this control, too, disabled while a box is open.
+    void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
+
+  private:
+    std::vector<QWidget*> main_controls_;
+};
+
+}  // namespace kel
