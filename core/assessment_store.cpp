@@ -343,7 +343,7 @@ void recordset::remove() {
 save_transaction::save_transaction(const database& db) : db_(db) {
     guarded(db.path(), [&] {
         // A file that came in write-ahead mode must end as one plain file again.
-        db.shared_->sqlite.exec("PRAGMA main.journal_mode = DELETE");
+        db.shared_->sqlite.exec("PRAGMA journal_mode = DELETE");
         db.shared_->sqlite.exec("BEGIN IMMEDIATE");
     });
 }

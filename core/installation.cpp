@@ -13,8 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view logo_file = "tolmlogoscot.jpg";
-
 void copy_if_missing(const fs::path& from, const fs::path& to) {
     std::error_code trouble;
     if (!fs::exists(from, trouble) || fs::exists(to, trouble)) return;

@@ -9,6 +9,9 @@
 
 namespace kel {
 
+/// The picture that every report refers to.
+inline constexpr std::string_view logo_file = "tolmlogoscot.jpg";
+
 /// Text before the last / or \; empty if there is none.
 std::string folder_of(std::string_view path);
 /// Text after the last / or \; empty if there is none.

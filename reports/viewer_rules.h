@@ -9,7 +9,6 @@
 
 namespace kel {
 
-inline constexpr std::string_view logo_file = "tolmlogoscot.jpg";
 inline constexpr std::string_view storage_chart_file = "rep_chart1.bmp";
 
 enum class third_button_action { back, contents, save };

@@ -25,7 +25,6 @@ message stop_box(const std::exception& failure) {
 kel_application::kel_application(int& argc, char** argv) : QApplication(argc, argv) {
     register_pictures();
     setApplicationName("kel-calculator");
-    setApplicationDisplayName("KEL Calculator");
     setDesktopFileName("org.kel_calculator.KelCalculator");
     setWindowIcon(QIcon(":/kel-calculator.png"));
     setQuitOnLastWindowClosed(false);

@@ -1,0 +1,178 @@
+#include "ui/storage_chart.h"
+
+#include <QEvent>
+#include <QGraphicsLayout>
+#include <QImageWriter>
+#include <QPalette>
+#include <QToolTip>
+#include <QtCharts/QBarCategoryAxis>
+#include <QtCharts/QLineSeries>
+#include <QtCharts/QScatterSeries>
+#include <QtCharts/QValueAxis>
+#include <algorithm>
+#include <cmath>
+
+#include "core/file_error.h"
+#include "ui/qt_text.h"
+
+namespace kel {
+
+namespace {
+
+const QStringList month_labels{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                               "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+constexpr double full_percent = 100;
+// A store of a few litres must not send the line into figures that the drawing cannot hold.
+constexpr float highest_drawn = 10000;
+constexpr QSize picture_px{720, 340};
+
+// Blue and vermilion stay apart in print and for most colour-blind eyes; the lighter pair is for dark themes.
+struct line_colours {
+    QRgb level;
+    QRgb full;
+};
+constexpr line_colours on_light{0xff1f5f99, 0xffb03a1e};
+constexpr line_colours on_dark{0xff7fb8ea, 0xffff9a7a};
+
+QPalette paper() {
+    QPalette white(Qt::white);
+    white.setColor(QPalette::Base, Qt::white);
+    white.setColor(QPalette::Text, Qt::black);
+    return white;
+}
+
+// The smallest round height, in percent, that the figures fit under and that the divisions cut into whole
+// numbers.
+double automatic_maximum(const monthly_percents& percents, int divisions) {
+    const double largest = *std::max_element(percents.begin(), percents.end());
+    for (const int step : {1, 2, 5, 10})
+        if (step * divisions >= largest) return step * divisions;
+    return std::ceil(largest / divisions) * divisions;
+}
+
+QColor mixed(const QColor& a, const QColor& b) {
+    return {(a.red() + 3 * b.red()) / 4, (a.green() + 3 * b.green()) / 4, (a.blue() + 3 * b.blue()) / 4};
+}
+
+}  // namespace
+
+storage_chart::storage_chart(QWidget* parent)
+    : QChartView(parent),
+      line_(new QLineSeries),
+      marks_(new QScatterSeries),
+      full_(new QLineSeries),
+      months_(new QBarCategoryAxis),
+      percent_axis_(new QValueAxis) {
+    setObjectName("MSChartStorage");
+    setAccessibleName(tr("Percent full at month end"));
+    setFocusPolicy(Qt::NoFocus);
+    setRenderHint(QPainter::Antialiasing);
+    setFrameStyle(QFrame::NoFrame);
+    setMinimumHeight(150);
+    chart()->legend()->hide();
+    chart()->setMargins({4, 4, 12, 4});
+    chart()->layout()->setContentsMargins(0, 0, 0, 0);
+    chart()->setBackgroundRoundness(0);
+    add_lines();
+    add_axes();
+    set_colours(palette());
+    show_percents({}, {});
+}
+
+void storage_chart::add_lines() {
+    for (int m = 0; m < 12; ++m) {
+        line_->append(m, 0);
+        marks_->append(m, 0);
+    }
+    full_->append(-0.5, full_percent);
+    full_->append(11.5, full_percent);
+    marks_->setMarkerSize(8);
+    connect(marks_, &QScatterSeries::hovered, this, &storage_chart::tell_point);
+    for (QXYSeries* series :
+         {static_cast<QXYSeries*>(full_), static_cast<QXYSeries*>(line_), static_cast<QXYSeries*>(marks_)})
+        chart()->addSeries(series);
+}
+
+void storage_chart::add_axes() {
+    months_->append(month_labels);
+    percent_axis_->setLabelFormat("%.0f");
+    percent_axis_->setTitleText(tr("% full at month end"));
+    chart()->addAxis(months_, Qt::AlignBottom);
+    chart()->addAxis(percent_axis_, Qt::AlignLeft);
+    for (QAbstractSeries* series : chart()->series()) {
+        series->attachAxis(months_);
+        series->attachAxis(percent_axis_);
+    }
+    QFont plain = percent_axis_->titleFont();
+    plain.setBold(false);
+    percent_axis_->setTitleFont(plain);
+}
+
+void storage_chart::set_colours(const QPalette& palette) {
+    const QColor ground = palette.color(QPalette::Base);
+    const QColor ink = palette.color(QPalette::Text);
+    const QColor grid = mixed(ink, ground);
+    const line_colours lines = ground.lightness() > 127 ? on_light : on_dark;
+    setBackgroundBrush(ground);
+    chart()->setBackgroundBrush(ground);
+    for (QAbstractAxis* axis : chart()->axes()) {
+        axis->setLabelsBrush(ink);
+        axis->setTitleBrush(ink);
+        axis->setLinePen(QPen(ink, 1));
+        axis->setGridLinePen(QPen(grid, 1));
+    }
+    months_->setGridLineVisible(false);
+    line_->setPen(QPen(QColor(lines.level), 2));
+    marks_->setBrush(QColor(lines.level));
+    marks_->setPen(QPen(ground, 1));
+    full_->setPen(QPen(QColor(lines.full), 1.5, Qt::DashLine));
+}
+
+void storage_chart::show_percents(const monthly_percents& percents, const chart_scale& scale) {
+    percents_ = percents;
+    scale_ = scale;
+    QList<QPointF> points;
+    for (std::size_t m = 0; m < percents.size(); ++m)
+        points << QPointF(static_cast<double>(m), std::min(percents[m], highest_drawn));
+    line_->replace(points);
+    marks_->replace(points);
+    percent_axis_->setTickCount(scale.divisions + 1);
+    percent_axis_->setRange(
+        0, scale.fixed_maximum > 0 ? scale.fixed_maximum : automatic_maximum(percents, scale.divisions));
+    describe();
+}
+
+void storage_chart::describe() {
+    QStringList figures;
+    for (std::size_t m = 0; m < percents_.size(); ++m)
+        figures
+            << QString("%1 %2 %").arg(month_labels[static_cast<qsizetype>(m)]).arg(percents_[m], 0, 'f', 1);
+    setAccessibleDescription(figures.join(", "));
+}
+
+void storage_chart::tell_point(const QPointF& point, bool entered) {
+    if (!entered) return QToolTip::hideText();
+    const auto month = static_cast<qsizetype>(std::lround(point.x()));
+    QToolTip::showText(
+        QCursor::pos(),
+        tr("%1: %2 %").arg(month_labels[month]).arg(percents_[static_cast<std::size_t>(month)], 0, 'f', 1),
+        this);
+}
+
+void storage_chart::changeEvent(QEvent* event) {
+    QChartView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) set_colours(palette());
+}
+
+void storage_chart::save_picture(const std::string& path) const {
+    storage_chart print;
+    print.set_colours(paper());
+    print.show_percents(percents_, scale_);
+    print.resize(picture_px);
+    const QImage picture = print.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QImageWriter writer(qt(path));
+    if (!writer.write(picture)) throw file_error(path, from_qt(writer.errorString()));
+}
+
+}  // namespace kel

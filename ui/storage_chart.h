@@ -1,0 +1,56 @@
+// The chart of the stores: how full they are at the end of each month, in percent. On the screen it wears the
+// desktop's colours; the picture for the report is always drawn on white.
+#pragma once
+
+#include <QtCharts/QChartView>
+#include <array>
+#include <string>
+
+class QBarCategoryAxis;
+class QLineSeries;
+class QScatterSeries;
+class QValueAxis;
+
+namespace kel {
+
+/// Percent full at the end of January to December.
+using monthly_percents = std::array<float, 12>;
+
+/// The value axis: up to `fixed_maximum` percent, or as high as the figures ask for when that is 0.
+struct chart_scale {
+    int fixed_maximum = 0;
+    int divisions = 10;
+    bool operator==(const chart_scale&) const = default;
+};
+
+class storage_chart : public QChartView {
+    Q_OBJECT
+
+  public:
+    explicit storage_chart(QWidget* parent = nullptr);
+
+    /// Moves the twelve points to these figures.
+    void show_percents(const monthly_percents& percents, const chart_scale& scale);
+    /// Writes the chart as a picture, in the format that the file's name asks for. Throws file_error.
+    void save_picture(const std::string& path) const;
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void add_lines();
+    void add_axes();
+    void set_colours(const QPalette& palette);
+    void describe();
+    void tell_point(const QPointF& point, bool entered);
+
+    QLineSeries* line_;
+    QScatterSeries* marks_;
+    QLineSeries* full_;  // the stores' capacity
+    QBarCategoryAxis* months_;
+    QValueAxis* percent_axis_;
+    monthly_percents percents_{};
+    chart_scale scale_{};
+};
+
+}  // namespace kel
