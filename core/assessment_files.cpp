@@ -75,6 +75,8 @@ void copy_assessment(const std::string& from, const std::string& to) {
     std::error_code trouble;
     fs::copy_file(from, fresh, fs::copy_options::overwrite_existing, trouble);
     if (!trouble) fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, trouble);
+    // A journal left behind by the file that goes would be rolled back into the one that comes.
+    if (!trouble) fs::remove(to + "-journal", trouble);
     if (!trouble) fs::rename(fresh, target, trouble);
     if (!trouble) return;
     std::error_code ignored;

@@ -50,7 +50,8 @@ auto guarded(const std::string& path, F&& work) {
 }
 
 std::string bracketed(std::string_view name) {
-    return "[" + std::string(name) + "]";
+    std::string quoted = "[";
+    return quoted.append(name).append("]");
 }
 
 char lower(char c) {

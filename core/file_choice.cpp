@@ -1,5 +1,7 @@
 #include "core/file_choice.h"
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <system_error>
 
@@ -13,6 +15,13 @@ namespace fs = std::filesystem;
 
 file_request assessment_request(const application_state& state, std::string_view title) {
     return {std::string(title), std::string(assessment_filter), dialog_folder(state)};
+}
+
+bool ends_with(std::string_view path, std::string_view extension) {
+    const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+    return path.size() >= extension.size() &&
+           std::equal(extension.begin(), extension.end(), path.substr(path.size() - extension.size()).begin(),
+                      [&](char a, char b) { return lower(a) == lower(b); });
 }
 
 bool may_replace(prompts& person, std::string_view title, const std::string& path) {
@@ -29,6 +38,13 @@ message replace_file(std::string_view title, std::string_view file_name) {
             message_kind::warning, message_buttons::yes_no};
 }
 
+std::string with_extension(prompts& person, std::string_view title, std::string path,
+                           std::string_view extension) {
+    if (path.empty() || ends_with(path, extension)) return path;
+    path += extension;
+    return may_replace(person, title, path) ? path : std::string{};
+}
+
 std::string choose_file_to_open(application_state& state, prompts& person, std::string_view title) {
     std::string path = person.file_to_open(assessment_request(state, title));
     if (!path.empty()) state.last_dir = folder_of(path);
@@ -36,13 +52,9 @@ std::string choose_file_to_open(application_state& state, prompts& person, std::
 }
 
 std::string choose_file_to_save(application_state& state, prompts& person, std::string_view title) {
-    std::string path = person.file_to_save(assessment_request(state, title));
-    if (path.empty()) return path;
-    if (!fs::path(path).has_extension()) {
-        path += ".kel";
-        if (!may_replace(person, title, path)) return {};
-    }
-    state.last_dir = folder_of(path);
+    std::string path =
+        with_extension(person, title, person.file_to_save(assessment_request(state, title)), ".kel");
+    if (!path.empty()) state.last_dir = folder_of(path);
     return path;
 }
 
@@ -50,7 +62,7 @@ bool have_file_to_save(application_state& state, prompts& person, std::string_vi
     if (!state.assess_file.empty()) return true;
     const std::string chosen = choose_file_to_save(state, person, "Save the assessment");
     if (chosen.empty()) return false;
-    if (chosen == state.prev1_file) {
+    if (!state.prev1_file.empty() && same_file(chosen, state.prev1_file)) {
         person.tell(
             {std::string(refusal_title), "This is last years file and cannot be saved to at this time!"});
         return false;

@@ -95,6 +95,10 @@ double leading_number(std::string_view text) {
     return read_number<double>(text);
 }
 
+bool holds_number(std::string_view text) {
+    return text.find_first_of("0123456789") != std::string_view::npos;
+}
+
 float leading_single(std::string_view text) {
     const double value = leading_number(text);
     return std::abs(value) > 3.4e38 ? 0.0F : static_cast<float>(value);

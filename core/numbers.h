@@ -12,6 +12,9 @@ namespace kel {
 /// empty text and "Closed" count as 0.
 double leading_number(std::string_view text);
 
+/// Whether a number box holds a number: it takes digits and one point, so a lone point is as good as empty.
+bool holds_number(std::string_view text);
+
 /// As leading_number, in single precision.
 float leading_single(std::string_view text);
 

@@ -37,7 +37,7 @@ class prompts {
     /// Shows a box with its buttons and returns the one pressed.
     virtual answer ask(const message& box) = 0;
     void tell(const message& box) { ask(box); }
-    /// The path chosen, or an empty text when cancelled. A save dialog adds no extension of its own.
+    /// The path chosen, or an empty text when cancelled. A save dialog adds the extension of its filter.
     virtual std::string file_to_open(const file_request& request) = 0;
     virtual std::string file_to_save(const file_request& request) = 0;
 };

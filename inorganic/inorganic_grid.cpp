@@ -3,10 +3,11 @@
 #include <array>
 
 #include "core/assessment_files.h"
+#include "core/farm_fields.h"
 #include "core/numbers.h"
 #include "inorganic/application_rules.h"
 
-namespace kel {
+namespace kel::inorganic_table {
 
 namespace {
 
@@ -27,28 +28,36 @@ constexpr std::array<grid_column, 7> columns{{
     {"Comments",                 "Comments",      entered,    48},
 }};
 // clang-format on
-static_assert(columns[inorganic_column::date].is_date && columns[inorganic_column::content].stored == "N content" &&
+static_assert(columns[inorganic_column::day].is_date &&
+              columns[inorganic_column::content].stored == "N content" &&
               columns[inorganic_column::comments].stored == "Comments");
 
 }  // namespace
 
-text_grid inorganic_headings() {
+text_grid set_grid() {
     return text_grid(columns);
 }
 
-void add_applications(const database& db, text_grid& grid) {
+text_grid get_data(const database& db) {
+    text_grid grid = set_grid();
     for (recordset rows = db.open(table); !rows.eof(); rows.move_next())
         load_grid_row(rows, grid, grid.add_row());
+    grid.add_row();
+    return grid;
 }
 
-void recalculate_application(text_grid& grid, int row) {
+std::vector<std::string> set_fieldlist(const database& db) {
+    return field_names(read_farm_fields(db));
+}
+
+void recalculate(text_grid& grid, int row) {
     const float total = total_n_kg_per_ha(grid.number(row, inorganic_column::amount),
                                           grid.number(row, inorganic_column::content));
     grid.set_cell(row, inorganic_column::total_n, shortest_text(total));
 }
 
-void save_applications(const database& db, const text_grid& grid) {
+void save(const database& db, const text_grid& grid) {
     save_grid(db, table, grid, grid.data_row_count());
 }
 
-}  // namespace kel
+}  // namespace kel::inorganic_table

@@ -1,25 +1,32 @@
 // The table of applications as a grid: columns as data and the way from the file.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "core/assessment_store.h"
 #include "core/text_grid.h"
 
 namespace kel {
 
 namespace inorganic_column {
-enum : int { field = 0, date = 1, type = 2, amount = 3, content = 4, total_n = 5, comments = 6 };
+enum : int { field = 0, day = 1, type = 2, amount = 3, content = 4, total_n = 5, comments = 6 };
 }
 
-/// An empty grid with its headings, without its entry row.
-text_grid inorganic_headings();
+namespace inorganic_table {
 
-/// Every row of [Inorganic N] as it stands, in table order.
-void add_applications(const database& db, text_grid& grid);
+/// An empty grid: its headings, without an entry row.
+text_grid set_grid();
+/// Every row of [Inorganic N] as it stands, in table order, then the entry row.
+text_grid get_data(const database& db);
+/// The names of the farm's fields, in table order.
+std::vector<std::string> set_fieldlist(const database& db);
 
-/// Total N (kg N/ha, under a heading that says kg) from amount and content of the row.
-void recalculate_application(text_grid& grid, int row);
+/// Total N of the row, kg N/ha under a heading that says kg.
+void recalculate(text_grid& grid, int row);
 
 /// Replaces the rows of [Inorganic N]. Call within a save_transaction.
-void save_applications(const database& db, const text_grid& grid);
+void save(const database& db, const text_grid& grid);
 
+}  // namespace inorganic_table
 }  // namespace kel

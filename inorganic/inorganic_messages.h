@@ -11,9 +11,9 @@ namespace kel::inorganic_messages {
 // The screen.
 inline constexpr std::string_view title = "Inorganic Nitrogen Applications";
 inline constexpr std::string_view instruction =
-    "Click on the table below to enter the applications of inorganic fertiliser in the KEL year, one in a row: "
-    "first the field, then the details of the application. The grey cells contain figures that are calculated "
-    "automatically.";
+    "Click on the table below to enter the applications of inorganic fertiliser in the KEL year, one in a "
+    "row: first the field, then the details of the application. The grey cells contain figures that are "
+    "calculated automatically.";
 
 // The dialogs.
 inline constexpr std::string_view field_caption = "Select a field:";
@@ -28,9 +28,10 @@ inline constexpr std::string_view comments_label = "Comments:";
 inline constexpr std::string_view closed_period_comment = "Reason for application during closed period: ";
 
 // The boxes. A message is a warning with OK unless it says otherwise.
-inline const message no_field_selected{"No field selected",
-                                       "Please select the field to which the application is being made before "
-                                       "entering the details of the application."};
+inline const message no_field_selected{
+    "No field selected",
+    "Please select the field to which the application is being made before "
+    "entering the details of the application."};
 inline const message no_field_id{"Field ID", "No field ID has been entered!"};
 inline const message date_outside_calendar{
     "Invalid date",
@@ -39,11 +40,11 @@ inline const message field_not_assessed{
     "Closed periods", "This field has not been assessed for closed periods.", message_kind::information};
 inline const message closed_period{
     "Closed period for Inorganic Fertilisers",
-    "This is application is during a closed period. If you proceed with this application you must justify the "
-    "need for the fertiliser in the comments box.  You should also:\r\n\r\n"
+    "This is application is during a closed period. If you proceed with this application you must justify "
+    "the need for the fertiliser in the comments box.  You should also:\r\n\r\n"
     "- notify your ORDANE Area office in writing, within 3 days of applying the fertiliser\r\n\r\n"
-    "- include details of the date the application was made, the quantity that was applied and the N content "
-    "of the fertiliser applied\r\n\r\n"
+    "- include details of the date the application was made, the quantity that was applied and the N "
+    "content of the fertiliser applied\r\n\r\n"
     "- keep a record of the agronomic justification for the application of N at that time of year",
     message_kind::stop};
 inline const message no_date{"Application date", "No application date has been selected"};

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/farm_fields.h"
+#include "core/numbers.h"
 #include "core/file_choice.h"
 #include "core/module_messages.h"
 #include "inorganic/application_rules.h"
@@ -14,39 +14,22 @@ namespace kel {
 
 namespace {
 
-// A number box takes digits and one point, so a lone point is as good as empty.
-bool holds_number(std::string_view text) {
-    return text.find_first_of("0123456789") != std::string_view::npos;
-}
-
 }  // namespace
 
 inorganic_module::inorganic_module(application_state& state, prompts& person)
-    : state_(state), person_(person), applications_(set_grid()) {
+    : state_(state), person_(person), applications_(inorganic_table::set_grid()) {
     applications_.add_row();
 }
 
-text_grid inorganic_module::set_grid() {
-    return inorganic_headings();
-}
-
-std::vector<std::string> inorganic_module::set_fieldlist(const database& db) {
-    return kel::field_names(read_farm_fields(db));
-}
-
-void inorganic_module::get_data(const database& db, text_grid& applications) {
-    add_applications(db, applications);
-}
-
 void inorganic_module::inorganic_load_stuff() {
-    text_grid applications = set_grid();
+    text_grid applications = inorganic_table::set_grid();
+    applications.add_row();
     std::vector<std::string> names;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
-        names = set_fieldlist(db);
-        get_data(db, applications);
+        names = inorganic_table::set_fieldlist(db);
+        applications = inorganic_table::get_data(db);
     }
-    applications.add_row();
     applications_ = std::move(applications);
     field_names_ = std::move(names);
     if (state_.kel_year_start) state_.limits = year_limits_of(*state_.kel_year_start);
@@ -68,7 +51,7 @@ inorganic_box inorganic_module::click(int row, int column) {
 
 fertiliser_application inorganic_module::application_of(int row) const {
     return {
-        .day = parse_date(applications_.cell(row, inorganic_column::date)),
+        .day = parse_date(applications_.cell(row, inorganic_column::day)),
         .type = applications_.cell(row, inorganic_column::type),
         .amount = applications_.cell(row, inorganic_column::amount),
         .content = applications_.cell(row, inorganic_column::content),
@@ -115,25 +98,25 @@ bool inorganic_module::in_year_assessed(date day) const {
     return state_.kel_year_start && day >= state_.limits.year_start && day <= state_.limits.year_end;
 }
 
-application_entry inorganic_module::refuse(const message& reason, application_box_part focus) {
+application_entry inorganic_module::refuse(const message& reason, application_part focus) {
     person_.tell(reason);
     return {.closes = false, .focus = focus};
 }
 
 application_entry inorganic_module::enter_application(int row, const fertiliser_application& entered) {
     using namespace inorganic_messages;
-    using part = application_box_part;
-    if (!entered.day) return refuse(no_date, part::date);
+    using part = application_part;
+    if (!entered.day) return refuse(no_date, part::day);
     if (!in_year_assessed(*entered.day)) return refuse(date_outside_year, part::none);
     if (entered.type.empty()) return refuse(no_type, part::type);
     if (!holds_number(entered.amount)) return refuse(no_amount, part::amount);
     if (!holds_number(entered.content)) return refuse(no_content, part::content);
-    applications_.set_cell(row, inorganic_column::date, short_date_text(*entered.day));
+    applications_.set_cell(row, inorganic_column::day, short_date_text(*entered.day));
     applications_.set_cell(row, inorganic_column::type, entered.type);
     applications_.set_cell(row, inorganic_column::amount, entered.amount);
     applications_.set_cell(row, inorganic_column::content, entered.content);
     applications_.set_cell(row, inorganic_column::comments, entered.comments);
-    recalculate_application(applications_, row);
+    inorganic_table::recalculate(applications_, row);
     return {.closes = true};
 }
 
@@ -145,7 +128,7 @@ bool inorganic_module::save() {
     if (!have_file_to_save(state_, person_)) return false;
     const database db(state_.assess_file);
     save_transaction transaction(db);
-    save_applications(db, applications_);
+    inorganic_table::save(db, applications_);
     transaction.commit();
     return true;
 }

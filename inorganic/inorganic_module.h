@@ -1,5 +1,5 @@
-// Step 4, applications of inorganic nitrogen: the working copy of the table and the flow of its edits. Nothing
-// reaches the file before save. Rows count from 0 without the heading; the last row is the entry row.
+// Step 4, applications of inorganic nitrogen: the working copy of the table and the flow of its edits.
+// Nothing reaches the file before save. Rows count from 0 without the heading; the last row is the entry row.
 #pragma once
 
 #include <optional>
@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/application_state.h"
-#include "core/assessment_store.h"
+#include "core/dates.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "inorganic/inorganic_grid.h"
@@ -18,7 +18,7 @@ namespace kel {
 enum class inorganic_box { none, field, application };
 
 /// The boxes of the application dialog.
-enum class application_box_part { none, date, type, amount, content, comments };
+enum class application_part { none, day, type, amount, content, comments };
 
 /// What the application dialog holds; no day while none is chosen in the calendar.
 struct fertiliser_application {
@@ -40,7 +40,7 @@ struct date_pick {
 /// Whether the application dialog closes, and otherwise where the focus goes; none: it stays.
 struct application_entry {
     bool closes = false;
-    application_box_part focus = application_box_part::none;
+    application_part focus = application_part::none;
     bool operator==(const application_entry&) const = default;
 };
 
@@ -78,10 +78,7 @@ class inorganic_module {
     void report(report_desk& desk);
 
   private:
-    static text_grid set_grid();
-    static std::vector<std::string> set_fieldlist(const database& db);
-    static void get_data(const database& db, text_grid& applications);
-    application_entry refuse(const message& reason, application_box_part focus);
+    application_entry refuse(const message& reason, application_part focus);
     bool in_year_assessed(date day) const;
 
     application_state& state_;

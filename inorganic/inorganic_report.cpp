@@ -16,6 +16,7 @@ std::string_view heading_width(int column) {
 
 std::vector<report_cell> headings(const text_grid& applications) {
     std::vector<report_cell> cells;
+    cells.reserve(applications.columns().size());
     for (int c = 0; c < applications.column_count(); ++c)
         cells.push_back({.text = std::string(applications.columns()[static_cast<std::size_t>(c)].heading),
                          .width = std::string(heading_width(c))});
@@ -24,6 +25,7 @@ std::vector<report_cell> headings(const text_grid& applications) {
 
 std::vector<std::string> values(const text_grid& applications, int row) {
     std::vector<std::string> texts;
+    texts.reserve(applications.columns().size());
     for (int c = 0; c < applications.column_count(); ++c)
         texts.push_back(applications.cell(row, c) + "&nbsp;");
     return texts;

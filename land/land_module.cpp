@@ -12,11 +12,6 @@ namespace kel {
 
 namespace {
 
-// A number box takes digits and one point, so a lone point is as good as empty.
-bool holds_number(std::string_view text) {
-    return text.find_first_of("0123456789") != std::string_view::npos;
-}
-
 int other_of_pair(int column) {
     return column == land_column::grass ? land_column::not_in_grass : land_column::grass;
 }

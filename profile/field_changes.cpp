@@ -1,6 +1,8 @@
 #include "profile/field_changes.h"
 
 #include <array>
+#include <set>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -115,6 +117,40 @@ void write_farm(const database& db, const farm_details& farm, const application_
     profile.update();
 }
 
+// Names that stand for a field between its old and its new one: no field can be called so.
+std::string between_names(int row) {
+    return std::string(1, '\x1a') + std::to_string(row);
+}
+
+bool names_collide(const text_grid& fields) {
+    std::set<std::string_view> stored;
+    for (int row = 0; row < fields.row_count(); ++row)
+        stored.insert(fields.cell(row, field_column::stored_name));
+    for (int row = 0; row < fields.row_count(); ++row) {
+        const std::string& name = fields.cell(row, field_column::name);
+        const std::string& old_name = fields.cell(row, field_column::stored_name);
+        if (!old_name.empty() && name != old_name && stored.contains(name)) return true;
+    }
+    return false;
+}
+
+// When one field takes the name that another one gives up, renames in the order of the rows would put both
+// fields' rows under one name for good. All fields then first step aside.
+void step_aside(text_grid& fields, const std::vector<linked_file>& slots) {
+    for (int row = 0; row < fields.row_count(); ++row) {
+        const std::string old_name = fields.cell(row, field_column::stored_name);
+        if (old_name.empty()) continue;
+        for (const linked_file& slot : slots) {
+            if (!slot.is_saved)
+                slot.db.update_rows("Field Data", {{"Field Name", between_names(row)}}, "Field Name",
+                                    old_name);
+            for (const field_table& t : field_tables)
+                slot.db.update_rows(t.table, {{field_key, between_names(row)}}, field_key, old_name);
+        }
+        fields.set_cell(row, field_column::stored_name, between_names(row));
+    }
+}
+
 bool write_fields(const database& db, const text_grid& fields, const std::vector<linked_file>& slots) {
     db.delete_rows("Field Data");
     recordset rows = db.open("Field Data");
@@ -152,7 +188,9 @@ bool save_prof(const std::string& path, const farm_details& farm, const text_gri
     if (any_field_known(fields)) slots = open_slots(db, state);
     save_transaction save(db);
     write_farm(db, farm, state);
-    const bool cleared = write_fields(db, fields, slots);
+    text_grid carried = fields;
+    if (names_collide(fields)) step_aside(carried, slots);
+    const bool cleared = write_fields(db, carried, slots);
     write_year(db, state.kel_year_start.value());
     save.commit();
     return cleared;

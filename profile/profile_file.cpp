@@ -29,7 +29,8 @@ void read_fields(const database& db, text_grid& fields) {
     const int size = rows.column("Size");
     const int kel_size = rows.column("KEL Size");
     const int soil = rows.column("Soil");
-    for (int row = 0; !rows.eof(); rows.move_next(), ++row) {
+    int row = 0;
+    for (; !rows.eof(); rows.move_next(), ++row) {
         if (row == fields.row_count()) fields.add_row();
         fields.set_cell(row, field_column::name, rows.text(name));
         fields.set_cell(row, field_column::area, rows.text(size));
@@ -38,6 +39,10 @@ void read_fields(const database& db, text_grid& fields) {
         fields.set_cell(row, field_column::soil, rows.text(soil));
         fields.set_cell(row, field_column::stored_name, rows.text(name));
     }
+    // Rows that the farm counts but the table lacks must not keep the fields of the farm shown before.
+    for (; row < fields.row_count(); ++row)
+        for (int column = 0; column < fields.column_count(); ++column)
+            fields.set_cell(row, column, {});
 }
 
 }  // namespace

@@ -66,6 +66,7 @@ void profile_module::load_profile() {
     state_.farm_zone = std::move(fresh.farm_zone);
     state_.farm_town = std::move(fresh.farm_town);
     state_.kel_year_start = fresh.kel_year_start;
+    if (state_.kel_year_start) year_list_enabled_ = false;
 }
 
 void profile_module::ass_year() {
@@ -186,7 +187,16 @@ void profile_module::add_pasted(const std::vector<pasted_field>& pasted) {
 
 void profile_module::cancel() {
     read_store(state_);
-    if (!state_.assess_file.empty()) load_profile();
+    if (state_.assess_file.empty()) return;
+    try {
+        load_profile();
+    } catch (...) {
+        // What the screen still holds belongs to another farm and must not be saved into this file.
+        state_.assess_file.clear();
+        state_.prev1_file.clear();
+        state_.prev2_file.clear();
+        throw;
+    }
 }
 
 void profile_module::report(report_desk& desk) const {

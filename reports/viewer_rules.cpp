@@ -1,8 +1,7 @@
 #include "reports/viewer_rules.h"
 
-#include <filesystem>
-
 #include "core/assessment_files.h"
+#include "core/file_choice.h"
 #include "reports/contents_page.h"
 
 namespace kel {
@@ -13,28 +12,11 @@ constexpr std::string_view save_title = "Save the report";
 constexpr std::string_view report_filter = "HTML Report (*.htm)|*.htm";
 constexpr std::string_view guides_contents_page = "help/viewlets/KEL_showme_contents.htm";
 
-message replace_question(const std::string& path) {
-    return {.title = std::string(save_title),
-            .text = file_name_of(path) + " already exists. Do you want to replace it?",
-            .kind = message_kind::warning,
-            .buttons = message_buttons::yes_no};
-}
-
 // Only last_dir is asked whether a folder is remembered, though the folder itself is that of the last saved
 // report.
 std::string starting_folder(const application_state& state, const std::string& report_folder,
                             const std::string& documents_folder) {
     return state.last_dir.empty() || report_folder.empty() ? documents_folder : report_folder;
-}
-
-// A name typed without an extension gets that of the filter, or no browser would open the file. The dialog
-// has asked about overwriting the bare name only.
-std::string completed_name(std::string chosen, prompts& person) {
-    if (chosen.empty() || std::filesystem::path(chosen).has_extension()) return chosen;
-    chosen += ".htm";
-    std::error_code ignored;
-    const bool taken = std::filesystem::exists(chosen, ignored);
-    return taken && person.ask(replace_question(chosen)) != answer::yes ? std::string{} : chosen;
 }
 
 // The target is replaced by a rename, so a file copied onto itself survives.
@@ -54,11 +36,12 @@ third_button third_button_of(std::string_view caption, int mode, const installat
 
 void save_report(const application_state& state, prompts& person, std::string& report_folder,
                  const std::string& documents_folder) {
-    const std::string chosen = completed_name(
+    const std::string chosen = with_extension(
+        person, save_title,
         person.file_to_save({.title = std::string(save_title),
                              .filter = std::string(report_filter),
                              .folder = starting_folder(state, report_folder, documents_folder)}),
-        person);
+        ".htm");
     if (chosen.empty()) return;
     report_folder = folder_of(chosen);
     copy_over(state.last_report_path, chosen);

@@ -107,6 +107,7 @@ answer assessments_module::ask_order(const message& question) {
 
 // A module that cannot load its data throws out of open, and this screen then stays in view.
 void assessments_module::open_module(std::string_view tag) {
+    if (!screens_.exists(tag)) return;
     screens_.open(tag);
     desk_.viewer.hide_screen("front");
 }

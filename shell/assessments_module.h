@@ -22,6 +22,8 @@ class assessments_module {
                        report_desk& desk)
         : state_(state), person_(person), profile_(profile), screens_(shown), desk_(desk) {}
 
+    /// Name of the open farm as its profile has it; the state's name follows only at the next load.
+    const std::string& farm_name() const { return profile_.farm().name; }
     /// Title of the screen.
     const std::string& title() const { return title_; }
 

@@ -87,8 +87,10 @@ void years_module::open_file(const std::string& path) {
     chosen.prev1_file.clear();
     chosen.prev2_file.clear();
     load(chosen);
+    application_state stored = state_;
+    stored.slot_current = path;
+    write_store(stored);
     state_.slot_current = path;
-    write_store(state_);
     state_.slot_selected = 1;
     state_.slot_prev1.clear();
     state_.slot_prev2.clear();
@@ -236,13 +238,13 @@ void years_module::make_new_year(bool overwrite) {
     type.update();
     clear_year_data(db, year_of(new_date_) - year_of(*last_year_), year_data_mode::delete_rows);
     save.commit();
-    // The profile screen may be open underneath: its Set Profile must not write the old year into the new
-    // file.
-    profile_.load_profile();
     state_.slot_selected = 1;
     set_threefiles();
     write_store(state_);
     close_create();
+    // The profile screen may be open underneath: its Set Profile must not write the old year into the new
+    // file.
+    profile_.load_profile();
 }
 
 }  // namespace kel

@@ -133,9 +133,11 @@ void walk::new_farm() {
 
 void walk::open_sample() {
     drive::press(screen("front"), "cmdFront_open");
-    for (const auto& file : fs::directory_iterator(folder_ + "/User_files"))
-        if (file.path().filename().string().starts_with("Mains")) person_.lay_ready(file.path().string());
-    drive::press(screen("years"), "cmdYear_browse1");
+    int row = 0;
+    for (const char* year : {"2024-25", "2023-24", "2022-23"}) {
+        person_.lay_ready(folder_ + "/User_files/Mains of Tullifern " + year + ".kel");
+        drive::press(screen("years"), "cmdYear_browse" + QString::number(++row));
+    }
     picture("years", "years_dialog");
     drive::press(screen("years"), "cmdYear_new");
     picture("years", "years_create");

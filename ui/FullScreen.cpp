@@ -27,7 +27,7 @@ FullScreen::FullScreen(application_state& state, prompts& person, std::string& r
     };
     auto* print = button(tr("&Print"), "Command7", tr("Print this page"));
     third_ = button({}, "Command8", {});
-    auto* close = button(tr("&Close"), "Command1", tr("Return to the screen that opened this page"));
+    auto* close = button(tr("C&lose"), "Command1", tr("Return to the screen that opened this page"));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(print);
     buttons->addWidget(third_);

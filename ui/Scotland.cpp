@@ -110,8 +110,11 @@ QWidget* Scotland::side_panel() {
     towns_ = new QListWidget(panel);
     towns_->setObjectName("lstScotland_town");
     towns_->setAccessibleName(tr("Towns"));
-    connect(towns_, &QListWidget::currentTextChanged, this,
-            [this](const QString& town) { module_.select_town(from_qt(town)); });
+    // The selection and not the current entry: the focus alone makes the first town current.
+    connect(towns_, &QListWidget::itemSelectionChanged, this, [this] {
+        const auto towns = towns_->selectedItems();
+        module_.select_town(towns.isEmpty() ? std::string() : from_qt(towns.front()->text()));
+    });
     connect(towns_, &QListWidget::itemActivated, this, &Scotland::enter);
     column->addWidget(town_prompt_);
     column->addWidget(towns_, 1);
@@ -170,7 +173,10 @@ void Scotland::enter() {
 }
 
 void Scotland::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) close();
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
     QMainWindow::keyPressEvent(event);
 }
 

@@ -51,7 +51,7 @@ year_option option_of(int row) {
 // A path of any length keeps its beginning and its end in view.
 void show_elided(QLabel* label, const std::string& text, int width_px) {
     label->setText(label->fontMetrics().elidedText(qt(text), Qt::ElideMiddle, width_px));
-    label->setToolTip(text.size() < 1000 ? qt(text) : QString());
+    label->setToolTip(text.size() < 1000 ? plain_tip(qt(text)) : QString());
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ Year_Picker::Year_Picker(years_module& module) : module_(module) {
     layout->addWidget(no_link_);
     layout->addWidget(no_related_);
     auto* buttons = new QHBoxLayout;
-    auto* create = named_button(tr("C&reate a new assesment year for this farm"), "cmdYear_new", this);
+    auto* create = named_button(tr("Create a &new assesment year for this farm"), "cmdYear_new", this);
     auto* ok_button = named_button(tr("&OK"), "cmdYear_ok", this);
     auto* cancel_button = named_button(tr("&Cancel"), "cmdYear_cancel", this);
     ok_button->setDefault(true);
@@ -189,6 +189,7 @@ QWidget* Year_Picker::create_panel() {
     connect(create, &QPushButton::clicked, this, [this] {
         module_.create();
         refresh();
+        emit changed();
     });
     connect(close_button, &QPushButton::clicked, this, [this] {
         module_.close_create();
@@ -209,6 +210,7 @@ void Year_Picker::browse(int row) {
     if (row == 1) module_.browse_prev1();
     if (row == 2) module_.browse_prev2();
     refresh();
+    emit changed();
 }
 
 void Year_Picker::refresh() {
@@ -267,7 +269,8 @@ bool Year_Picker::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Year_Picker::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) cancel();
+    if (event->key() == Qt::Key_Escape) return cancel();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return ok();
     QWidget::keyPressEvent(event);
 }
 

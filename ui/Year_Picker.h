@@ -27,6 +27,8 @@ class Year_Picker : public QWidget {
 
   signals:
     void closed();
+    /// Another assessment was opened while the dialog stays.
+    void changed();
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,5 +1,7 @@
 #include "ui/entry_box.h"
 
+#include <QButtonGroup>
+#include <QCalendarWidget>
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -7,7 +9,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpressionValidator>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "ui/grid_view.h"
@@ -37,6 +41,16 @@ QLineEdit* new_whole_number_box(const QString& name, QWidget* parent) {
     return new_filtered_box(name, "[0-9]*", parent);
 }
 
+QCalendarWidget* new_calendar(const QString& name, QWidget* parent) {
+    auto* calendar = new QCalendarWidget(parent);
+    calendar->setObjectName(name);
+    calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    calendar->setFirstDayOfWeek(Qt::Monday);
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar->setDateEditEnabled(false);  // what it makes of typed digits is no date
+    return calendar;
+}
+
 entry_box::entry_box(const QString& name, grid_view& grid, QWidget* parent)
     : QFrame(parent),
       name_(name),
@@ -57,7 +71,7 @@ entry_box::entry_box(const QString& name, grid_view& grid, QWidget* parent)
     layout_->addWidget(caption_, 0, 0, 1, 4);
     layout_->addWidget(instruction_, 1, 0, 1, 4);
     enter_button_ = add_button("E&nter", "enter", [this] { return enter_(); });
-    cancel_button_ = add_button("Cance&l", "cancel", [] { return true; });
+    cancel_button_ = add_button("Cancel", "cancel", [] { return true; });
     enter_button_->setDefault(true);
     hide();
 }
@@ -108,6 +122,71 @@ QListWidget* entry_box::use_list(const QStringList& items) {
     return list_;
 }
 
+QCalendarWidget* entry_box::use_calendar() {
+    calendar_ = new_calendar("cal" + name_, this);
+    layout_->addWidget(calendar_, 2, 0, 1, 4);
+    setTabOrder(calendar_, enter_button_);
+    connect(calendar_, &QCalendarWidget::activated, this, [this] { run(enter_); });
+    return calendar_;
+}
+
+void entry_box::use_choices(const QStringList& texts) {
+    delete options_;
+    options_ = new QWidget(this);
+    choices_ = new QButtonGroup(options_);
+    auto* lines = new QVBoxLayout(options_);
+    lines->setContentsMargins(0, 0, 0, 0);
+    for (const QString& text : texts) {
+        auto* option = new QRadioButton(text, options_);
+        option->setObjectName(QString("opt%1_%2").arg(name_).arg(lines->count() + 1));
+        choices_->addButton(option, lines->count());
+        lines->addWidget(option);
+    }
+    layout_->addWidget(options_, 2, 0, 1, 4);
+    setTabOrder(options_, enter_button_);
+}
+
+void entry_box::show_unit(const QString& unit) {
+    if (!unit_) {
+        unit_ = new QLabel(this);
+        unit_->setObjectName("lbl" + name_ + "_unit");
+        unit_->setBuddy(line_);
+        layout_->addWidget(line_, 2, 0, 1, 3);
+        layout_->addWidget(unit_, 2, 3);
+    }
+    unit_->setText(unit);
+}
+
+QWidget* entry_box::editor() const {
+    if (line_) return line_;
+    if (list_) return list_;
+    if (calendar_) return calendar_;
+    QAbstractButton* chosen_option = choices_->checkedButton();
+    return chosen_option ? chosen_option : choices_->button(0);
+}
+
+void entry_box::show_in_editor(const QString& caption, const QString& text) {
+    if (line_) {
+        line_->setText(text);
+        line_->selectAll();
+    }
+    if (list_) {
+        const auto found = list_->findItems(text, Qt::MatchExactly);
+        list_->setCurrentItem(found.isEmpty() ? nullptr : found.front());
+        if (!found.isEmpty()) list_->scrollToItem(found.front());
+    }
+    if (calendar_)
+        if (const auto day = parse_date(from_qt(text)))
+            calendar_->setSelectedDate({year_of(*day), month_of(*day), day_of(*day)});
+    if (choices_)
+        for (QAbstractButton* option : choices_->buttons())
+            if (option->text() == text) option->setChecked(true);
+    if (options_)
+        options_->setAccessibleName(caption);
+    else
+        editor()->setAccessibleName(caption);
+}
+
 void entry_box::open(const QString& caption, const QString& instruction, const QString& text) {
     caption_->setText(caption);
     instruction_->setText(instruction);
@@ -115,21 +194,11 @@ void entry_box::open(const QString& caption, const QString& instruction, const Q
     grid_.set_locked(true);
     for (QWidget* control : *disabled_meanwhile_)
         control->setEnabled(false);
-    if (line_) {
-        line_->setText(text);
-        line_->setAccessibleName(caption);
-        line_->selectAll();
-    }
-    if (list_) {
-        const auto found = list_->findItems(text, Qt::MatchExactly);
-        list_->setCurrentItem(found.isEmpty() ? nullptr : found.front());
-        if (!found.isEmpty()) list_->scrollToItem(found.front());
-        list_->setAccessibleName(caption);
-    }
+    show_in_editor(caption, text);
     place_beside_cell();
     show();
     raise();
-    (line_ ? static_cast<QWidget*>(line_) : list_)->setFocus();
+    editor()->setFocus();
 }
 
 void entry_box::close_box() {
@@ -147,15 +216,25 @@ std::string entry_box::entered_text() const {
 }
 
 std::optional<std::string> entry_box::chosen() const {
-    const QListWidgetItem* item = list_->currentItem();
-    return item ? std::optional(from_qt(item->text())) : std::nullopt;
+    if (choices_) {
+        const QAbstractButton* option = choices_->checkedButton();
+        return option ? std::optional(from_qt(option->text())) : std::nullopt;
+    }
+    // Not the current item: the focus alone makes the first one current.
+    const auto items = list_->selectedItems();
+    return items.isEmpty() ? std::nullopt : std::optional(from_qt(items.front()->text()));
+}
+
+date entry_box::chosen_date() const {
+    const QDate day = calendar_->selectedDate();
+    return make_date(day.day(), day.month(), day.year());
 }
 
 void entry_box::run(const operation& action) {
     if (action()) {
         close_box();
     } else if (isVisible()) {
-        (line_ ? static_cast<QWidget*>(line_) : list_)->setFocus();
+        editor()->setFocus();
     }
 }
 

@@ -10,7 +10,11 @@
 #include <string>
 #include <vector>
 
+#include "core/dates.h"
+
 class QAbstractButton;
+class QButtonGroup;
+class QCalendarWidget;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -25,6 +29,8 @@ class grid_view;
 QLineEdit* new_number_box(const QString& name, QWidget* parent);
 /// A line edit that takes digits and backspace only.
 QLineEdit* new_whole_number_box(const QString& name, QWidget* parent);
+/// A calendar with English names and Monday first, whatever the machine's locale is.
+QCalendarWidget* new_calendar(const QString& name, QWidget* parent);
 
 class entry_box : public QFrame {
     Q_OBJECT
@@ -39,6 +45,13 @@ class entry_box : public QFrame {
     QLineEdit* use_number_box();
     QLineEdit* use_text_box();
     QListWidget* use_list(const QStringList& items);
+    /// Arrows, Page Up and Page Down move; Enter or a double click on a day confirms.
+    QCalendarWidget* use_calendar();
+    /// Option buttons, one below the other, in place of those it had. None is chosen unless it is the cell's
+    /// text.
+    void use_choices(const QStringList& texts);
+    /// Shown behind the number or text box.
+    void show_unit(const QString& unit);
 
     using operation = std::function<bool()>;  // true: the box closes
     void on_enter(operation enter) { enter_ = std::move(enter); }
@@ -50,8 +63,10 @@ class entry_box : public QFrame {
     void close_box();
 
     std::string entered_text() const;
-    /// The list entry chosen; nothing if none is.
+    /// The list entry or option chosen; nothing if none is.
     std::optional<std::string> chosen() const;
+    /// The calendar's day.
+    date chosen_date() const;
 
   signals:
     void closed();
@@ -62,6 +77,8 @@ class entry_box : public QFrame {
 
   private:
     QPushButton* add_button(const QString& caption, const QString& suffix, operation action);
+    QWidget* editor() const;
+    void show_in_editor(const QString& caption, const QString& text);
     void run(const operation& action);
     void place_beside_cell();
     QString name_;
@@ -70,7 +87,11 @@ class entry_box : public QFrame {
     QLabel* instruction_;
     QGridLayout* layout_;
     QLineEdit* line_ = nullptr;
+    QLabel* unit_ = nullptr;
     QListWidget* list_ = nullptr;
+    QCalendarWidget* calendar_ = nullptr;
+    QWidget* options_ = nullptr;
+    QButtonGroup* choices_ = nullptr;
     QPushButton* enter_button_;
     QPushButton* cancel_button_;
     operation enter_;

@@ -175,11 +175,11 @@ void frmKEL_front::add_menus() {
 void frmKEL_front::refresh() {
     setWindowTitle(qt(module_.title()));
     const bool open = !state_.assess_file.empty();
-    const QString farm = qt(state_.farm_name);
+    const QString farm = qt(module_.farm_name());
     // A name of any length must not widen the window.
     farm_->setText(open ? farm_->fontMetrics().elidedText(farm, Qt::ElideRight, 640)
                         : tr("No assessment is open"));
-    farm_->setToolTip(open && farm.size() < 500 ? farm : QString());
+    farm_->setToolTip(open && farm.size() < 500 ? plain_tip(farm) : QString());
     QString told = tr("Create a new farm, or open an assessment.");
     if (open) {
         told = state_.kel_year_start

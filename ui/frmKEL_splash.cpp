@@ -71,7 +71,10 @@ frmKEL_splash::frmKEL_splash(QWidget* parent) : QWidget(parent, Qt::Dialog) {
 }
 
 void frmKEL_splash::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) close();
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
     QWidget::keyPressEvent(event);
 }
 

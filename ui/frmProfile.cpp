@@ -66,7 +66,7 @@ QWidget* frmProfile::farm_entries() {
     kel_area_ = named_edit("Text2", panel);
     auto* left = new QFormLayout;
     left->addRow(tr("Na&me:"), name_);
-    left->addRow(tr("&Location:"), location_);
+    left->addRow(tr("Loc&ation:"), location_);
     left->addRow(tr("&Total area of the farm (ha):"), area_);
     left->addRow(tr("&KEL area of the farm (ha):"), kel_area_);
     columns->addLayout(left, 3);

@@ -9,6 +9,8 @@ namespace kel {
 
 namespace {
 
+constexpr qsizetype longest_tip = 500;
+
 // Grey that stays readable in a light and in a dark theme: between the palette's base and its window colour.
 QColor calculated_ground() {
     const QPalette palette = QApplication::palette();
@@ -51,6 +53,8 @@ QVariant grid_model::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
         case Qt::EditRole:
             return qt(grid_->cell(index.row(), index.column()));
+        case Qt::ToolTipRole:
+            return plain_tip(qt(grid_->cell(index.row(), index.column())).left(longest_tip));
         case Qt::TextAlignmentRole: {
             const std::string& text = grid_->cell(index.row(), index.column());
             const bool figure =

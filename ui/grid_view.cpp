@@ -105,7 +105,7 @@ void grid_view::keyPressEvent(QKeyEvent* event) {
     } else if (chooses && currentIndex().isValid()) {
         emit cell_chosen(current_row(), current_column());
     } else if ((event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) && leaves_by_tab(event)) {
-        focusNextPrevChild(event->key() == Qt::Key_Tab);
+        event->ignore();  // the window then moves the focus on
     } else {
         QTableView::keyPressEvent(event);
     }

@@ -1,7 +1,9 @@
 #include "ui/kel_application.h"
 
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLocale>
+#include <QPushButton>
 #include <stdexcept>
 
 #include "core/file_error.h"
@@ -13,6 +15,18 @@ static void register_pictures() {
 }
 
 namespace kel {
+
+namespace {
+
+// Enter presses the button that has the focus, in windows as in dialogs.
+bool press_with_enter(QObject* receiver, const QKeyEvent& event) {
+    auto* button = qobject_cast<QPushButton*>(receiver);
+    if (!button || (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)) return false;
+    button->click();
+    return true;
+}
+
+}  // namespace
 
 message stop_box(const std::exception& failure) {
     message box{"", "Something unexpected went wrong:\r\n\r\n" + std::string(failure.what()),
@@ -34,6 +48,8 @@ kel_application::kel_application(int& argc, char** argv) : QApplication(argc, ar
 
 bool kel_application::notify(QObject* receiver, QEvent* event) {
     try {
+        if (event->type() == QEvent::KeyPress && press_with_enter(receiver, *static_cast<QKeyEvent*>(event)))
+            return true;
         return QApplication::notify(receiver, event);
     } catch (const std::exception& failure) {
         if (person_) person_->tell(stop_box(failure));

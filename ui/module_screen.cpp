@@ -49,9 +49,20 @@ void module_screen::add_missing_command(QBoxLayout* row, const QString& caption,
 
 entry_box* module_screen::new_box(const char* name, grid_view& grid) {
     auto* box = new entry_box(name, grid, this);
+    adopt_box(box);
+    return box;
+}
+
+void module_screen::adopt_box(entry_box* box) {
     box->set_disabled_meanwhile(&main_controls_);
     connect(box, &entry_box::closed, this, [this] { refresh(); });
-    return box;
+    boxes_.push_back(box);
+}
+
+void module_screen::reload_all() {
+    for (entry_box* box : boxes_)
+        box->close_box();
+    reload();
 }
 
 }  // namespace kel

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <string>
 #include <vector>
 
 class QBoxLayout;
@@ -23,6 +24,11 @@ class module_screen : public QWidget {
 
     /// Loads the assessment anew, as after the years dialog. Throws file_error.
     virtual void reload() = 0;
+    /// The same, with every entry box closed first: its cell may be gone.
+    void reload_all();
+    /// The assessment whose rows this screen holds.
+    const std::string& loaded_file() const { return loaded_file_; }
+    void set_loaded_file(const std::string& path) { loaded_file_ = path; }
     /// Tag of the screen to show when this one closes.
     virtual std::string_view back_tag() const { return "front"; }
 
@@ -50,8 +56,13 @@ class module_screen : public QWidget {
     /// Keeps this control, too, disabled while a box is open.
     void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
 
+    /// For an entry box of a class of its own: the same care as new_box gives.
+    void adopt_box(entry_box* box);
+
   private:
     std::vector<QWidget*> main_controls_;
+    std::vector<entry_box*> boxes_;
+    std::string loaded_file_;
 };
 
 }  // namespace kel

@@ -44,7 +44,9 @@ bool page_view::follow(const QUrl& url) {
 
 QVariant page_view::loadResource(int type, const QUrl& name) {
     const QUrl url = source().resolved(name);
-    return url.isLocalFile() ? QTextBrowser::loadResource(type, url) : QVariant();
+    // Report text is not escaped, so a page may ask for anything: it gets plain files and nothing else.
+    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile() ? QTextBrowser::loadResource(type, url)
+                                                                      : QVariant();
 }
 
 }  // namespace kel

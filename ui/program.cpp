@@ -6,13 +6,17 @@
 #include <algorithm>
 #include <array>
 
+#include "core/file_error.h"
 #include "ui/FullScreen.h"
 #include "ui/Scotland.h"
 #include "ui/Year_Picker.h"
+#include "ui/frmInorganic.h"
 #include "ui/frmKEL_front.h"
 #include "ui/frmKEL_splash.h"
 #include "ui/frmLand_new.h"
 #include "ui/frmProfile.h"
+#include "ui/frmReductions.h"
+#include "ui/kel_application.h"
 #include "ui/module_screen.h"
 #include "ui/qt_text.h"
 
@@ -24,13 +28,24 @@ constexpr std::string_view front_tag = "front";
 constexpr std::string_view location_tag = "location";
 constexpr std::string_view viewer_tag = "viewer";
 
-constexpr std::array<std::string_view, 4> built_screens{"land", "profile", "splash", "years"};
+constexpr std::array<std::string_view, 6> built_screens{"land",    "reduction", "inorg",
+                                                        "profile", "splash",    "years"};
+
+class waiting {
+  public:
+    waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~waiting() { QApplication::restoreOverrideCursor(); }
+    waiting(const waiting&) = delete;
+    waiting& operator=(const waiting&) = delete;
+};
 
 struct picker_tag {
     picker_module caller;
     std::string_view tag;
 };
-constexpr std::array<picker_tag, 1> picker_tags{{{picker_module::land, "land"}}};
+constexpr std::array<picker_tag, 3> picker_tags{{{picker_module::land, "land"},
+                                                 {picker_module::manure, "reduction"},
+                                                 {picker_module::inorganic, "inorg"}}};
 
 struct window_size {
     std::string_view tag;
@@ -38,10 +53,12 @@ struct window_size {
     int height;
 };
 // Sizes at first view; each fits a screen of 1280 x 800.
-constexpr std::array<window_size, 5> first_sizes{{{"front", 900, 620},
+constexpr std::array<window_size, 7> first_sizes{{{"front", 900, 620},
                                                   {"profile", 1000, 700},
                                                   {"location", 1000, 760},
                                                   {"land", 1220, 720},
+                                                  {"reduction", 1250, 720},
+                                                  {"inorg", 1220, 720},
                                                   {"viewer", 1040, 740}}};
 
 }  // namespace
@@ -60,7 +77,11 @@ program::~program() = default;
 void program::start(const std::string& assessment) {
     made(front_tag);
     front_.start_up();
-    if (!assessment.empty()) years_.open_file(assessment);
+    try {
+        if (!assessment.empty()) years_.open_file(assessment);
+    } catch (const file_error& failure) {
+        person_.tell(stop_box(failure));
+    }
     show_screen(front_tag);
 }
 
@@ -71,7 +92,16 @@ QWidget* program::screen(std::string_view tag) const {
 
 module_screen* program::make_module(std::string_view tag) {
     if (tag == "land") return new frmLand_new(state_, person_, desk_);
+    if (tag == "reduction") return new frmReductions(state_, person_, desk_);
+    if (tag == "inorg") return new frmInorganic(state_, person_, desk_);
     return nullptr;
+}
+
+// A module that was loaded hidden shows what it loaded then, but never one file's rows over another file.
+void program::load_if_other_file(module_screen& module) {
+    if (module.loaded_file() == state_.assess_file) return;
+    if (!module.loaded_file().empty()) module.reload_all();
+    module.set_loaded_file(state_.assess_file);
 }
 
 QWidget* program::make(std::string_view tag) {
@@ -90,6 +120,9 @@ QWidget* program::make(std::string_view tag) {
         connect(profile, &frmProfile::left, this, [this, profile] {
             show_screen(front_tag);
             profile->hide();
+            // Cancel reads the store back only after this.
+            QMetaObject::invokeMethod(
+                this, [this] { refresh_front(); }, Qt::QueuedConnection);
         });
         connect(profile, &frmProfile::years_wanted, this, [this] { open("years"); });
         connect(profile, &frmProfile::location_wanted, this, [this, profile] {
@@ -114,6 +147,7 @@ QWidget* program::make(std::string_view tag) {
     if (tag == "years") {
         auto* years = new Year_Picker(years_);
         leaving_to(years, &Year_Picker::closed, "years", {});
+        connect(years, &Year_Picker::changed, this, [this] { refresh_front(); });
         return years;
     }
     if (tag == "splash") {
@@ -161,14 +195,11 @@ void program::leave(std::string_view tag, std::string_view back_tag) {
 
 void program::open(std::string_view tag) {
     const bool there = screen(tag) != nullptr;
-    wait_cursor(true);
-    try {
+    {
+        const waiting busy;
         made(tag);
-    } catch (...) {
-        wait_cursor(false);
-        throw;
+        if (auto* module = qobject_cast<module_screen*>(screen(tag))) load_if_other_file(*module);
     }
-    wait_cursor(false);
     if (tag == "years" && !(there && screen(tag)->isVisible()))
         static_cast<Year_Picker*>(screen(tag))->open();
     show_screen(tag);
@@ -197,6 +228,8 @@ void program::wait_cursor(bool on) {
 
 void program::hide_screen(std::string_view tag) {
     made(tag)->hide();
+    if (auto* module = qobject_cast<module_screen*>(screen(tag)))
+        if (module->loaded_file().empty()) module->set_loaded_file(state_.assess_file);
 }
 
 void program::show(const viewer_request& request) {
@@ -212,7 +245,10 @@ void program::reload(picker_module caller) {
     const auto entry = std::find_if(picker_tags.begin(), picker_tags.end(),
                                     [&](const picker_tag& p) { return p.caller == caller; });
     if (entry == picker_tags.end()) return;
-    if (auto* module = static_cast<module_screen*>(screen(entry->tag))) module->reload();
+    if (auto* module = static_cast<module_screen*>(screen(entry->tag))) {
+        module->reload_all();
+        module->set_loaded_file(state_.assess_file);
+    }
 }
 
 void program::refresh_front() {

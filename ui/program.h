@@ -51,6 +51,7 @@ class program : public QObject, public screens, public report_viewer {
 
   private:
     module_screen* make_module(std::string_view tag);
+    void load_if_other_file(module_screen& module);
     QWidget* make(std::string_view tag);
     QWidget* made(std::string_view tag);
     /// Shows another screen and does away with this one; its size is kept for the next time.

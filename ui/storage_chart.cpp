@@ -44,7 +44,7 @@ QPalette paper() {
 
 // The smallest round height, in percent, that the figures fit under and that the divisions cut into whole
 // numbers.
-double automatic_maximum(const monthly_percents& percents, int divisions) {
+double automatic_maximum(const monthly_values& percents, int divisions) {
     const double largest = *std::max_element(percents.begin(), percents.end());
     for (const int step : {1, 2, 5, 10})
         if (step * divisions >= largest) return step * divisions;
@@ -63,7 +63,7 @@ storage_chart::storage_chart(QWidget* parent)
       marks_(new QScatterSeries),
       full_(new QLineSeries),
       months_(new QBarCategoryAxis),
-      percent_axis_(new QValueAxis) {
+      scale_(new QValueAxis) {
     setObjectName("MSChartStorage");
     setAccessibleName(tr("Percent full at month end"));
     setFocusPolicy(Qt::NoFocus);
@@ -96,17 +96,18 @@ void storage_chart::add_lines() {
 
 void storage_chart::add_axes() {
     months_->append(month_labels);
-    percent_axis_->setLabelFormat("%.0f");
-    percent_axis_->setTitleText(tr("% full at month end"));
+    scale_->setLabelFormat("%.0f");
+    scale_->setTruncateLabels(false);
+    scale_->setTitleText(tr("% full at month end"));
     chart()->addAxis(months_, Qt::AlignBottom);
-    chart()->addAxis(percent_axis_, Qt::AlignLeft);
+    chart()->addAxis(scale_, Qt::AlignLeft);
     for (QAbstractSeries* series : chart()->series()) {
         series->attachAxis(months_);
-        series->attachAxis(percent_axis_);
+        series->attachAxis(scale_);
     }
-    QFont plain = percent_axis_->titleFont();
+    QFont plain = scale_->titleFont();
     plain.setBold(false);
-    percent_axis_->setTitleFont(plain);
+    scale_->setTitleFont(plain);
 }
 
 void storage_chart::set_colours(const QPalette& palette) {
@@ -129,17 +130,16 @@ void storage_chart::set_colours(const QPalette& palette) {
     full_->setPen(QPen(QColor(lines.full), 1.5, Qt::DashLine));
 }
 
-void storage_chart::show_percents(const monthly_percents& percents, const chart_scale& scale) {
+void storage_chart::show_percents(const monthly_values& percents, const percent_axis& axis) {
     percents_ = percents;
-    scale_ = scale;
+    axis_ = axis;
     QList<QPointF> points;
     for (std::size_t m = 0; m < percents.size(); ++m)
         points << QPointF(static_cast<double>(m), std::min(percents[m], highest_drawn));
     line_->replace(points);
     marks_->replace(points);
-    percent_axis_->setTickCount(scale.divisions + 1);
-    percent_axis_->setRange(
-        0, scale.fixed_maximum > 0 ? scale.fixed_maximum : automatic_maximum(percents, scale.divisions));
+    scale_->setTickCount(axis.divisions + 1);
+    scale_->setRange(0, axis.maximum ? *axis.maximum : automatic_maximum(percents, axis.divisions));
     describe();
 }
 
@@ -168,7 +168,7 @@ void storage_chart::changeEvent(QEvent* event) {
 void storage_chart::save_picture(const std::string& path) const {
     storage_chart print;
     print.set_colours(paper());
-    print.show_percents(percents_, scale_);
+    print.show_percents(percents_, axis_);
     print.resize(picture_px);
     const QImage picture = print.grab().toImage().convertToFormat(QImage::Format_RGB32);
     QImageWriter writer(qt(path));

@@ -3,8 +3,9 @@
 #pragma once
 
 #include <QtCharts/QChartView>
-#include <array>
 #include <string>
+
+#include "storage/storage_balance.h"
 
 class QBarCategoryAxis;
 class QLineSeries;
@@ -13,16 +14,6 @@ class QValueAxis;
 
 namespace kel {
 
-/// Percent full at the end of January to December.
-using monthly_percents = std::array<float, 12>;
-
-/// The value axis: up to `fixed_maximum` percent, or as high as the figures ask for when that is 0.
-struct chart_scale {
-    int fixed_maximum = 0;
-    int divisions = 10;
-    bool operator==(const chart_scale&) const = default;
-};
-
 class storage_chart : public QChartView {
     Q_OBJECT
 
@@ -30,7 +21,7 @@ class storage_chart : public QChartView {
     explicit storage_chart(QWidget* parent = nullptr);
 
     /// Moves the twelve points to these figures.
-    void show_percents(const monthly_percents& percents, const chart_scale& scale);
+    void show_percents(const monthly_values& percents, const percent_axis& axis);
     /// Writes the chart as a picture, in the format that the file's name asks for. Throws file_error.
     void save_picture(const std::string& path) const;
 
@@ -48,9 +39,9 @@ class storage_chart : public QChartView {
     QScatterSeries* marks_;
     QLineSeries* full_;  // the stores' capacity
     QBarCategoryAxis* months_;
-    QValueAxis* percent_axis_;
-    monthly_percents percents_{};
-    chart_scale scale_{};
+    QValueAxis* scale_;
+    monthly_values percents_{};
+    percent_axis axis_;
 };
 
 }  // namespace kel

@@ -1,5 +1,5 @@
-// The built data tree: the template and the document agree, the map leads from every square to a place and
-// from every zone to its towns, and the sample farm passes the tests of the screens that would have made it.
+// The built data tree: the template and the document agree, and the map leads from every square to a place
+// and from every zone to its towns.
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
@@ -19,7 +19,6 @@ const std::string stage = KEL_STAGE_DIR;
 const std::string blank = stage + "/kel_calc/dbases/blank.mdb";
 const std::string grass = stage + "/kel_calc/dbases/wren_grass.mdb";
 const std::string climate = stage + "/scdb/scdb.mdb";
-const std::string sample = stage + "/kel_calc/User_files/Mains of Tullifern 2024-25.kel";
 
 std::vector<std::string> texts(const std::string& file, const std::string& sql) {
     SQLite::Database db(file);
@@ -137,45 +136,6 @@ TEST(GrassTables, EveryAnswerOfTheSiteTableFindsItsFigures) {
     // without cuts.
     EXPECT_EQ(db.open("Grass_adjust", "Clover", "Low").record_count(), 2 * (3 * 6 + 1) + 6);
     EXPECT_EQ(db.open("Grass_adjust", "Clover", "High").record_count(), 3 + 2);
-}
-
-TEST(SampleFarm, ProfileAgreesWithFieldsAndTown) {
-    const database db(sample);
-    const recordset profile = db.open("FarmProfile");
-    float kel_area = 0;
-    for (recordset field = db.open("Field Data"); !field.eof(); field.move_next()) {
-        kel_area += leading_single(field.text("KEL Size"));
-        EXPECT_LE(leading_single(field.text("KEL Size")), leading_single(field.text("Size")));
-    }
-    EXPECT_EQ(profile.text("KEL Area"), shortest_text(kel_area));
-    EXPECT_GE(leading_single(profile.text("Area")), kel_area);
-    EXPECT_EQ(profile.text("FieldNo"), std::to_string(db.open("Field Data").record_count()));
-    EXPECT_EQ(database(climate).lookup("KEL", "KEL_rain", "Town", profile.text("Town")), profile.text("KEL"));
-    EXPECT_EQ(read_assessment_year(sample), make_date(19, 12, 2024));
-}
-
-TEST(SampleFarm, LandAndStockRowsAreAsStep1WritesThem) {
-    const database db(sample);
-    const auto number = [](const recordset& row, const char* column) {
-        return leading_single(row.text(column));
-    };
-    EXPECT_EQ(db.open("Land").record_count(), db.open("Field Data").record_count());
-    for (recordset land = db.open("Land"); !land.eof(); land.move_next()) {
-        const std::string name = land.text("Field Area ID");
-        const float used = number(land, "Area In Grass (ha)") + number(land, "Area Not In Grass (ha)");
-        const float deducted = number(land, "Buffer Areas To Be Deducted (ha)") +
-                               number(land, "Slope Areas To Be Deducted (ha)") +
-                               number(land, "Other Areas To Be Deducted (ha)");
-        EXPECT_EQ(land.text("Available Field Area (ha)"), format_fixed(used - deducted, 2)) << name;
-        EXPECT_EQ(shortest_text(round_half_even(used, 2)), land.text("Total Area")) << name;
-        EXPECT_EQ(db.lookup("Size", "Field Data", "Field Name", name), land.text("Total Area")) << name;
-        EXPECT_EQ(db.lookup("Soil", "Field Data", "Field Name", name), land.text("Soil")) << name;
-    }
-    for (recordset stock = db.open("Land_animals"); !stock.eof(); stock.move_next())
-        EXPECT_EQ(stock.text("Total N Excreted By All These Animals (kg/year)"),
-                  shortest_text(number(stock, "Total N Excreted By One Stock Unit (kg/year)") *
-                                number(stock, "Number Of Stock Units")))
-            << stock.text("Stock Unit");
 }
 
 }  // namespace

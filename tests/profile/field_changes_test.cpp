@@ -115,15 +115,15 @@ TEST_F(FieldChanges, ASecondRenameWithoutReloadFindsNothing) {
 
 // Rows are renamed one field after the other, so the first of two swapped names takes the second one's rows
 // along.
-TEST_F(FieldChanges, SwappedNamesEndInOne) {
+TEST_F(FieldChanges, SwappedNamesKeepTheirRowsApart) {
     open_chain({{"Low", "4"}, {"High", "4"}});
     profile.enter_name(0, "between");
     profile.enter_name(1, "Low");
     profile.enter_name(0, "High");
     set_profile();
     EXPECT_EQ(column_of(state.slot_current, "Field Data", "Field Name"), (texts{"High", "Low"}));
-    EXPECT_EQ(column_of(state.slot_prev1, "Field Data", "Field Name"), (texts{"Low", "Low"}));
-    EXPECT_EQ(column_of(state.slot_current, "Straw", "Field Area ID"), (texts{"Low", "Low"}));
+    EXPECT_EQ(column_of(state.slot_prev1, "Field Data", "Field Name"), (texts{"High", "Low"}));
+    EXPECT_EQ(column_of(state.slot_current, "Straw", "Field Area ID"), (texts{"High", "Low"}));
 }
 
 TEST_F(FieldChanges, OnlyTheSlotsAreCarriedIntoAndOneFileMayStandInTwo) {

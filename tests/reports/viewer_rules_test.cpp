@@ -97,7 +97,7 @@ TEST_F(SaveReport, NameWithoutExtensionBecomesAPageAndAsksBeforeItReplacesOne) {
     EXPECT_EQ("page", file_text(path("first/land.htm")));
     EXPECT_FALSE(fs::exists(path("first/land")));
 
-    const message replace{"Save the report", "land.htm already exists. Do you want to replace it?",
+    const message replace{"Save the report", "The file land.htm already exists. Do you want to replace it?",
                           message_kind::warning, message_buttons::yes_no};
     for (const answer reply : {answer::no, answer::yes}) {
         write_file(path("first/land.htm"), "older page");

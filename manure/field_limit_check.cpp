@@ -1,0 +1,63 @@
+#include "manure/field_limit_check.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+
+namespace kel {
+
+namespace {
+
+struct field_history {
+    std::vector<const dated_rate*> table;
+    std::vector<const dated_rate*> last_year;
+};
+using histories = std::unordered_map<std::string_view, field_history>;
+
+// 29 February has no such day a year earlier. The twelve months that end on it begin on 1 March, so that the
+// day before them is 28 February.
+date one_year_before(date day) {
+    const date before = day - std::chrono::years{1};
+    if (before.ok()) return before;
+    return before.year() / before.month() / std::chrono::last;
+}
+
+// In single precision and in this order: the application itself, the table's others in row order, last
+// year's in stored order.
+float sum_at(const dated_rate& application, const field_history& history) {
+    float sum = application.total_n_kg_per_ha;
+    for (const dated_rate* other : history.table)
+        if (other != &application && other->day <= application.day) sum += other->total_n_kg_per_ha;
+    const date a_year_before = one_year_before(application.day);
+    for (const dated_rate* past : history.last_year)
+        if (past->day > a_year_before && past->day <= application.day) sum += past->total_n_kg_per_ha;
+    return sum;
+}
+
+histories by_field(std::span<const dated_rate> table, std::span<const dated_rate> last_year) {
+    histories found;
+    for (const dated_rate& application : table)
+        found[application.field].table.push_back(&application);
+    for (const dated_rate& application : last_year)
+        if (const auto at = found.find(application.field); at != found.end())
+            at->second.last_year.push_back(&application);
+    return found;
+}
+
+}  // namespace
+
+std::set<std::string, std::less<>> fields_over_limit(
+    std::span<const dated_rate> table, const std::optional<std::vector<dated_rate>>& last_year) {
+    if (last_year && last_year->empty()) return {};
+    const std::span<const dated_rate> past = last_year ? *last_year : std::span<const dated_rate>{};
+    std::set<std::string, std::less<>> over;
+    for (const auto& [field, history] : by_field(table, past)) {
+        const bool beyond = std::any_of(history.table.begin(), history.table.end(), [&](const auto* row) {
+            return sum_at(*row, history) > rolling_field_limit_kg_per_ha;
+        });
+        if (beyond) over.emplace(field);
+    }
+    return over;
+}
+
+}  // namespace kel

@@ -1,0 +1,32 @@
+// The field limit on organic nitrogen: 250 kg N per hectare in any twelve months, without the nitrogen of
+// grazing animals. It is tested at every application over the twelve months that end on its day. Rates count
+// as they stand, each per hectare of its own area; solids and slurries count alike.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/dates.h"
+
+namespace kel {
+
+inline constexpr float rolling_field_limit_kg_per_ha = 250.0F;
+
+struct dated_rate {
+    std::string field;
+    date day;
+    float total_n_kg_per_ha;
+};
+
+/// Names of the fields over the limit; exactly 250 passes. `table` is this year's applications in row order:
+/// all up to an application's day count with it. `last_year` is those of the linked file in stored order;
+/// they count when they are less than a year older. Nothing: no file is linked. A linked file without a
+/// single application switches the check off.
+std::set<std::string, std::less<>> fields_over_limit(std::span<const dated_rate> table,
+                                                     const std::optional<std::vector<dated_rate>>& last_year);
+
+}  // namespace kel

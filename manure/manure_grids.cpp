@@ -1,0 +1,178 @@
+#include "manure/manure_grids.h"
+
+#include <array>
+#include <unordered_map>
+
+#include "core/assessment_files.h"
+#include "core/module_messages.h"
+#include "core/numbers.h"
+
+namespace kel {
+
+namespace {
+
+namespace col = manure_column;
+
+constexpr auto entered = column_kind::entered;
+constexpr auto calculated = column_kind::calculated;
+constexpr auto carried = column_kind::carried;
+
+// The table of applications with its columns in [Manure_applic].
+// clang-format off
+constexpr std::array<grid_column, 14> manure_columns{{
+    // heading                                     stored column            kind    width
+    {"Field Area ID",                              "Field Area ID",         entered,    16},
+    {"Soil",                                       "Soil",                  calculated, 17},
+    {"Incorporation Time",                         "Incorporation",         entered,    15},
+    {"Manure Type",                                "Manure Type",           entered,    28},
+    {"Date Applied",                               "Date",                  entered,    12, true},
+    {"Area Spread (ha)",                           "Area Spread",           entered,     8},
+    {"Amount Applied (t or cubic m)",              "Amount Applied",        entered,    10},
+    {"Application Rate (t or cubic m per ha)",     "Applic Rate",           calculated, 12},
+    {"Total N Content (kg/t or kg/cubic m)",       "Total N Content",       entered,    12},
+    {"Total N Application Rate (kg/ha)",           "Total N Applic Rate",   calculated, 12},
+    {"Available N (%)",                            "Available N",           calculated, 10},
+    {"Available N Rate For Current Crop (kg/ha)",  "Available N Rate",      calculated, 12},
+    {"Available N Rate For Next Crop (kg/ha)",     "Available N Rate Next", calculated, 12},
+    {"Month Applied",                              "Month Applied",         carried,    10},
+}};
+
+// The results; they are not stored.
+constexpr std::array<grid_column, 4> result_columns{{
+    // heading                                 stored  kind     width
+    {"Field Area ID",                          "",     calculated, 30},
+    {"N Available to Current Crop (kg/ha)",    "",     calculated, 24},
+    {"N Available to Next Crop (kg/ha)",       "",     calculated, 24},
+    {"Warnings",                               "",     calculated, 14},
+}};
+// clang-format on
+static_assert(manure_columns[col::date].is_date && manure_columns[col::month].stored == "Month Applied" &&
+              manure_columns[col::total_n].stored == "Total N Applic Rate" &&
+              manure_columns[col::available_next].stored == "Available N Rate Next");
+
+bool is_complete(const text_grid& table, int row) {
+    for (int c = col::soil; c <= col::month; ++c)
+        if (table.cell(row, c).empty()) return false;
+    return true;
+}
+
+struct nitrogen_sums {
+    float current_crop = 0;
+    float next_crop = 0;
+};
+
+std::string one_decimal(float value) {
+    return shortest_text(round_half_even(value, 1));
+}
+
+}  // namespace
+
+text_grid empty_manure_grid() {
+    text_grid table(manure_columns);
+    table.add_row();
+    return table;
+}
+
+text_grid empty_manure_results() {
+    return text_grid(result_columns);
+}
+
+void write_application_rate(text_grid& table, int row) {
+    const auto rate = application_rate(table.number(row, col::amount), table.number(row, col::area));
+    table.set_cell(row, col::rate, rate ? shortest_text(*rate) : "");
+}
+
+void write_total_n(text_grid& table, int row) {
+    const float total = total_n_rate(table.number(row, col::n_content), table.number(row, col::rate));
+    table.set_cell(row, col::total_n, shortest_text(total));
+}
+
+void write_total_n_of_analysis(text_grid& table, int row) {
+    const double total = total_n_rate_of_analysis(leading_number(table.cell(row, col::n_content)),
+                                                  leading_number(table.cell(row, col::rate)));
+    table.set_cell(row, col::total_n, shortest_text(total));
+}
+
+percentage_outcome write_percentage(text_grid& table, int row, int& working_code) {
+    const auto result = available_percentage({.month = table.cell(row, col::month),
+                                              .soil = table.cell(row, col::soil),
+                                              .manure = table.cell(row, col::manure),
+                                              .incorporation = table.cell(row, col::incorporation)},
+                                             working_code);
+    working_code = result.working_code;
+    if (result.outcome == percentage_outcome::found)
+        table.set_cell(row, col::percentage, std::to_string(result.percentage));
+    return result.outcome;
+}
+
+void write_rates(text_grid& table, int row) {
+    const float total = table.number(row, col::total_n);
+    table.set_cell(row, col::available,
+                   shortest_text(available_n_rate(total, table.number(row, col::percentage))));
+    table.set_cell(row, col::available_next, shortest_text(available_n_rate_next(total)));
+}
+
+text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
+                            std::vector<message>& told) {
+    text_grid table(manure_columns);
+    for (recordset rows = db.open("Manure_applic"); !rows.eof(); rows.move_next()) {
+        const std::string field = rows.text("Field Area ID");
+        if (!field.empty() && !fields.contains(field)) {
+            told.push_back(module_messages::field_does_not_exist(field));
+            continue;
+        }
+        const int row = table.add_row();
+        load_grid_row(rows, table, row);
+        const auto day = parse_date(table.cell(row, col::date));
+        if (day && window.contains(*day)) continue;
+        if (!table.cell(row, col::date).empty()) told.push_back({"", window.refusal});
+        for (const int c : {col::date, col::percentage, col::available, col::available_next, col::month})
+            table.set_cell(row, c, "");
+    }
+    table.add_row();
+    return table;
+}
+
+void save_applications(const database& db, const text_grid& table) {
+    save_grid(db, "Manure_applic", table, table.data_row_count());
+}
+
+std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table) {
+    std::unordered_map<std::string_view, nitrogen_sums> sums;
+    for (const farm_field& field : fields)
+        sums[field.name] = {};
+    for (int row = 0; row < table.data_row_count(); ++row) {
+        const auto found = sums.find(table.cell(row, col::field));
+        if (found == sums.end()) continue;
+        if (!is_complete(table, row)) return std::nullopt;
+        found->second.current_crop += table.number(row, col::available);
+        found->second.next_crop += table.number(row, col::available_next);
+    }
+    text_grid results = empty_manure_results();
+    for (const farm_field& field : fields) {
+        const int row = results.add_row();
+        results.set_cell(row, manure_result_column::field, field.name);
+        results.set_cell(row, manure_result_column::current_crop, one_decimal(sums[field.name].current_crop));
+        results.set_cell(row, manure_result_column::next_crop, one_decimal(sums[field.name].next_crop));
+        results.set_cell(row, manure_result_column::warnings, "No");
+    }
+    return results;
+}
+
+std::vector<dated_rate> dated_rates(const text_grid& table) {
+    std::vector<dated_rate> found;
+    for (int row = 0; row < table.data_row_count(); ++row)
+        if (const auto day = parse_date(table.cell(row, col::date)))
+            found.push_back({table.cell(row, col::field), *day, table.number(row, col::total_n)});
+    return found;
+}
+
+std::vector<dated_rate> dated_rates(const database& db) {
+    std::vector<dated_rate> found;
+    for (recordset rows = db.open("Manure_applic"); !rows.eof(); rows.move_next())
+        found.push_back({rows.text("Field Area ID"), rows.date_value("Date").value_or(date{}),
+                         leading_single(rows.text("Total N Applic Rate"))});
+    return found;
+}
+
+}  // namespace kel

@@ -1,0 +1,80 @@
+// The table of applications and the results as grids: columns as data, the calculations of a row, the way
+// from and to the file.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/assessment_store.h"
+#include "core/farm_fields.h"
+#include "core/prompts.h"
+#include "core/text_grid.h"
+#include "manure/available_nitrogen.h"
+#include "manure/field_limit_check.h"
+
+namespace kel {
+
+namespace manure_column {
+enum : int {
+    field = 0,
+    soil = 1,
+    incorporation = 2,
+    manure = 3,
+    date = 4,
+    area = 5,
+    amount = 6,
+    rate = 7,
+    n_content = 8,
+    total_n = 9,
+    percentage = 10,
+    available = 11,
+    available_next = 12,
+    month = 13,
+};
+}
+
+namespace manure_result_column {
+enum : int { field = 0, current_crop = 1, next_crop = 2, warnings = 3 };
+}
+
+/// An empty table with its entry row, and results without a row.
+text_grid empty_manure_grid();
+text_grid empty_manure_results();
+
+// The calculations of a row, each from the cells as they stand.
+/// Amount over area, two decimals; emptied without an area.
+void write_application_rate(text_grid& table, int row);
+/// kg N/ha from N content and application rate.
+void write_total_n(text_grid& table, int row);
+void write_total_n_of_analysis(text_grid& table, int row);
+/// Percentage available to the current crop, where one is found. The row's manure becomes the working code.
+percentage_outcome write_percentage(text_grid& table, int row, int& working_code);
+/// kg N/ha available to the current and to the next crop.
+void write_rates(text_grid& table, int row);
+
+/// The days that the table takes, the first and the last included, and what is said of any other.
+struct date_window {
+    date first;
+    date last;
+    std::string refusal;
+    bool contains(date day) const { return first <= day && day <= last; }
+};
+
+/// [Manure_applic] as it is stored, without the rows of fields that the profile lacks. A date outside the
+/// window is left empty, with the cells that depend on it. What is to be said goes into `told`, in order.
+text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
+                            std::vector<message>& told);
+/// Replaces the rows of [Manure_applic]. Call within a save_transaction.
+void save_applications(const database& db, const text_grid& table);
+
+/// One row per field of the profile with the sums of its applications in kg N/ha, one decimal, and "No" for
+/// warnings. Nothing if an application to one of the fields has an empty cell.
+std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table);
+
+/// The applications that name a day, with their total N, in row order.
+std::vector<dated_rate> dated_rates(const text_grid& table);
+/// The applications of a file in stored order. Throws file_error for a date that is none.
+std::vector<dated_rate> dated_rates(const database& db);
+
+}  // namespace kel

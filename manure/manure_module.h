@@ -1,0 +1,120 @@
+// Step 3, slurry and manure applications: the working copy of the table, the flow of its edits and the
+// results. The module also serves the crop and the grassland module, for this year's or for last year's file.
+// Nothing reaches the file before save. Rows count from 0 without the heading; the last row of the table is
+// the entry row.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/application_state.h"
+#include "core/prompts.h"
+#include "core/text_grid.h"
+#include "manure/manure_catalogue.h"
+#include "manure/manure_grids.h"
+#include "reports/report_viewer.h"
+
+namespace kel {
+
+enum class manure_box { none, field, manure, incorporation, day, area, amount, n_content };
+
+/// What a click or the choice of a manure opens; none after a message.
+struct manure_opening {
+    manure_box box = manure_box::none;
+    std::string_view caption;
+    std::string_view instruction;
+    std::string_view unit;
+    std::string text;  // in the box as it opens
+    bool operator==(const manure_opening&) const = default;
+};
+
+enum class manure_choice { stay, close, ask_incorporation };
+
+class manure_module {
+  public:
+    manure_module(application_state& state, prompts& person);
+
+    const text_grid& applications() const { return applications_; }
+    const text_grid& results() const { return results_; }
+    /// Whether the results are in view in place of the table.
+    bool results_shown() const { return results_shown_; }
+    const std::vector<std::string>& field_names() const { return field_names_; }
+    const std::string& instructions() const { return instructions_; }
+    const std::string& warnings() const { return warnings_; }
+
+    /// Fills the table from the file of manure_caller and tells what was not taken over; sets the year limits
+    /// of the state. Throws file_error and leaves everything as it was when a file cannot be read.
+    void manure_load_stuff();
+
+    manure_opening click(int row, int column);
+    /// What a box shows as it opens; the incorporation box is the second step of the manure box.
+    manure_opening opening(manure_box box, int row) const;
+    /// The incorporation times of the manure chosen last.
+    incorporation_choices choices() const;
+
+    // The entry boxes: what the person chose or typed goes into the cell, with the cells that follow from it.
+    // True: the box closes.
+    bool enter_field(int row, const std::string& name);
+    manure_choice enter_manure(int row, const std::string& type);
+    /// Nothing chosen leaves the incorporation cell.
+    bool enter_incorporation(int row, const std::optional<std::string>& chosen);
+    bool enter_date(int row, date day);
+    bool enter_area(int row, const std::string& text);
+    bool enter_amount(int row, const std::string& text);
+    bool enter_n_content(int row, const std::string& text);
+
+    /// False, after a message, for the entry row.
+    bool erase_row(int row);
+
+    /// Sums the fields and tests limit and closed periods. False, after a message, leaves the table in view.
+    /// Each file is read once; throws file_error before anything has changed.
+    bool calculate();
+    /// Back to the table.
+    void back();
+
+    /// Replaces the table in the file in one transaction. False: no file was chosen. Throws file_error; the
+    /// file then holds its old rows.
+    bool save();
+    /// Asks whether the module may close.
+    bool close();
+    /// Where it leads back to, once close has said yes.
+    std::string_view back_tag() const { return back_tag_; }
+    /// Shows the report of the results; does nothing while the table is in view.
+    void report(report_desk& desk);
+
+  private:
+    bool refuse(const message& reason);
+    manure_opening opens_none(const message& reason);
+    bool proceeds(const message& question) { return person_.ask(question) == answer::yes; }
+    bool for_previous_year() const { return state_.manure_caller == "old crop"; }
+    date_window window(const year_limits& limits) const;
+    bool land_allows(const std::string& field, int month);
+    void take_default_n_content(int row);
+    void recalculate_share(int row);
+    bool recalculate_rate(int row);
+    bool entered(int row);
+    bool have_file();
+    void mark_over_limit(const std::optional<std::vector<dated_rate>>& last_year);
+    void fm_closed_rep(const std::vector<int>& closed_rows);
+
+    application_state& state_;
+    prompts& person_;
+    text_grid applications_;
+    text_grid results_;
+    bool results_shown_ = false;
+    std::vector<std::string> field_names_;
+    std::string instructions_;
+    std::string warnings_;
+    std::vector<std::string> over_limit_;      // fields, in the order of the results
+    std::vector<std::string> closed_periods_;  // sentences, in row order
+    std::string_view back_tag_ = "front";
+
+    // What the open module remembers from entry to entry.
+    int working_code_ = no_manure_code;
+    std::string listed_manure_;  // chosen in the manure list last, in whatever row
+    date calendar_ = make_date(1, 1, 2000);
+};
+
+}  // namespace kel

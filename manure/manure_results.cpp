@@ -1,0 +1,147 @@
+// Calculate and what follows from it, save and close.
+#include <array>
+#include <unordered_map>
+#include <utility>
+
+#include "core/assessment_files.h"
+#include "core/file_choice.h"
+#include "core/module_messages.h"
+#include "manure/manure_messages.h"
+#include "manure/manure_module.h"
+#include "manure/manure_report.h"
+#include "storage/closed_periods.h"
+
+namespace kel {
+
+namespace text = manure_messages;
+namespace col = manure_column;
+
+namespace {
+
+// What Calculate takes from the files, read in one go.
+struct files_read {
+    std::vector<farm_field> fields;
+    std::vector<int> closed_rows;
+    std::optional<std::vector<dated_rate>> last_year;
+};
+
+// The months closed to manure of every field in [Land], read in one pass; a field's first row counts.
+using closed_calendar = std::unordered_map<std::string, std::array<bool, 12>>;
+
+closed_calendar read_closed_months(const database& db) {
+    closed_calendar calendar;
+    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
+        const auto [entry, is_new] = calendar.try_emplace(rows.text("Field Area ID"));
+        for (int month = 1; is_new && month <= 12; ++month)
+            entry->second.at(static_cast<std::size_t>(month - 1)) =
+                rows.text(month_name(month)) == closed_month;
+    }
+    return calendar;
+}
+
+std::vector<int> rows_in_closed_periods(const closed_calendar& calendar, const text_grid& table) {
+    std::vector<int> rows;
+    for (int row = 0; row < table.data_row_count(); ++row) {
+        const auto day = parse_date(table.cell(row, col::date));
+        const auto field = calendar.find(table.cell(row, col::field));
+        if (!day || field == calendar.end() || is_exempt_fym(table.cell(row, col::manure))) continue;
+        if (field->second.at(static_cast<std::size_t>(month_of(*day) - 1))) rows.push_back(row);
+    }
+    return rows;
+}
+
+files_read read_files(const application_state& state, const text_grid& table) {
+    files_read files;
+    if (!state.assess_file.empty()) {
+        const database db(state.assess_file);
+        files.fields = read_farm_fields(db);
+        files.closed_rows = rows_in_closed_periods(read_closed_months(db), table);
+    }
+    if (!state.prev1_file.empty()) files.last_year = dated_rates(database(state.prev1_file));
+    return files;
+}
+
+}  // namespace
+
+bool manure_module::calculate() {
+    const files_read files = read_files(state_, applications_);
+    instructions_ = text::result_instruction();
+    if (files.fields.empty()) return refuse(text::no_fields);
+    auto sums = sum_by_field(files.fields, applications_);
+    if (!sums) return refuse(text::missing_data);
+    results_ = *std::move(sums);
+    warnings_ = text::warnings_heading;
+    // With last year's file in the table its stored applications count beside those of the table.
+    mark_over_limit(files.last_year);
+    fm_closed_rep(files.closed_rows);
+    results_shown_ = true;
+    return true;
+}
+
+void manure_module::mark_over_limit(const std::optional<std::vector<dated_rate>>& last_year) {
+    const auto over = fields_over_limit(dated_rates(applications_), last_year);
+    over_limit_.clear();
+    for (int row = 0; row < results_.row_count(); ++row) {
+        const std::string& field = results_.cell(row, manure_result_column::field);
+        if (!over.contains(field)) continue;
+        over_limit_.push_back(field);
+        results_.set_cell(row, manure_result_column::warnings, "Yes");
+    }
+    if (!over_limit_.empty()) instructions_ += text::limit_warning(over_limit_);
+}
+
+// The mark goes to the results row that bears the number of the application's row, if there is one.
+void manure_module::fm_closed_rep(const std::vector<int>& closed_rows) {
+    closed_periods_.clear();
+    for (const int row : closed_rows) {
+        closed_periods_.push_back(text::closed_warning(applications_.cell(row, col::manure),
+                                                       applications_.cell(row, col::field),
+                                                       applications_.cell(row, col::date)));
+        warnings_.append(line_break).append(line_break).append(closed_periods_.back());
+        if (row < results_.row_count()) results_.set_cell(row, manure_result_column::warnings, "Yes");
+    }
+}
+
+void manure_module::back() {
+    results_shown_ = false;
+    instructions_ = text::instruction;
+}
+
+bool manure_module::have_file() {
+    if (!for_previous_year()) return have_file_to_save(state_, person_, text::this_years_file.title);
+    if (!state_.prev1_file.empty()) return true;
+    const std::string chosen = choose_file_to_save(state_, person_, "Save the assessment");
+    if (chosen.empty()) return false;
+    if (same_file(chosen, state_.assess_file)) return refuse(text::this_years_file);
+    copy_assessment(state_.places.blank_assessment(), chosen);
+    state_.prev1_file = chosen;
+    return true;
+}
+
+bool manure_module::save() {
+    if (!have_file()) return false;
+    const database db(for_previous_year() ? state_.prev1_file : state_.assess_file);
+    save_transaction transaction(db);
+    save_applications(db, applications_);
+    transaction.commit();
+    return true;
+}
+
+bool manure_module::close() {
+    if (person_.ask(module_messages::close_module) == answer::no) return false;
+    if (std::exchange(state_.manure_from_grass, false))
+        back_tag_ = "grass";
+    else
+        back_tag_ = state_.manure_caller == "front" ? "front" : "crop";
+    return true;
+}
+
+// Step 1 is the screen that is hidden; this one stays open behind the viewer.
+void manure_module::report(report_desk& desk) {
+    if (!results_shown_) return;
+    generate_report(desk, manure_report_file,
+                    manure_report(results_, applications_, over_limit_, closed_periods_), "land",
+                    "reduction");
+}
+
+}  // namespace kel

@@ -1,0 +1,184 @@
+#include "storage/land_plan.h"
+
+#include <array>
+#include <map>
+#include <utility>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+#include "crops/crop_catalogue.h"
+
+namespace kel {
+
+namespace {
+
+constexpr auto entered = column_kind::entered;
+constexpr auto calculated = column_kind::calculated;
+constexpr auto carried = column_kind::carried;
+
+// The land table. Columns carry the names of [Land]; areas and soil come from Step 1.
+// clang-format off
+constexpr std::array<grid_column, 21> land_columns{{
+    // heading                            stored column                       kind        width
+    {"Field Area ID",                     "Field Area ID",                    calculated, 18},
+    {"Soil",                              "Soil",                             calculated, 18},
+    {"Crops",                             "Crop",                             entered,    24},
+    {"Available Field Area (ha)",         "Available Field Area (ha)",        calculated, 14},
+    {"January",                           "January",                          entered,    10},
+    {"February",                          "February",                         entered,    10},
+    {"March",                             "March",                            entered,    10},
+    {"April",                             "April",                            entered,    10},
+    {"May",                               "May",                              entered,    10},
+    {"June",                              "June",                             entered,    10},
+    {"July",                              "July",                             entered,    10},
+    {"August",                            "August",                           entered,    10},
+    {"September",                         "September",                        entered,    10},
+    {"October",                           "October",                          entered,    10},
+    {"November",                          "November",                         entered,    10},
+    {"December",                          "December",                         entered,    10},
+    {"Area In Grass (ha)",                "Area In Grass (ha)",               carried,    12},
+    {"Area Not In Grass (ha)",            "Area Not In Grass (ha)",           carried,    12},
+    {"Buffer Areas To Be Deducted (ha)",  "Buffer Areas To Be Deducted (ha)", carried,    14},
+    {"Slope Areas To Be Deducted (ha)",   "Slope Areas To Be Deducted (ha)",  carried,    14},
+    {"Other Areas To Be Deducted (ha)",   "Other Areas To Be Deducted (ha)",  carried,    14},
+}};
+
+// The spreading table. Its months are further columns of [Land].
+constexpr std::array<grid_column, 13> spreading_columns{{
+    // heading           stored column        kind        width
+    {"Field Area ID",    "Field Area ID",     calculated, 22},
+    {"January",          "Applic_January",    entered,    10},
+    {"February",         "Applic_February",   entered,    10},
+    {"March",            "Applic_March",      entered,    10},
+    {"April",            "Applic_April",      entered,    10},
+    {"May",              "Applic_May",        entered,    10},
+    {"June",             "Applic_June",       entered,    10},
+    {"July",             "Applic_July",       entered,    10},
+    {"August",           "Applic_August",     entered,    10},
+    {"September",        "Applic_September",  entered,    10},
+    {"October",          "Applic_October",    entered,    10},
+    {"November",         "Applic_November",   entered,    10},
+    {"December",         "Applic_December",   entered,    10},
+}};
+// clang-format on
+static_assert(land_columns[plan_column::december].stored == "December" &&
+              land_columns[plan_column::area_in_grass].stored == "Area In Grass (ha)" &&
+              spreading_columns[spreading_column::december].stored == "Applic_December");
+
+int land_column_of(int month) {
+    return plan_column::january + month - 1;
+}
+
+int spreading_column_of(int month) {
+    return spreading_column::january + month - 1;
+}
+
+void add_last_rows(land_plan& plan) {
+    plan.land.set_row_count(plan.land.row_count() + 2);
+    plan.spreading.set_row_count(plan.spreading.row_count() + 2);
+}
+
+void fill_empty_months(text_grid& land, int row) {
+    for (int column = plan_column::january; column <= plan_column::december; ++column)
+        if (land.cell(row, column).empty())
+            land.set_cell(row, column, land.cell(row, plan_column::available));
+}
+
+// The cells of a row that are not empty. A month that is closed in the file is open again when its cell is
+// empty: the field's use has been entered anew.
+void set_filled_cells(recordset& target, const text_grid& grid, int row) {
+    for (int c = 0; c < grid.column_count(); ++c) {
+        const std::string_view stored = grid.columns()[static_cast<std::size_t>(c)].stored;
+        const std::string& text = grid.cell(row, c);
+        if (!text.empty() || target.text(stored) == closed_month) target.set(stored, text);
+    }
+}
+
+void open_closed_months(text_grid& grid, int row, int january) {
+    for (int column = january; column < january + months_in_year; ++column)
+        if (grid.cell(row, column) == closed_month) grid.set_cell(row, column, "");
+}
+
+void set_column_total(text_grid& grid, int column, int fields) {
+    grid.set_cell(grid.row_count() - 1, column, shortest_text(grid.sum(column, fields)));
+}
+
+}  // namespace
+
+land_plan empty_land_plan() {
+    land_plan plan{text_grid(land_columns), text_grid(spreading_columns)};
+    add_last_rows(plan);
+    return plan;
+}
+
+land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields,
+                         std::vector<std::string>& unknown_fields) {
+    const known_fields known(fields);
+    land_plan plan{text_grid(land_columns), text_grid(spreading_columns)};
+    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
+        std::string name = rows.text("Field Area ID");
+        if (!known.contains(name)) {
+            unknown_fields.push_back(std::move(name));
+            continue;
+        }
+        const int row = plan.land.add_row();
+        load_grid_row(rows, plan.land, row);
+        fill_empty_months(plan.land, row);
+        load_grid_row(rows, plan.spreading, plan.spreading.add_row());
+    }
+    add_last_rows(plan);
+    return plan;
+}
+
+void save_land_plan(const database& db, const land_plan& plan) {
+    std::multimap<std::string_view, int> rows_of_field;  // rows of one name keep their order
+    for (int row = 0; row < plan.fields(); ++row)
+        rows_of_field.emplace(plan.land.cell(row, plan_column::field), row);
+    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
+        const std::string name = rows.text("Field Area ID");
+        const auto found = rows_of_field.lower_bound(name);
+        if (found == rows_of_field.end() || found->first != name) continue;
+        rows.edit();
+        set_filled_cells(rows, plan.land, found->second);
+        set_filled_cells(rows, plan.spreading, found->second);
+        rows.update();
+        rows_of_field.erase(found);
+    }
+}
+
+void set_field_use(land_plan& plan, int row, const crop_pair& use, int harvest_month) {
+    plan.land.set_cell(row, plan_column::crop, compose_crop_pair(use.first, use.second));
+    open_closed_months(plan.land, row, plan_column::january);
+    open_closed_months(plan.spreading, row, spreading_column::january);
+    for (const int month : closed_months(plan.land.cell(row, plan_column::soil), use.second)) {
+        plan.land.set_cell(row, land_column_of(month), std::string(closed_month));
+        plan.spreading.set_cell(row, spreading_column_of(month), std::string(closed_month));
+    }
+    for (int month = 1; month <= months_in_year; ++month) {
+        if (plan.land.cell(row, land_column_of(month)) == closed_month) continue;
+        const bool under_crop = use.first != crop_types::grass && month <= harvest_month;
+        plan.land.set_cell(row, land_column_of(month),
+                           under_crop ? "0" : plan.land.cell(row, plan_column::available));
+    }
+}
+
+void set_plan_totals(land_plan& plan) {
+    plan.land.set_cell(plan.land.row_count() - 1, plan_column::available, "Monthly total =");
+    plan.spreading.set_cell(plan.spreading.row_count() - 1, spreading_column::field, "Monthly total =");
+    for (int month = 1; month <= months_in_year; ++month) {
+        set_column_total(plan.land, land_column_of(month), plan.fields());
+        set_column_total(plan.spreading, spreading_column_of(month), plan.fields());
+    }
+}
+
+monthly_values monthly_spreading(const land_plan& plan) {
+    monthly_values outputs{};
+    for (int row = 0; row < plan.fields(); ++row)
+        for (int month = 1; month <= months_in_year; ++month)
+            outputs[static_cast<std::size_t>(month - 1)] +=
+                plan.spreading.number(row, spreading_column_of(month)) *
+                plan.land.number(row, land_column_of(month));
+    return outputs;
+}
+
+}  // namespace kel

@@ -1,0 +1,53 @@
+// The plan by field: what area can take slurry in each month (land table), and what rate is to be spread
+// there (spreading table). Both hold the same fields in the same rows; an empty row and a row of totals
+// follow. Rows count from 0 without the heading.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/assessment_store.h"
+#include "core/farm_fields.h"
+#include "core/text_grid.h"
+#include "storage/closed_periods.h"
+#include "storage/months.h"
+
+namespace kel {
+
+namespace plan_column {
+enum : int { field, soil, crop, available, january, december = january + 11, area_in_grass };
+}
+namespace spreading_column {
+enum : int { field, january, december = january + 11 };
+}
+
+struct land_plan {
+    text_grid land;
+    text_grid spreading;
+
+    /// Rows that hold fields.
+    int fields() const { return land.row_count() - 2; }
+    bool operator==(const land_plan&) const = default;
+};
+
+/// Without a field.
+land_plan empty_land_plan();
+
+/// [Land], without the rows of fields that the profile lacks; their names are put into `unknown_fields`. An
+/// empty month takes the available area.
+land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields,
+                         std::vector<std::string>& unknown_fields);
+/// Writes the cells that are not empty into the fields' rows of [Land]. Call it within a save_transaction.
+void save_land_plan(const database& db, const land_plan& plan);
+
+/// A field's use: its closed months in both tables, and the land that the crops leave in the others. Land
+/// under a crop is free only after the month of harvest (1 to 12); grassland is free all year.
+void set_field_use(land_plan& plan, int row, const crop_pair& use, int harvest_month);
+
+/// Rows of totals of both tables.
+void set_plan_totals(land_plan& plan);
+/// Cubic metres spread in each month: rate times area over all fields. A closed month counts 0.
+monthly_values monthly_spreading(const land_plan& plan);
+
+}  // namespace kel

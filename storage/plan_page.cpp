@@ -1,0 +1,215 @@
+#include "storage/plan_page.h"
+
+#include <utility>
+
+#include "core/numbers.h"
+#include "storage/field_use_checks.h"
+#include "storage/number_box.h"
+#include "storage/slurry_production.h"
+#include "storage/slurry_transfer.h"
+#include "storage/storage_messages.h"
+
+namespace kel {
+
+namespace {
+
+std::string shown_or_empty(std::string_view stored) {
+    return std::string(shown_crop_type(stored).value_or(""));
+}
+
+int land_month_of(int column) {
+    return column - spreading_column::january + plan_column::january;
+}
+
+}  // namespace
+
+plan_page::plan_page(application_state& state, prompts& person)
+    : state_(state), person_(person), production_(empty_production_grid()), plan_(empty_land_plan()) {}
+
+bool plan_page::refuse(const message& reason) {
+    person_.tell(reason);
+    return false;
+}
+
+storage_opening plan_page::refused(const message& reason) {
+    person_.tell(reason);
+    return {};
+}
+
+void plan_page::take(text_grid production, land_plan plan) {
+    production_ = std::move(production);
+    plan_ = std::move(plan);
+    changed_ = false;
+}
+
+void plan_page::clear() {
+    take(empty_production_grid(), empty_land_plan());
+    stores_ = {};
+    balance_.reset();
+}
+
+void plan_page::begin(const store_totals& stores, const monthly_values& dirty_water) {
+    stores_ = stores;
+    monthly_values inputs = stores.monthly_rain_input;
+    for (std::size_t month = 0; month < inputs.size(); ++month)
+        inputs[month] += dirty_water[month];
+    set_inputs(production_, inputs);
+    rebuild();
+    tab_ = balance_ ? plan_tab::production : plan_tab::land;
+}
+
+void plan_page::rebuild() {
+    set_production_totals(production_);
+    set_plan_totals(plan_);
+    balance_ = build_balance(stores_, production_totals(production_), monthly_spreading(plan_));
+}
+
+void plan_page::entered() {
+    changed_ = true;
+    rebuild();
+}
+
+plan_tab plan_page::turn_to(plan_tab wanted) {
+    if (tab_ == plan_tab::land && wanted != plan_tab::land && !balance_)
+        person_.tell(storage_messages::no_storage_assessment);
+    else
+        tab_ = wanted;
+    return tab_;
+}
+
+storage_opening plan_page::click_production(int row, int column) {
+    using namespace storage_messages;
+    if (row == inputs_row || row == production_totals_row(production_)) return refused(protected_row);
+    switch (column) {
+        case production_column::stock:
+            return {storage_box::stock, stock_caption, stock_instruction};
+        case production_column::number:
+            return {storage_box::number, number_caption, number_instruction};
+        case production_column::percent:
+            return {storage_box::percent, percent_caption, percent_instruction};
+        case production_column::unit_volume:
+        case production_column::total_volume:
+            return refused(calculation);
+        default:
+            if (production_.number(row, production_column::total_volume) == 0) return refused(no_production);
+            return {storage_box::month, month_caption, month_instruction};
+    }
+}
+
+bool plan_page::set_stock_cell(int row, int column, const std::string& text) {
+    production_.set_cell(row, column, text);
+    recalculate_stock_line(production_, row);
+    entered();
+    return true;
+}
+
+bool plan_page::enter_stock(int row, const std::string& unit) {
+    if (unit.empty()) return refuse(storage_messages::no_livestock);
+    return set_stock_cell(row, production_column::stock, unit);
+}
+
+bool plan_page::enter_number(int row, const std::string& text) {
+    if (!number_box_filled(text)) return refuse(storage_messages::no_livestock_number);
+    return set_stock_cell(row, production_column::number, text);
+}
+
+bool plan_page::enter_percent(int row, const std::string& text) {
+    if (!number_box_filled(text)) return refuse(storage_messages::no_percentage);
+    const double percent = leading_number(text);
+    if (percent > 100 || percent < 0) return refuse(storage_messages::invalid_percentage);
+    return set_stock_cell(row, production_column::percent, text);
+}
+
+bool plan_page::enter_month(int row, int column, std::string_view text) {
+    production_.set_cell(row, column, std::string(text));
+    entered();
+    return true;
+}
+
+bool plan_page::erase_line(int row) {
+    if (row == empty_stock_row(production_)) return refuse(storage_messages::cannot_delete);
+    erase_stock_line(production_, row);
+    entered();
+    return true;
+}
+
+storage_opening plan_page::click_land(int row, int column) {
+    using namespace storage_messages;
+    if (row >= plan_.fields()) return refused(protected_row);
+    switch (column) {
+        case plan_column::field:
+        case plan_column::soil:
+            return refused(profile_cell);
+        case plan_column::crop:
+            return {storage_box::field_use, field_use_caption, field_use_instruction};
+        case plan_column::available:
+            return refused(available_area_cell);
+        default:
+            if (plan_.land.cell(row, column) == closed_month) return refused(closed_period);
+            return {storage_box::land_month, land_month_caption, land_month_instruction};
+    }
+}
+
+bool plan_page::enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
+                                date harvest) {
+    const auto first = stored_crop_type(first_crop);
+    const auto second = stored_crop_type(second_crop);
+    if (!first) return refuse(storage_messages::no_first_crop);
+    if (!second) return refuse(storage_messages::no_second_crop);
+    if (harvest < state_.limits.year_start || harvest > state_.limits.year_end)
+        return refuse(storage_messages::invalid_harvest_date);
+    const other_uses others = read_other_uses(state_, plan_.land.cell(row, plan_column::field));
+    if (!goes_with_last_year(others, *first, person_)) return false;
+    if (!goes_with_calculated_crop(others, *first, person_)) return false;
+    set_field_use(plan_, row, {std::string(*first), std::string(*second)}, month_of(harvest));
+    entered();
+    return true;
+}
+
+crop_pair plan_page::shown_field_use(int row) const {
+    const auto use = split_crop_pair(plan_.land.cell(row, plan_column::crop));
+    if (!use) return {};
+    return {shown_or_empty(use->first), shown_or_empty(use->second)};
+}
+
+bool plan_page::enter_land_month(int row, int column, const std::string& text) {
+    if (!number_box_filled(text)) return refuse(storage_messages::no_land_availability);
+    if (plan_.land.number(row, plan_column::available) - leading_single(text) < 0)
+        return refuse(storage_messages::more_than_available);
+    plan_.land.set_cell(row, column, text);
+    entered();
+    return true;
+}
+
+storage_opening plan_page::click_spreading(int row, int column) {
+    using namespace storage_messages;
+    if (row >= plan_.fields()) return refused(protected_row);
+    if (column == spreading_column::field) return refused(profile_cell);
+    if (plan_.spreading.cell(row, column) == closed_month) return refused(closed_period);
+    if (plan_.land.number(row, land_month_of(column)) == 0) return refused(no_land_in_month);
+    return {storage_box::slurry_applic, slurry_applic_caption, slurry_applic_instruction};
+}
+
+bool plan_page::enter_slurry_applic(int row, int column, const std::string& text) {
+    if (!number_box_filled(text)) return refuse(storage_messages::no_application_rate);
+    if (plan_.land.cell(row, land_month_of(column)) == closed_month)
+        person_.tell(storage_messages::no_slurry_at_this_time);
+    else
+        plan_.spreading.set_cell(row, column, text);
+    entered();
+    return true;
+}
+
+void plan_page::get_slurry_data() {
+    using namespace storage_messages;
+    if (person_.ask(overwrite_data) != answer::yes) return;
+    slurry_rates rates;
+    if (!state_.assess_file.empty()) rates = read_slurry_rates(database(state_.assess_file));
+    if (rates.empty()) return person_.tell(nothing_to_transfer);
+    const transfer_result result = transfer_slurry(plan_, rates);
+    if (result.into_closed_month) person_.tell(closed_period_breach);
+    if (result.without_land) person_.tell(land_availability_breach);
+    entered();
+}
+
+}  // namespace kel

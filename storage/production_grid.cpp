@@ -1,0 +1,138 @@
+#include "storage/production_grid.h"
+
+#include <array>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+#include "storage/slurry_production.h"
+
+namespace kel {
+
+namespace {
+
+constexpr auto entered = column_kind::entered;
+constexpr auto calculated = column_kind::calculated;
+
+// The slurry production table. Columns carry the names of [Slurry_animals].
+// clang-format off
+constexpr std::array<grid_column, 17> columns{{
+    // heading                                                   stored column   kind        width
+    {"Stock Unit On Slurry Based System",                        "Stock Unit",   entered,    30},
+    {"Number Of Stock Units",                                    "Number",       entered,     9},
+    {"Proportion Of Waste Collected As Slurry (%)",              "Percent",      entered,    12},
+    {"Volume Produced Per Stock Unit (cubic m/month)",           "Volume",       calculated, 12},
+    {"Total Volume Produced By These Animals (cubic m/month)",   "Total Volume", calculated, 18},
+    {"January",                                                  "January",      entered,    10},
+    {"February",                                                 "February",     entered,    10},
+    {"March",                                                    "March",        entered,    10},
+    {"April",                                                    "April",        entered,    10},
+    {"May",                                                      "May",          entered,    10},
+    {"June",                                                     "June",         entered,    10},
+    {"July",                                                     "July",         entered,    10},
+    {"August",                                                   "August",       entered,    10},
+    {"September",                                                "September",    entered,    10},
+    {"October",                                                  "October",      entered,    10},
+    {"November",                                                 "November",     entered,    10},
+    {"December",                                                 "December",     entered,    10},
+}};
+// clang-format on
+static_assert(columns[production_column::total_volume].stored == "Total Volume" &&
+              columns[production_column::january].stored == "January");
+
+constexpr int all_months_end = production_column::january + months_in_year;
+
+void blank_cells(text_grid& production, int row, int first) {
+    for (int column = first; column < all_months_end; ++column)
+        production.set_cell(row, column, "");
+}
+
+// The old row of totals becomes the empty line; the caller fills the new one.
+void add_empty_line(text_grid& production) {
+    blank_cells(production, production_totals_row(production), 0);
+    production.add_row();
+}
+
+float month_total(const text_grid& production, int column) {
+    float total = production.number(inputs_row, column);
+    for (int row = first_stock_row; row < empty_stock_row(production); ++row)
+        if (production.cell(row, column) == on_slurry_system)
+            total += production.number(row, production_column::total_volume);
+    return total;
+}
+
+void set_labels(text_grid& production) {
+    production.set_cell(inputs_row, production_column::total_volume, "Rainfall & Dirty Water Inputs =");
+    production.set_cell(production_totals_row(production), production_column::total_volume,
+                        "Monthly Totals =");
+}
+
+}  // namespace
+
+text_grid empty_production_grid() {
+    text_grid production(columns);
+    production.set_row_count(3);
+    set_labels(production);
+    return production;
+}
+
+void recalculate_stock_line(text_grid& production, int row) {
+    using namespace production_column;
+    const bool was_empty_line = row == empty_stock_row(production);
+    const std::string& unit = production.cell(row, stock);
+    if (unit.empty())
+        production.set_cell(row, unit_volume, "");
+    else if (const auto volume = slurry_volume(unit))
+        production.set_cell(row, unit_volume, std::string(*volume));
+    production.set_cell(row, total_volume,
+                        line_volume(production.cell(row, unit_volume), production.cell(row, percent),
+                                    production.cell(row, number)));
+    for (int column = january; column < all_months_end; ++column)
+        if (production.cell(row, column).empty())
+            production.set_cell(row, column, std::string(on_slurry_system));
+    if (was_empty_line) add_empty_line(production);
+}
+
+void erase_stock_line(text_grid& production, int row) {
+    production.erase_row(row);
+    blank_cells(production, empty_stock_row(production), production_column::total_volume);
+}
+
+void set_inputs(text_grid& production, const monthly_values& inputs) {
+    int column = production_column::january;
+    for (const float input : inputs)
+        production.set_cell(inputs_row, column++, shortest_text(round_half_even(input, 1)));
+}
+
+void set_production_totals(text_grid& production) {
+    set_labels(production);
+    for (int column = production_column::january; column < all_months_end; ++column)
+        production.set_cell(production_totals_row(production), column,
+                            shortest_text(month_total(production, column)));
+}
+
+monthly_values production_totals(const text_grid& production) {
+    monthly_values totals{};
+    int column = production_column::january;
+    for (float& total : totals)
+        total = production.number(production_totals_row(production), column++);
+    return totals;
+}
+
+text_grid load_production(const database& db) {
+    text_grid production(columns);
+    production.add_row();
+    for (recordset rows = db.open("Slurry_animals"); !rows.eof(); rows.move_next())
+        load_grid_row(rows, production, production.add_row());
+    production.set_row_count(production.row_count() + 2);
+    set_labels(production);
+    return production;
+}
+
+void save_production(const database& db, const text_grid& production) {
+    text_grid lines = production;
+    lines.set_row_count(empty_stock_row(production));
+    lines.erase_row(inputs_row);
+    save_grid(db, "Slurry_animals", lines, lines.row_count());
+}
+
+}  // namespace kel

@@ -1,0 +1,31 @@
+#include "storage/rainfall.h"
+
+#include <array>
+
+#include "core/numbers.h"
+
+namespace kel {
+
+namespace {
+
+// Columns of [KEL_rain], January first.
+constexpr std::array<std::string_view, months_in_year> rain_columns{
+    "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec",
+};
+
+}  // namespace
+
+std::optional<monthly_values> monthly_rain(const database& climate, std::string_view town) {
+    const recordset row = climate.open("KEL_rain", "Town", town);
+    if (row.eof()) return std::nullopt;
+    monthly_values rain{};
+    for (std::size_t month = 0; month < rain.size(); ++month)
+        rain[month] = leading_single(row.text(rain_columns[month]));
+    return rain;
+}
+
+float rain_volume(float rain_mm, float area_sq_m) {
+    return rain_mm / 1000 * area_sq_m;
+}
+
+}  // namespace kel

@@ -1,0 +1,19 @@
+// Rain that falls into the stores: the mean rainfall of the farm's town on the area that drains into a store.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "core/assessment_store.h"
+#include "storage/months.h"
+
+namespace kel {
+
+/// Mean rainfall of the town in mm a month, from the climate tables; nothing for a town without figures.
+/// Throws file_error.
+std::optional<monthly_values> monthly_rain(const database& climate, std::string_view town);
+
+/// Cubic metres of the rain (mm) on the area.
+float rain_volume(float rain_mm, float area_sq_m);
+
+}  // namespace kel

@@ -1,0 +1,53 @@
+#include "storage/slurry_production.h"
+
+#include <array>
+
+#include "core/numbers.h"
+
+namespace kel {
+
+namespace {
+
+// Slurry volumes. Source: guidelines for farmers in the zones, volume of excreta. A text in no row is no
+// stock unit; the spellings are the stored ones.
+// clang-format off
+constexpr std::array<slurry_unit, 14> units{{
+    // stock unit                                             cubic m per unit and month
+    {"1 dairy cow (650 kg)",                                  "1.93"},
+    {"1 dairy cow (550 kg)",                                  "1.61"},
+    {"1 dairy cow (450 kg)",                                  "1.28"},
+    {"1 suckler cow or dairy heifer replacement (550 kg)",    "0.98"},
+    {"1 beef bullock (440 kg)",                               "0.79"},
+    {"1 follower or young stock (180 kg)",                    "0.40"},
+    {"1 calf (to 6 months)",                                  "0.21"},
+    {"1 maiden gilt (90-130 kg)",                             "0.22"},
+    {"1 breading sow place (and piglets to 4 wks)",           "0.33"},
+    {"1 weaner place",                                        "0.04"},
+    {"1 grower pig place",                                    "0.08"},
+    {"1 light cutter pig place (35-105 kg, dry meal fed)",    "0.13"},
+    {"1 bacon pig place (35-105 kg, dry meal fed)",           "0.14"},
+    {"1 bacon pig place (35-105 kg, liquid fed)",             "0.22"},
+}};
+// clang-format on
+
+// More decimals than the entries have; what lies beyond is the noise of binary fractions.
+constexpr int volume_places = 10;
+
+}  // namespace
+
+std::span<const slurry_unit> slurry_units() {
+    return units;
+}
+
+std::optional<std::string_view> slurry_volume(std::string_view unit) {
+    for (const slurry_unit& known : units)
+        if (known.name == unit) return known.volume;
+    return std::nullopt;
+}
+
+std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number) {
+    const double product = leading_number(volume) / 100 * leading_number(percent) * leading_number(number);
+    return shortest_text(round_half_even(product, volume_places));
+}
+
+}  // namespace kel

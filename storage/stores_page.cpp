@@ -1,0 +1,210 @@
+#include "storage/stores_page.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/assessment_files.h"
+#include "core/numbers.h"
+#include "storage/number_box.h"
+#include "storage/rainfall.h"
+#include "storage/storage_messages.h"
+
+namespace kel {
+
+namespace {
+
+constexpr auto entered = column_kind::entered;
+
+// The table of stores. The file's column of the diameter is named after the circumference.
+// clang-format off
+constexpr std::array<grid_column, 9> columns{{
+    // heading                 stored column          kind     width
+    {"Store Name",             "Store_name",          entered, 22},
+    {"Shape",                  "Store_shape",         entered, 22},
+    {"Depth (m)",              "Store_depth",         entered, 10},
+    {"Length (m)",             "Store_length",        entered, 10},
+    {"Width (m)",              "Store_width",         entered, 10},
+    {"Diameter (m)",           "Store_circumference", entered, 10},
+    {"Bank Angle (o)",         "Store_angle",         entered, 10},
+    {"% Full At Year Start",   "Store_%",             entered, 12},
+    {"Drainage Area (sq m)",   "Rain_area",           entered, 12},
+}};
+// clang-format on
+static_assert(columns[store_column::diameter].stored == "Store_circumference" &&
+              columns[store_column::area].stored == "Rain_area");
+
+// The first thing that is missing; nothing for a complete store.
+const message* size_missing(const store_form& form) {
+    using namespace storage_messages;
+    const offered_boxes boxes = boxes_of_shape(form.shape);
+    const store_size size = size_of(form);
+    if (!boxes.depth) return &no_store_shape;
+    const bool tank = boxes.length_and_width && !boxes.angle;
+    if (size.depth_m == 0) return tank ? &no_tank_depth : &no_store_depth;
+    if (boxes.length_and_width && size.length_m == 0) return &no_store_length;
+    if (boxes.length_and_width && size.width_m == 0) return &no_store_width;
+    if (boxes.diameter && size.diameter_m == 0) return &no_store_diameter;
+    if (boxes.angle && size.bank_angle_degrees == 0) return &no_bank_angle;
+    return nullptr;
+}
+
+void put_store(text_grid& stores, int row, const store_form& form) {
+    const offered_boxes boxes = boxes_of_shape(form.shape);
+    stores.set_cell(row, store_column::name, form.name);
+    stores.set_cell(row, store_column::shape, form.shape);
+    stores.set_cell(row, store_column::depth, form.depth);
+    if (boxes.length_and_width) {
+        stores.set_cell(row, store_column::length, form.length);
+        stores.set_cell(row, store_column::width, form.width);
+    }
+    if (boxes.diameter) stores.set_cell(row, store_column::diameter, form.diameter);
+    if (boxes.angle) stores.set_cell(row, store_column::angle, form.angle);
+    stores.set_cell(row, store_column::percent, form.percent);
+    stores.set_cell(row, store_column::area, form.area);
+}
+
+store_form form_of(const text_grid& stores, int row) {
+    return {
+        .name = stores.cell(row, store_column::name),
+        .shape = stores.cell(row, store_column::shape),
+        .depth = stores.cell(row, store_column::depth),
+        .length = stores.cell(row, store_column::length),
+        .width = stores.cell(row, store_column::width),
+        .diameter = stores.cell(row, store_column::diameter),
+        .angle = stores.cell(row, store_column::angle),
+        .percent = stores.cell(row, store_column::percent),
+        .area = stores.cell(row, store_column::area),
+    };
+}
+
+// Last December's figure; a file of before the storage step has no such table.
+std::optional<std::string> december_percent(const database& last_year) {
+    last_year.open("Type");  // a file that cannot be read at all is an error
+    try {
+        return last_year.lookup("Value", "Misc", "Item", december_percent_item);
+    } catch (const file_error&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+stores_page::stores_page(application_state& state, prompts& person)
+    : state_(state), person_(person), stores_(empty_stores()) {}
+
+bool stores_page::refuse(const message& reason) {
+    person_.tell(reason);
+    return false;
+}
+
+bool stores_page::acceptable(const store_form& form) {
+    using namespace storage_messages;
+    if (!form.name.empty() && stores_.find(store_column::name, form.name) >= 0)
+        return refuse(store_name_exists);
+    if (const message* missing = size_missing(form)) return refuse(*missing);
+    if (!number_box_filled(form.percent)) return refuse(no_store_percent);
+    if (form.name.empty()) return refuse(no_store_name);
+    if (!number_box_filled(form.area)) return refuse(no_drainage_area);
+    return true;
+}
+
+// The file first: when it cannot be written, the table still shows what the file holds.
+void stores_page::keep(text_grid stores) {
+    if (!state_.assess_file.empty()) {
+        const database db(state_.assess_file);
+        save_transaction transaction(db);
+        save_stores(db, stores);
+        transaction.commit();
+    }
+    stores_ = std::move(stores);
+}
+
+bool stores_page::add_store(const store_form& form) {
+    if (!acceptable(form)) return false;
+    text_grid stores = stores_;
+    const int row = stores.row_count() - 1;
+    put_store(stores, row, form);
+    stores.add_row();
+    keep(std::move(stores));
+    return true;
+}
+
+std::optional<store_form> stores_page::edit_store(int row) {
+    if (row == stores_.row_count() - 1) {
+        person_.tell(storage_messages::empty_store_not_edited);
+        return std::nullopt;
+    }
+    store_form form = form_of(stores_, row);
+    text_grid stores = stores_;
+    stores.erase_row(row);
+    keep(std::move(stores));
+    return form;
+}
+
+bool stores_page::delete_store(int row) {
+    if (row == stores_.row_count() - 1) return refuse(storage_messages::empty_store_not_deleted);
+    text_grid stores = stores_;
+    stores.erase_row(row);
+    keep(std::move(stores));
+    return true;
+}
+
+void stores_page::take(text_grid stores) {
+    stores_ = std::move(stores);
+}
+
+text_grid empty_stores() {
+    text_grid stores(columns);
+    stores.add_row();
+    return stores;
+}
+
+text_grid load_stores(const database& db, const std::optional<std::string>& percent_full) {
+    text_grid stores(columns);
+    for (recordset rows = db.open("Slurry_store"); !rows.eof(); rows.move_next()) {
+        const int row = stores.add_row();
+        load_grid_row(rows, stores, row);
+        if (percent_full && !stores.cell(row, store_column::percent).empty())
+            stores.set_cell(row, store_column::percent, *percent_full);
+    }
+    stores.add_row();
+    return stores;
+}
+
+void save_stores(const database& db, const text_grid& stores) {
+    save_grid(db, "Slurry_store", stores, stores.data_row_count());
+}
+
+std::optional<std::string> get_previous_percent_full(const application_state& state) {
+    if (state.prev1_file.empty()) return std::nullopt;
+    const auto stored = december_percent(database(state.prev1_file));
+    if (!stored) return std::nullopt;
+    return shortest_text(round_half_even(std::min(leading_single(*stored), 100.0F), 1));
+}
+
+monthly_values store_rain(const text_grid& stores, int row, const monthly_values& rain_mm) {
+    monthly_values rain{};
+    if (!find_store_shape(stores.cell(row, store_column::shape))) return rain;
+    const float area_sq_m = stores.number(row, store_column::area);
+    for (std::size_t month = 0; month < rain.size(); ++month)
+        rain[month] = rain_volume(rain_mm[month], area_sq_m);
+    return rain;
+}
+
+store_totals compute_store_totals(const text_grid& stores, const monthly_values& rain_mm) {
+    store_totals totals;
+    for (int row = 0; row < stores.data_row_count(); ++row) {
+        const auto shape = find_store_shape(stores.cell(row, store_column::shape));
+        if (!shape) continue;
+        const float capacity = store_capacity(*shape, size_of(form_of(stores, row)));
+        totals.total_capacity += capacity;
+        totals.total_free += capacity - capacity * (stores.number(row, store_column::percent) / 100);
+        const monthly_values rain = store_rain(stores, row, rain_mm);
+        for (std::size_t month = 0; month < rain.size(); ++month)
+            totals.monthly_rain_input[month] += rain[month];
+    }
+    return totals;
+}
+
+}  // namespace kel

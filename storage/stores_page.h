@@ -1,0 +1,74 @@
+// The second page of Step 2: the table of the farm's slurry stores. Every change is written to the file at
+// once. Rows count from 0 without the heading; the last row is the empty one.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/application_state.h"
+#include "core/assessment_store.h"
+#include "core/prompts.h"
+#include "core/text_grid.h"
+#include "storage/storage_balance.h"
+#include "storage/store_form.h"
+
+namespace kel {
+
+namespace store_column {
+enum : int { name, shape, depth, length, width, diameter, angle, percent, area };
+}
+
+class stores_page {
+  public:
+    stores_page(application_state& state, prompts& person);
+
+    /// stores_table.
+    const text_grid& stores() const { return stores_; }
+    bool has_stores() const { return stores_.data_row_count() > 0; }
+
+    /// cmdStores_add, "Add To List". True: the store stands in the table, and the boxes are emptied.
+    bool add_store(const store_form& form);
+    /// cmdStores_edit, "Edit Row": takes the row out of the table and gives what goes into the boxes.
+    /// Nothing, after a message, for the empty row.
+    std::optional<store_form> edit_store(int row);
+    /// cmdStores_delete, "Delete Row". False, after a message, for the empty row.
+    bool delete_store(int row);
+
+    /// The table as storage_cont1 read it, in place of what stands here.
+    void take(text_grid stores);
+
+  private:
+    bool refuse(const message& reason);
+    bool acceptable(const store_form& form);
+    void keep(text_grid stores);
+
+    application_state& state_;
+    prompts& person_;
+    text_grid stores_;
+};
+
+/// The empty row only.
+text_grid empty_stores();
+/// [Slurry_store] with an empty row behind it. With `percent_full` every store whose start level is not empty
+/// gets that level.
+text_grid load_stores(const database& db, const std::optional<std::string>& percent_full);
+/// Replaces the rows of [Slurry_store]. Call it within a save_transaction.
+void save_stores(const database& db, const text_grid& stores);
+
+/// The row of [Misc] from one year to the next.
+inline constexpr std::string_view december_percent_item = "December store percent full";
+
+/// How full last year's stores were at the end of December, as the text of this year's start level: at most
+/// 100, with at most 1 decimal. Nothing without a linked file or without a figure in it. Throws file_error
+/// for a file that cannot be read.
+std::optional<std::string> get_previous_percent_full(const application_state& state);
+
+/// Rain (mean, mm) that falls into the store of a row, cubic metres. A store of an unknown shape gets none.
+monthly_values store_rain(const text_grid& stores, int row, const monthly_values& rain_mm);
+
+/// Capacity and free volume of all stores and the rain (mean, mm) that falls into them. A store of an unknown
+/// shape adds nothing.
+store_totals compute_store_totals(const text_grid& stores, const monthly_values& rain_mm);
+
+}  // namespace kel

@@ -1,0 +1,169 @@
+// The edits of the table: the two dialogs, the pick in the calendar, the order of the tests at Enter.
+#include "inorganic/application_rules.h"
+#include "tests/inorganic/inorganic_fixture.h"
+
+namespace kel::test {
+
+class InorganicEdit : public inorganic_test {};
+class CalendarPick : public inorganic_test {};
+
+const fertiliser_application spring_nitrogen{make_date(20, 3, 2005), "Ammonium nitrate", "100", "34.5",
+                                             "dry"};
+
+TEST(ApplicationRules, TotalNitrogenIsRoundedToOneDecimal) {
+    struct {
+        float amount, content, total;
+    } const cases[] = {{100, 34.5F, 34.5F}, {33, 27, 8.9F}, {50, 34.5F, 17.2F},  // ties to the even digit
+                       {150, 34.5F, 51.8F}, {0, 34.5F, 0},  {33.3F, 34.5F, 11.5F}};
+    for (const auto& c : cases)
+        EXPECT_EQ(total_n_kg_per_ha(c.amount, c.content), c.total) << c.amount << " at " << c.content;
+}
+
+TEST(ApplicationRules, ContentStaysWithinOneHundredAndANegativeQuantityEmptiesIt) {
+    EXPECT_EQ(content_after_content("101"), "100");
+    EXPECT_EQ(content_after_content("100.01"), "100");
+    EXPECT_EQ(content_after_content("-1"), "0");
+    for (const char* kept : {"", ".", "0", "27", "100", "100."})
+        EXPECT_EQ(content_after_content(kept), std::nullopt) << kept;
+    EXPECT_EQ(content_after_amount("-0.5"), "0");
+    EXPECT_EQ(content_after_amount("5000"), std::nullopt);
+}
+
+TEST_F(InorganicEdit, DetailsNeedAFieldAndEveryOtherCellOpensTheApplication) {
+    open();
+    person.expect(says::no_field_selected).expect(says::no_field_id);
+    EXPECT_EQ(module.click(0, col::comments), inorganic_box::none);
+    EXPECT_EQ(module.click(0, col::field), inorganic_box::field);
+    EXPECT_FALSE(module.enter_field(0, ""));
+    EXPECT_EQ(module.applications().row_count(), 1);
+    EXPECT_TRUE(module.enter_field(0, "East Muir"));
+    EXPECT_EQ(module.applications().row_count(), 2);
+    EXPECT_TRUE(module.enter_field(0, "Long Rig"));  // no longer the last row
+    EXPECT_EQ(module.applications().row_count(), 2);
+    EXPECT_EQ(module.click(0, col::total_n), inorganic_box::application);
+    EXPECT_EQ(module.application_of(0), fertiliser_application{});
+}
+
+TEST_F(InorganicEdit, EnterTestsInOrderAndWritesNothingBeforeTheLast) {
+    open();
+    module.enter_field(0, "Long Rig");
+    fertiliser_application entered;
+    entered.comments = "kept";
+    const auto refused = [&](const message& reason, application_part focus) {
+        person.expect(reason);
+        EXPECT_EQ(module.enter_application(0, entered), (application_entry{false, focus})) << reason.text;
+        EXPECT_EQ(row(0), (texts{"Long Rig", "", "", "", "", "", ""}));
+    };
+    refused(says::no_date, application_part::day);
+    for (const date outside : {make_date(18, 12, 2004), make_date(19, 12, 2005)}) {
+        entered.day = outside;
+        refused(says::date_outside_year, application_part::none);
+    }
+    entered.day = make_date(18, 12, 2005);
+    refused(says::no_type, application_part::type);
+    entered.type = "Urea";
+    refused(says::no_amount, application_part::amount);
+    entered.amount = ".";
+    refused(says::no_amount, application_part::amount);
+    entered.amount = "33";
+    refused(says::no_content, application_part::content);
+    entered.content = "27";
+    EXPECT_EQ(module.enter_application(0, entered), (application_entry{.closes = true}));
+    EXPECT_EQ(row(0), (texts{"Long Rig", "18/12/2005", "Urea", "33", "27", "8.9", "kept"}));
+    EXPECT_EQ(module.application_of(0), entered);
+    entered.day = make_date(19, 12, 2004);
+    entered.comments.clear();
+    EXPECT_TRUE(module.enter_application(0, entered).closes);
+    EXPECT_EQ(row(0), (texts{"Long Rig", "19/12/2004", "Urea", "33", "27", "8.9", ""}));
+}
+
+TEST_F(InorganicEdit, DeleteLeavesTheEntryRow) {
+    open();
+    module.enter_field(0, "Long Rig");
+    module.enter_field(1, "East Muir");
+    for (const int nothing : {2, -1}) {
+        module.delete_row(nothing);
+        EXPECT_EQ(module.applications().row_count(), 3);
+    }
+    module.delete_row(0);
+    EXPECT_EQ(row(0).front(), "East Muir");
+    module.delete_row(0);
+    module.delete_row(0);
+    EXPECT_EQ(module.applications().row_count(), 1);
+}
+
+// Zone and pair decide; the day picked stays in the calendar whether closed or open.
+TEST_F(CalendarPick, ClosedDaysOverwriteTheCommentByZoneAndSecondCrop) {
+    open();
+    assess("Long Rig", "Grass / Other");
+    assess("East Muir", "Other / Grass");
+    module.enter_field(0, "Long Rig");
+    module.enter_field(1, "East Muir");
+    const std::string moray = "Moray/Aberdeenshire/Banff and Buchan KEL";
+    const std::string elsewhere = "Strathmore and Fife KEL";
+    struct {
+        std::string zone;
+        int row;
+        date day;
+        bool closed;
+    } const cases[] = {
+        {elsewhere, 0, make_date(19, 12, 2004), true}, {elsewhere, 0, make_date(10, 1, 2005), true},
+        {elsewhere, 0, make_date(15, 2, 2005), true},  {elsewhere, 0, make_date(16, 2, 2005), false},
+        {moray, 0, make_date(20, 2, 2005), true},      {moray, 0, make_date(21, 2, 2005), false},
+        {elsewhere, 0, make_date(31, 8, 2005), false}, {elsewhere, 0, make_date(1, 9, 2005), true},
+        {elsewhere, 1, make_date(14, 9, 2005), false}, {moray, 1, make_date(15, 9, 2005), true},
+        {moray, 1, make_date(19, 12, 2005), true},
+    };
+    for (const auto& c : cases) {
+        state.farm_zone = c.zone;
+        if (c.closed) person.expect(says::closed_period);
+        const date_pick pick = module.pick_date(c.row, c.day);
+        EXPECT_EQ(pick.day, c.day);
+        EXPECT_EQ(pick.comments.value_or("kept"),
+                  c.closed ? "Reason for application during closed period: " : "kept")
+            << iso_date_text(c.day) << c.zone << c.row;
+        person.verify_done();
+    }
+    EXPECT_TRUE(module.enter_application(0, spring_nitrogen).closes);
+}
+
+TEST_F(CalendarPick, DaysOutsideTheYearOfTheAssessmentSetItsEnds) {
+    open();
+    assess("Long Rig", "Grass / Other");
+    module.enter_field(0, "Long Rig");
+    state.kel_year_start = make_date(1, 3, 2005);  // set by hand: the calendar follows it, Enter does not
+    module.inorganic_load_stuff();
+    module.enter_field(0, "Long Rig");
+    person.expect(says::date_outside_calendar).expect(says::date_outside_calendar);
+    EXPECT_EQ(module.pick_date(0, make_date(28, 2, 2005)), (date_pick{make_date(1, 3, 2005), {}}));
+    EXPECT_EQ(module.pick_date(0, make_date(2, 3, 2006)), (date_pick{make_date(1, 3, 2006), {}}));
+    person.expect(says::closed_period).expect(says::date_outside_year);
+    EXPECT_EQ(module.pick_date(0, make_date(1, 3, 2005)).day, make_date(1, 3, 2005));  // before 15 Feb 2006
+    EXPECT_FALSE(module.enter_application(0, spring_nitrogen).closes);                 // before 19 Dec 2005
+}
+
+TEST_F(CalendarPick, AFieldNotAssessedIsToldEachTimeAndCanStillBeEntered) {
+    open();
+    assess("East Muir", "");
+    module.enter_field(0, "Long Rig");
+    module.enter_field(1, "East Muir");
+    for (const int r : {0, 1, 0}) {
+        person.expect(says::field_not_assessed);
+        EXPECT_EQ(module.pick_date(r, make_date(10, 1, 2005)), (date_pick{make_date(10, 1, 2005), {}}));
+    }
+    EXPECT_TRUE(module.enter_application(0, spring_nitrogen).closes);
+}
+
+TEST_F(CalendarPick, AYearThatStartsOnALeapDayOrNotAtAllHarmsNothing) {
+    open();
+    module.enter_field(0, "Long Rig");
+    state.kel_year_start = make_date(29, 2, 2004);
+    person.expect(says::date_outside_calendar);
+    EXPECT_EQ(module.pick_date(0, make_date(1, 3, 2005)).day, make_date(28, 2, 2005));
+    state.kel_year_start.reset();
+    person.expect(says::date_outside_calendar).expect(says::date_outside_year);
+    EXPECT_EQ(module.pick_date(0, make_date(20, 3, 2005)).day, std::nullopt);
+    EXPECT_FALSE(module.enter_application(0, spring_nitrogen).closes);
+}
+
+}  // namespace kel::test

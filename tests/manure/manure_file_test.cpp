@@ -1,0 +1,121 @@
+// What loading makes of a file and what saving leaves in it, for each of the three callers.
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include "core/module_messages.h"
+#include "tests/manure/manure_fixture.h"
+
+namespace kel::test {
+
+class ManureFile : public manure_test {
+  protected:
+    void link() { state.prev1_file = make_farm("last.kel", {{"Long Rig", "15"}}, 2023); }
+};
+
+TEST_F(ManureFile, RowsAreTakenAsStoredWithDayFirstDates) {
+    open_farm({{"Long Rig", "15"}});
+    add_application(state.assess_file, "Long Rig", "2025-03-14", "junk");
+    module.manure_load_stuff();
+    ASSERT_EQ(module.applications().row_count(), 2);
+    EXPECT_EQ(row_cells(0), (texts{"Long Rig", "Sandy loams", "Over 6 hours", dairy, "14/03/2025", "10",
+                                   "250", "25", "4.0", "junk", "20", "20.25", "10", "March"}));
+    state.limits.year_end = make_date(1, 1, 2000);  // as a lookup of the crop module leaves it
+    module.manure_load_stuff();
+    EXPECT_EQ(state.limits.year_end, make_date(18, 12, 2025));
+}
+
+TEST_F(ManureFile, DatesOutsideTheYearAndFieldsGoneAreToldInTheOrderOfTheFile) {
+    open_farm({{"Long Rig", "15"}});
+    add_application(state.assess_file, "Long Rig", "2024-12-18", "1");
+    add_application(state.assess_file, "Sold Field", "2025-03-14", "2");
+    add_application(state.assess_file, "", "2025-12-18", "3");
+    add_application(state.assess_file, "Long Rig", "some day", "4");
+    add_application(state.assess_file, "Long Rig", "", "5");
+    const message outside{"", "The date entered is not within the KEL year being assessed!"};
+    person.expect(outside).expect(module_messages::field_does_not_exist("Sold Field")).expect(outside);
+    module.manure_load_stuff();
+    ASSERT_EQ(module.applications().row_count(), 5);
+    for (const int row : {0, 2, 3}) {
+        EXPECT_EQ(cell(row, manure_col::amount), "250");
+        for (const int c : {manure_col::date, manure_col::percentage, manure_col::available,
+                            manure_col::available_next, manure_col::month})
+            EXPECT_EQ(cell(row, c), "") << row << " " << c;
+    }
+    EXPECT_EQ(cell(1, manure_col::date), "18/12/2025");
+    EXPECT_EQ(cell(3, manure_col::total_n), "5");
+}
+
+TEST_F(ManureFile, SaveReplacesTheRowsAndLeavesEmptyCellsUnset) {
+    open_farm({{"Long Rig", "15"}});
+    add_application(state.assess_file, "Long Rig", "2025-03-14", "100");
+    module.manure_load_stuff();
+    module.enter_manure(1, strainer);
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Manure Type"), (texts{dairy, strainer}));
+    EXPECT_EQ(stored("Date"), (texts{"2025-03-14", ""}));
+    EXPECT_EQ(stored("Total N Content"), (texts{"4.0", "1.5"}));
+    module.erase_row(0);
+    module.erase_row(0);
+    ASSERT_TRUE(module.save());
+    EXPECT_TRUE(stored("Manure Type").empty());
+}
+
+TEST_F(ManureFile, CallersReadAndWriteTheirFile) {
+    open_farm({{"Long Rig", "15"}});
+    link();
+    add_application(state.assess_file, "Long Rig", "2025-03-14", "1");
+    add_application(state.prev1_file, "Long Rig", "2024-03-14", "2");
+    for (const std::string caller : {"front", "new crop", "old crop"}) {
+        state.manure_caller = caller;
+        module.manure_load_stuff();
+        EXPECT_EQ(cell(0, manure_col::total_n), caller == "old crop" ? "2" : "1") << caller;
+        EXPECT_EQ(module.click(1, manure_col::date).text, "01/01/2025") << caller;
+    }
+    module.enter_manure(0, strainer);
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Manure Type"), texts{dairy});
+    EXPECT_EQ(column_of(state.prev1_file, "Manure_applic", "Manure Type"), texts{strainer});
+}
+
+TEST_F(ManureFile, FilesThatCannotBeReadOrWrittenLeaveWhatWasThere) {
+    open_farm({{"Long Rig", "15"}});
+    add_application(state.assess_file, "Long Rig", "2025-03-14", "1");
+    module.manure_load_stuff();
+    const text_grid before = module.applications();
+    state.manure_caller = "old crop";
+    state.prev1_file = path("vanished.kel");
+    state.limits = {};
+    EXPECT_THROW(module.manure_load_stuff(), file_error);
+    EXPECT_EQ(module.applications(), before);
+    EXPECT_EQ(state.limits, year_limits{});
+    state.manure_caller = "front";
+    SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE)
+        .exec("ALTER TABLE [Manure_applic] DROP COLUMN [Month Applied]");
+    EXPECT_THROW(module.save(), file_error);
+    EXPECT_EQ(stored("Manure Type"), texts{dairy});
+}
+
+TEST_F(ManureFile, SaveWithoutAFileAsksForOneThatIsNotTheOtherYears) {
+    module.manure_load_stuff();
+    person.expect_file("Save the assessment", "");
+    EXPECT_FALSE(module.save());
+    link();
+    person.expect_file("Save the assessment", state.prev1_file)
+        .expect({"Cannot Save", "This is last years file and cannot be saved to at this time!"});
+    EXPECT_FALSE(module.save());
+    person.expect_file("Save the assessment", path("fresh.kel"));
+    EXPECT_TRUE(module.save());
+    EXPECT_EQ(state.assess_file, path("fresh.kel"));
+
+    state.manure_caller = "old crop";
+    state.prev1_file.clear();
+    person.expect_file("Save the assessment", state.assess_file).expect(says::this_years_file);
+    EXPECT_FALSE(module.save());
+    module.enter_manure(0, strainer);
+    person.expect_file("Save the assessment", path("older.kel"));
+    EXPECT_TRUE(module.save());
+    EXPECT_EQ(state.prev1_file, path("older.kel"));
+    EXPECT_EQ(column_of(path("older.kel"), "Manure_applic", "Manure Type"), texts{strainer});
+    EXPECT_TRUE(stored("Manure Type").empty());
+}
+
+}  // namespace kel::test

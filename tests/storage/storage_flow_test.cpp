@@ -1,0 +1,195 @@
+// The way through the three pages: answers, what is written on the way, last year's level, Back.
+#include "core/module_messages.h"
+#include "core/numbers.h"
+#include "tests/storage/storage_fixture.h"
+
+namespace kel::test {
+
+class StorageFlow : public storage_test {};
+
+TEST_F(StorageFlow, MissingAnswersKeepThePageAndTheFile) {
+    open({{"Home", "10"}});
+    module.water().show_form(dirty_water_form::actual);
+    person.expect(says::no_cow_figure);
+    EXPECT_FALSE(module.storage_cont1());
+    module.water().set_cows("50");
+    person.expect(says::no_pig_pen_figure);
+    EXPECT_FALSE(module.storage_cont1());
+    EXPECT_EQ(module.page(), storage_page::water);
+    EXPECT_EQ(stored("Store_in", "Water_cow"), texts{});
+    module.water().set_actual("30");
+    EXPECT_TRUE(module.storage_cont1());
+    EXPECT_EQ(stored("Store_in", "Water_actual"), texts{"30"});
+    EXPECT_EQ(stored("Store_in", "Water_cow"), texts{""});
+}
+
+TEST_F(StorageFlow, FirstPageWritesRainAndAnswersInPlaceOfTheOldRow) {
+    open({{"Home", "10"}});
+    state.farm_town = "Blairgowrie";
+    add_row(state.assess_file, "Store_in", {{"January", "1"}, {"Water_actual", "12"}});
+    module.storage_load_stuff();
+    EXPECT_EQ(module.water().form(), dirty_water_form::actual);
+    module.water().show_form(dirty_water_form::estimate);
+    walk_to_stores();
+    EXPECT_EQ(stored("Store_in", "January"), texts{"69.0"});
+    EXPECT_EQ(stored("Store_in", "December"), texts{"74.0"});
+    EXPECT_EQ(stored("Store_in", "Water_actual"), texts{""});
+    EXPECT_EQ(stored("Store_in", "Water_pig"), texts{"0"});
+}
+
+TEST_F(StorageFlow, TownWithoutRainCountsNothingAndIsToldOnce) {
+    open({{"Home", "10"}});
+    state.farm_town = "Atlantis";
+    person.expect(says::no_rainfall("Atlantis"));
+    walk_to_plan();
+    EXPECT_EQ(production_months(inputs_row), texts(12, "0"));
+    module.back();
+    module.back();
+    EXPECT_TRUE(module.storage_cont1());
+}
+
+TEST_F(StorageFlow, LastYearsAnswersAreTakenByTheirForm) {
+    const struct {
+        row_values last_year;
+        dirty_water_answers answers;
+    } cases[] = {
+        {{}, {"0", "0", "0"}},  // no row
+        {{{"Water_cow", "80"}, {"Water_pig", "3"}}, {"80", "3", ""}},
+        {{{"Water_actual", "25"}}, {"", "", "25"}},
+        {{{"January", "70"}}, {"", "", "7"}},  // no answer: nothing changes
+    };
+    open({{"Home", "10"}});
+    person.expect(says::linked_file_missing);
+    module.water().take_last_year();
+    link_last_year();
+    for (const auto& c : cases) {
+        database(state.prev1_file).delete_rows("Store_in");
+        if (!c.last_year.empty()) add_row(state.prev1_file, "Store_in", c.last_year);
+        module.water().set_actual("7");
+        module.water().take_last_year();
+        EXPECT_EQ(module.water().answers(), c.answers);
+    }
+}
+
+TEST_F(StorageFlow, LastDecemberSetsEveryStartLevelThatIsFilled) {
+    const struct {
+        const char* december;
+        const char* level;
+    } cases[] = {{"130", "100"}, {"100", "100"}, {"63.25", "63.2"}, {"0", "0"}, {"none", "0"}};
+    open({{"Home", "10"}});
+    add_store("Tank", "50");
+    add_store("Pit", "");
+    link_last_year();
+    for (const auto& c : cases) {
+        database(state.prev1_file).delete_rows("Misc");
+        add_row(state.prev1_file, "Misc", {{"Item", "December store percent full"}, {"Value", c.december}});
+        walk_to_stores();
+        EXPECT_EQ(stored("Slurry_store", "Store_%"), (texts{c.level, ""})) << c.december;
+        EXPECT_EQ(module.stores().stores().cell(0, store_column::percent), c.level);
+    }
+}
+
+TEST_F(StorageFlow, LinkedFileWithoutAFigureLeavesTheLevels) {
+    open({{"Home", "10"}});
+    add_store("Tank", "50");
+    link_last_year();
+    walk_to_stores();
+    EXPECT_EQ(stored("Slurry_store", "Store_%"), texts{"50"});
+    write_file(state.prev1_file, "not an assessment");
+    EXPECT_THROW(module.storage_cont1(), file_error);
+    EXPECT_EQ(stored("Slurry_store", "Store_%"), texts{"50"});
+}
+
+TEST_F(StorageFlow, WithoutStoresOnlyTheLandTableIsOffered) {
+    open({{"Home", "10"}});
+    walk_to_stores();
+    person.expect(says::no_stores, answer::no);
+    EXPECT_FALSE(module.storage_cont2());
+    EXPECT_EQ(module.page(), storage_page::stores);
+    EXPECT_EQ(module.instruction(), says::stores_instruction);
+    walk_without_stores();
+    EXPECT_EQ(plan.tab(), plan_tab::land);
+    EXPECT_FALSE(plan.balance());
+    person.expect(says::no_storage_assessment);
+    EXPECT_EQ(plan.turn_to(plan_tab::production), plan_tab::land);
+    EXPECT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Misc", "Item"), texts{});
+}
+
+TEST_F(StorageFlow, BackToTheStoresKeepsWhatIsNotSavedAndTakesTheNewCapacity) {
+    open_plan();
+    EXPECT_EQ(plan.tab(), plan_tab::production);
+    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)"));
+    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january, "4"));
+    module.back();
+    EXPECT_EQ(module.instruction(), says::stores_again_instruction);
+    store_form second = module.stores().edit_store(0).value();
+    ASSERT_TRUE(module.stores().add_store(second));
+    second.name = "Pit";
+    ASSERT_TRUE(module.stores().add_store(second));
+    ASSERT_TRUE(module.storage_cont2());
+    EXPECT_EQ(plan.stores().total_capacity, 200);
+    EXPECT_EQ(plan.production().cell(1, production_column::stock), "1 dairy cow (650 kg)");
+    EXPECT_EQ(plan.land().cell(0, plan_column::january), "4");
+}
+
+TEST_F(StorageFlow, YearsDialogWalksOnToThePageThatShowed) {
+    open_plan();
+    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january, "4"));
+    module.reload();
+    EXPECT_EQ(module.page(), storage_page::plan);
+    EXPECT_EQ(plan.land().cell(0, plan_column::january), "10");
+    database(state.assess_file).delete_rows("Store_in");
+    person.expect(says::no_cow_figure);
+    module.reload();
+    EXPECT_EQ(module.page(), storage_page::water);
+}
+
+TEST_F(StorageFlow, SaveWritesTheTablesAndDecember) {
+    open({{"Home", "10"}, {"Brae", "5"}});
+    walk_to_plan();
+    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)"));
+    ASSERT_TRUE(plan.enter_land_month(1, plan_column::january, "4"));
+    ASSERT_TRUE(plan.enter_slurry_applic(1, spreading_column::january, "25"));
+    EXPECT_EQ(stored("Land", "January"), (texts{"", ""}));
+    EXPECT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Slurry_animals", "Stock Unit"), texts{"1 dairy cow (650 kg)"});
+    EXPECT_EQ(stored("Slurry_animals", "Number"), texts{""});
+    EXPECT_EQ(stored("Slurry_animals", "December"), texts{"Slurry"});
+    EXPECT_EQ(stored("Land", "January"), (texts{"10", "4"}));
+    EXPECT_EQ(stored("Land", "Applic_January"), (texts{"", "25"}));
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Misc", "Value").size(), 1U);
+    EXPECT_FLOAT_EQ(leading_single(stored("Misc", "Value")[0]), plan.balance()->percent[11]);
+}
+
+TEST_F(StorageFlow, RowsOfOneFieldAndOfUnknownFieldsKeepTheirOwnFigures) {
+    open({{"Home", "10"}});
+    add_land({"Gone", "3"}, {{"May", "2"}});
+    add_land({"Home", "6"}, {{"May", "1"}});
+    person.expect(module_messages::field_does_not_exist("Gone"));
+    walk_to_plan();
+    EXPECT_EQ(plan.fields().fields(), 2);
+    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january + 4, "9"));
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Land", "May"), (texts{"9", "2", "1"}));
+    EXPECT_EQ(stored("Land", "June"), (texts{"10", "", "6"}));
+}
+
+TEST_F(StorageFlow, SaveWithoutAnAssessmentMakesOneWithEverythingEntered) {
+    link_last_year();
+    state.farm_town = "Cupar";
+    module.storage_load_stuff();
+    state.prev1_file.clear();
+    walk_without_stores();
+    state.prev1_file = path("last.kel");
+    person.expect_file("Save the assessment", state.prev1_file)
+        .expect({"Cannot Save", "This is last years file and cannot be saved to at this time!"});
+    EXPECT_FALSE(module.save_storage());
+    person.expect_file("Save the assessment", path("new.kel"));
+    EXPECT_TRUE(module.save_storage());
+    EXPECT_EQ(state.assess_file, path("new.kel"));
+    EXPECT_EQ(stored("Store_in", "Water_cow"), texts{"0"});
+}
+
+}  // namespace kel::test

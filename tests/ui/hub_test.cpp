@@ -1,0 +1,87 @@
+// The assessments screen: what it refuses, what this version lacks, how it ends.
+#include <QAbstractButton>
+#include <QAction>
+#include <QMap>
+#include <QSignalSpy>
+
+#include "shell/assessments_messages.h"
+#include "tests/ui/screen_fixture.h"
+
+namespace kel::test {
+
+namespace says = assessments_messages;
+
+class Hub : public screen_test {};
+
+TEST_F(Hub, OpensNothingWithoutAnAssessmentNorWhatThisVersionLacks) {
+    start();
+    for (const char* button : {"cmdFront_land", "cmdFront_reports"}) {
+        person.expect(says::no_assessment_file);
+        press("front", button);
+    }
+    person.expect(says::no_profile_to_edit);
+    press("front", "cmdFront_edit");
+    for (const char* tag : {"land", "viewer", "profile"})
+        EXPECT_FALSE(in_view(tag)) << tag;
+    const std::vector<std::pair<QString, std::string>> needs{
+        {"land", "land"},  {"storage", "storage"}, {"manure", "reduction"}, {"inorganic", "inorg"},
+        {"crops", "crop"}, {"grassland", "grass"}, {"composting", "straw"}, {"record", "record"}};
+    for (const auto& [command, tag] : needs) {
+        const bool built = run->exists(tag);
+        EXPECT_EQ(drive::control(screen("front"), "cmdFront_" + command)->isEnabled(), built) << tag;
+        EXPECT_EQ(screen("front")->findChild<QAction*>("mnuFront_" + command)->isEnabled(), built) << tag;
+    }
+}
+
+TEST_F(Hub, ExitAsksAndTheCloseBoxDoesNot) {
+    start_with({{"Long Rig", "15"}});
+    const QSignalSpy ended(run.get(), &program::ended);
+    std::filesystem::remove(state.places.settings_store());
+    person.expect(says::exit_question, answer::no);
+    press("front", "cmdFront_exit");
+    EXPECT_EQ(ended.count(), 0);
+    EXPECT_TRUE(in_view("front"));
+    screen("front")->close();
+    EXPECT_EQ(ended.count(), 1);
+    EXPECT_FALSE(in_view("front"));
+    EXPECT_EQ(file_text(state.places.settings_store()), "0\n0\n1\n" + state.assess_file + "\nnone\nnone\n");
+}
+
+// Alt and a letter must do one thing only on every view of a screen.
+TEST_F(Hub, MnemonicsOfAViewAreUnique) {
+    start_with({{"Long Rig", "15"}});
+    const auto look = [this](const char* tag) {
+        QMap<QString, QString> captions;
+        const auto note = [&](const QString& caption) {
+            const QString key = QKeySequence::mnemonic(caption).toString();
+            if (key.isEmpty()) return;
+            EXPECT_EQ(from_qt(captions.value(key)), "") << tag << ": also " << from_qt(caption);
+            captions[key] = caption;
+        };
+        for (const auto* button : screen(tag)->findChildren<QAbstractButton*>())
+            if (button->isVisible() && button->isEnabled()) note(button->text());
+        for (const auto* label : screen(tag)->findChildren<QLabel*>())
+            if (label->isVisible() && label->buddy() && label->buddy()->isEnabled()) note(label->text());
+    };
+    const auto look_with_box = [&](const char* tag, const char* name) {
+        look(tag);
+        drive::click_cell(grid(tag, name), 0, 1);
+        look(tag);
+        drive::key(focus(), Qt::Key_Escape);
+    };
+    look("front");
+    press("front", "cmdFront_open");
+    press("years", "cmdYear_new");
+    look("years");
+    press("years", "cmdYear_cancel");
+    press("front", "cmdFront_reports");
+    look("viewer");
+    press("viewer", "Command1");
+    press("front", "cmdFront_edit");
+    look_with_box("profile", "MSFlexGridFields");
+    press("profile", "cmdProfile_cancel");
+    press("front", "cmdFront_land");
+    look_with_box("land", "MSFlexGridLand");
+}
+
+}  // namespace kel::test

@@ -1,0 +1,110 @@
+// The whole program in a test's own folder, with the person scripted. Keys go to whatever has the focus, as
+// they do from a keyboard, so that a focus which is lost or trapped fails the test.
+#pragma once
+
+#include <QApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QTest>
+#include <memory>
+#include <stdexcept>
+
+#include "core/settings_store.h"
+#include "tests/support/farm_files.h"
+#include "tests/support/scripted_prompts.h"
+#include "tools/screen_driver.h"
+#include "ui/grid_view.h"
+#include "ui/kel_application.h"
+#include "ui/program.h"
+#include "ui/qt_text.h"
+
+namespace kel::test {
+
+using texts = std::vector<std::string>;
+
+inline QWidget* focus() {
+    // A window that has come to view gets the focus from the platform a little later.
+    if (!QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }, 500))
+        throw std::runtime_error("nothing has the focus");
+    return QApplication::focusWidget();
+}
+inline std::string focus_name() {
+    return from_qt(focus()->objectName());
+}
+inline void press_key(Qt::Key key, int times = 1, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    constexpr int button_goes_down_ms = 120;  // before one that was pressed by its letter acts
+    for (int i = 0; i < times; ++i) {
+        drive::key(focus(), key, modifiers);
+        if (modifiers & Qt::AltModifier) QTest::qWait(button_goes_down_ms);
+    }
+}
+inline void type_text(const QString& text) {
+    QTest::keyClicks(focus(), text);
+    drive::settle();
+}
+/// Opens the box of the grid's current cell, types or picks by typing, confirms.
+inline void enter_text(const QString& text) {
+    press_key(Qt::Key_Return);
+    // A list takes letters that follow soon for the same word, also across two uses of a box.
+    if (qobject_cast<QListWidget*>(focus())) QTest::qWait(QApplication::keyboardInputInterval() + 20);
+    type_text(text);
+    press_key(Qt::Key_Return);
+}
+/// Walks on with Tab until the control of that name has the focus.
+inline void tab_to(const std::string& name) {
+    for (int steps = 0; steps < 60; ++steps) {
+        if (focus_name() == name) return;
+        press_key(Qt::Key_Tab);
+    }
+    throw std::runtime_error("Tab does not reach " + name);
+}
+/// A click that passes through the event loop, where failures are caught.
+inline void click(QWidget* screen, const QString& name) {
+    QTest::mouseClick(drive::control(screen, name), Qt::LeftButton);
+    drive::settle();
+}
+
+class screen_test : public farm_test {
+  protected:
+    screen_test() { application().set_prompts(&person); }
+    ~screen_test() override { application().set_prompts(nullptr); }
+    static kel_application& application() { return *static_cast<kel_application*>(qApp); }
+
+    /// Starts the program, or ends it and starts it again, in the same folder.
+    void start() {
+        run.reset();
+        run = std::make_unique<program>(state.places, person, [] { return make_date(15, 11, 2026); });
+        run->start();
+        drive::settle();
+    }
+    /// Starts with this farm open.
+    void start_with(const std::vector<test_field>& fields) {
+        open_farm(fields);
+        write_store(state);
+        start();
+    }
+    QWidget* screen(std::string_view tag) const { return run->screen(tag); }
+    bool in_view(std::string_view tag) const { return screen(tag) && screen(tag)->isVisible(); }
+    /// Presses a button and lets the screen that was left go away.
+    void press(std::string_view tag, const char* button) const {
+        drive::press(screen(tag), button);
+        drive::settle();
+    }
+    grid_view* grid(std::string_view tag, const char* name) const {
+        return drive::control<grid_view>(screen(tag), name);
+    }
+    std::string shown_text(std::string_view tag, const char* label) const {
+        return from_qt(drive::control<QLabel>(screen(tag), label)->text());
+    }
+    static std::string cell(const grid_view* grid, int row, int column) {
+        return from_qt(grid->model()->index(row, column).data().toString());
+    }
+    static texts current_cell(const grid_view* grid) {
+        return {std::to_string(grid->current_row()), std::to_string(grid->current_column())};
+    }
+
+    scripted_prompts person;
+    std::unique_ptr<program> run;
+};
+
+}  // namespace kel::test

@@ -1,0 +1,14 @@
+#include <gtest/gtest.h>
+
+#include <QtGlobal>
+
+#include "ui/kel_application.h"
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // All screens are tested on a machine of a month-first country.
+    qputenv("LC_ALL", "en_US.UTF-8");
+    testing::InitGoogleTest(&argc, argv);
+    const kel::kel_application application(argc, argv);
+    return RUN_ALL_TESTS();
+}

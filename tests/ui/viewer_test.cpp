@@ -1,0 +1,92 @@
+// The viewer: pages, its third button, links, and the screen that comes back.
+#include <QAbstractButton>
+#include <QDesktopServices>
+
+#include "land/land_messages.h"
+#include "tests/ui/screen_fixture.h"
+#include "ui/page_view.h"
+
+namespace kel::test {
+
+class Viewer : public screen_test {
+  protected:
+    page_view* page() const { return drive::control<page_view>(screen("viewer"), "WebBrowser1"); }
+    std::string page_file() const { return from_qt(page()->source().toLocalFile()); }
+    std::string third_button() const {
+        return from_qt(drive::control<QAbstractButton>(screen("viewer"), "Command8")->text().remove('&'));
+    }
+    void close_viewer() {
+        press("viewer", "Command1");
+        EXPECT_FALSE(screen("viewer"));
+    }
+};
+
+TEST_F(Viewer, ContentsPageLinksToAReportAndThirdButtonLeadsBack) {
+    start_with({{"Long <b>Rig", "15"}});
+    press("front", "cmdFront_edit");
+    press("profile", "cmdReport");
+    EXPECT_EQ(third_button(), "Save");
+    EXPECT_FALSE(in_view("profile"));
+    close_viewer();
+    ASSERT_TRUE(in_view("profile"));
+    press("profile", "cmdProfile_cancel");
+
+    press("front", "cmdFront_reports");
+    EXPECT_EQ(third_button(), "Contents");
+    EXPECT_EQ(page_file(), path("KEL_report_contents.htm"));
+    press_key(Qt::Key_Tab);
+    press_key(Qt::Key_Return);
+    EXPECT_EQ(page_file(), path("KEL_report_farmprof.htm"));
+    EXPECT_TRUE(page()->toPlainText().contains("Farm name: Test Farm"));
+    press("viewer", "Command8");
+    EXPECT_EQ(page_file(), path("KEL_report_contents.htm"));
+    close_viewer();
+    EXPECT_TRUE(in_view("front"));
+}
+
+// A web page goes to the desktop; nothing of it is loaded here. The About box comes back.
+TEST_F(Viewer, WebAddressesAreHandedToTheDesktop) {
+    QTextBrowser desktop;
+    QDesktopServices::setUrlHandler("https", &desktop, "setSource");
+    start();
+    run->open("splash");
+    press("splash", "imgSplash_logo1");
+    EXPECT_EQ(desktop.source().scheme(), "https");
+    EXPECT_TRUE(page()->source().isEmpty());
+    EXPECT_TRUE(page()->toPlainText().contains(desktop.source().host() + "/ is shown in your web browser."));
+    EXPECT_FALSE(in_view("splash"));
+    EXPECT_EQ(third_button(), "Back");
+    close_viewer();
+    EXPECT_TRUE(in_view("splash"));
+    QDesktopServices::unsetUrlHandler("https");
+}
+
+TEST_F(Viewer, AMissingPageIsNamedAsItIsSpelled) {
+    start();
+    run->show({path("no <i>such page.htm"), "Save", 0});
+    EXPECT_EQ(page()->toPlainText().toStdString(), "There is no page " + path("no <i>such page.htm") + ".");
+}
+
+TEST_F(Viewer, ViewReportsLeavesAHiddenStep1WithWhatItLoadedThen) {
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_reports");
+    EXPECT_TRUE(in_view("front"));
+    ASSERT_TRUE(screen("land"));
+    EXPECT_FALSE(in_view("land"));
+    close_viewer();
+    EXPECT_FALSE(in_view("land"));
+    add_row(state.assess_file, "Land", {{"Field Area ID", "Long Rig"}, {"Area In Grass (ha)", "9"}});
+    press("front", "cmdFront_land");
+    EXPECT_EQ(cell(grid("land", "MSFlexGridLand"), 0, 1), "");
+    person.expect(land_messages::close_module, answer::no);
+    screen("land")->close();
+    drive::settle();
+    EXPECT_TRUE(in_view("land"));
+    person.expect(land_messages::close_module, answer::yes);
+    press("land", "cmdLand_cancel");
+    ASSERT_TRUE(in_view("front"));
+    press("front", "cmdFront_land");
+    EXPECT_EQ(cell(grid("land", "MSFlexGridLand"), 0, 1), "9");
+}
+
+}  // namespace kel::test

@@ -1,0 +1,58 @@
+// Step 3's screen: the table of applications and the results in its place.
+#pragma once
+
+#include "manure/manure_module.h"
+#include "ui/module_screen.h"
+
+class QPlainTextEdit;
+class QStackedWidget;
+
+namespace kel {
+
+class frmReductions : public module_screen {
+    Q_OBJECT
+
+  public:
+    /// Loads the module. Throws file_error.
+    frmReductions(application_state& state, prompts& person, report_desk& desk);
+
+    void reload() override;
+    std::string_view back_tag() const override { return module_.back_tag(); }
+
+  protected:
+    bool may_close() override { return module_.close(); }
+    void refresh() override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    QWidget* table_page();
+    QWidget* result_page();
+    QPlainTextEdit* new_passage(const char* name, const QString& accessible_name);
+    void add_list_boxes();
+    void add_number_boxes();
+    entry_box* new_entry_box(const char* name);
+    entry_box* new_number_entry_box(const char* name, bool (manure_module::*enter)(int, const std::string&));
+    entry_box* box_of(manure_box box) const;
+    void open_box(const manure_opening& opening);
+    bool enter_manure();
+    void show_view();
+    void fit_passages();
+
+    manure_module module_;
+    application_state& state_;
+    report_desk& desk_;
+    QPlainTextEdit* instructions_;
+    QStackedWidget* views_;
+    grid_view* table_;
+    grid_view* results_;
+    QPlainTextEdit* warnings_;
+    entry_box* field_box_;
+    entry_box* manure_box_;
+    entry_box* incorporation_box_;
+    entry_box* date_box_;
+    entry_box* area_box_;
+    entry_box* amount_box_;
+    entry_box* n_content_box_;
+};
+
+}  // namespace kel

@@ -1,0 +1,43 @@
+// What the three tables of the plan have in common: twelve month columns as narrow as their texts allow, and
+// rows that take no entries, set off from the others, whose label runs over the columns before the months.
+#pragma once
+
+#include <QString>
+#include <QStyledItemDelegate>
+
+namespace kel {
+
+class grid_view;
+
+class month_table : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    struct layout {
+        int first_month;          // column of January
+        int protected_at_top;     // rows
+        int protected_at_bottom;  // rows; the last one is that of the totals
+        QString widest;           // text that a month's cell may hold
+    };
+    /// Serves the grid from now on.
+    month_table(grid_view& grid, const layout& layout);
+
+    /// Call it after each refresh of the grid: rows of labels may have moved and totals have grown.
+    void refresh();
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+  private:
+    bool is_protected(int row) const;
+    void span_label(int row);
+    void fit_month(int column);
+
+    grid_view& grid_;
+    layout layout_;
+};
+
+}  // namespace kel
