@@ -19,6 +19,12 @@ QWidget* control(QWidget* screen, const QString& name) {
     return found;
 }
 
+QWidget* focused() {
+    QWidget* found = QApplication::focusWidget();
+    if (!found) throw std::runtime_error("no control has the focus");
+    return found;
+}
+
 void settle() {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QApplication::processEvents();

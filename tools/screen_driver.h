@@ -21,6 +21,9 @@ T* control(QWidget* screen, const QString& name) {
     return qobject_cast<T*>(control(screen, name));
 }
 
+/// The control that has the keyboard's focus; throws if none has.
+QWidget* focused();
+
 /// Lets the event loop deliver everything that is due.
 void settle();
 /// Presses a button; throws if it is disabled or not shown.

@@ -67,6 +67,9 @@ class walk {
     void choose_place();
     void open_sample();
     void step1();
+    void step2();
+    void step3();
+    void step4();
     void reports();
     void help();
 
@@ -170,6 +173,66 @@ void walk::step1() {
     drive::press(land, "cmdLand_cancel2");
 }
 
+void walk::step2() {
+    drive::press(screen("front"), "cmdFront_storage");
+    QWidget* storage = screen("storage");
+    picture("storage", "storage_dirty_water");
+    drive::press(storage, "cmdStorage_continue");
+    picture("storage", "storage_stores");
+    drive::press(storage, "cmdStores_continue");
+    picture("storage", "storage_production");
+    auto* tabs = drive::control<QTabWidget>(storage, "SSTabStorage");
+    tabs->setCurrentIndex(1);
+    picture("storage", "storage_land");
+    auto* land = drive::control<grid_view>(storage, "MSFlexGridStorage_land");
+    drive::click_cell(land, 3, 2);
+    picture("storage", "storage_field_use_box");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    tabs->setCurrentIndex(2);
+    picture("storage", "storage_spreading");
+    drive::press(storage, "cmdStorage_save");
+    drive::press(storage, "cmdReport");
+    picture("viewer", "report_storage");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(storage, "cmdStorage_cancel");
+}
+
+void walk::step3() {
+    drive::press(screen("front"), "cmdFront_manure");
+    QWidget* manure = screen("reduction");
+    picture("reduction", "manure_table");
+    auto* table = drive::control<grid_view>(manure, "MSFlexGridReductions");
+    drive::click_cell(table, 2, 3);
+    picture("reduction", "manure_type_box");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    drive::click_cell(table, 2, 4);
+    picture("reduction", "manure_date_box");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    drive::press(manure, "cmdReductions_calculate");
+    picture("reduction", "manure_result");
+    drive::press(manure, "cmdReductions_report");
+    picture("viewer", "report_manure");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(manure, "cmdReductions_back");
+    drive::press(manure, "cmdReductions_save");
+    drive::press(manure, "cmdReductions_cancel");
+}
+
+void walk::step4() {
+    drive::press(screen("front"), "cmdFront_inorganic");
+    QWidget* inorganic = screen("inorg");
+    picture("inorg", "inorganic_table");
+    auto* table = drive::control<grid_view>(inorganic, "MSFlexGridInorganic");
+    drive::click_cell(table, 1, 2);
+    picture("inorg", "inorganic_box");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    drive::press(inorganic, "cmdInorganic_save");
+    drive::press(inorganic, "cmdInorganic_report");
+    picture("viewer", "report_inorganic");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(inorganic, "cmdInorganic_cancel");
+}
+
 void walk::reports() {
     drive::press(screen("front"), "cmdFront_edit");
     drive::press(screen("profile"), "cmdReport");
@@ -200,6 +263,9 @@ void walk::all() {
     new_farm();
     open_sample();
     step1();
+    step2();
+    step3();
+    step4();
     reports();
     help();
 }

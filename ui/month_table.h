@@ -1,5 +1,7 @@
-// What the three tables of the plan have in common: twelve month columns as narrow as their texts allow, and
-// rows that take no entries, set off from the others, whose label runs over the columns before the months.
+// What the three tables of the plan have in common: twelve month columns as narrow as their entries allow,
+// and rows that take no entries, set off from the others, whose label runs over the columns before the
+// months. Totals have single precision's many digits; one that its column cannot show in full is drawn with
+// fewer decimals and can be read in full under the pointer.
 #pragma once
 
 #include <QString>
@@ -13,16 +15,16 @@ class month_table : public QStyledItemDelegate {
     Q_OBJECT
 
   public:
-    struct layout {
+    struct arrangement {
         int first_month;          // column of January
         int protected_at_top;     // rows
         int protected_at_bottom;  // rows; the last one is that of the totals
         QString widest;           // text that a month's cell may hold
     };
     /// Serves the grid from now on.
-    month_table(grid_view& grid, const layout& layout);
+    month_table(grid_view& grid, const arrangement& arranged);
 
-    /// Call it after each refresh of the grid: rows of labels may have moved and totals have grown.
+    /// Call it after each refresh of the grid: rows of labels may have moved.
     void refresh();
 
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -35,9 +37,11 @@ class month_table : public QStyledItemDelegate {
     bool is_protected(int row) const;
     void span_label(int row);
     void fit_month(int column);
+    bool fits(const QModelIndex& index, const QString& text) const;
+    QString fitting_figure(const QModelIndex& index) const;
 
     grid_view& grid_;
-    layout layout_;
+    arrangement arranged_;
 };
 
 }  // namespace kel

@@ -16,6 +16,7 @@
 #include "ui/frmLand_new.h"
 #include "ui/frmProfile.h"
 #include "ui/frmReductions.h"
+#include "ui/frmStorage.h"
 #include "ui/kel_application.h"
 #include "ui/module_screen.h"
 #include "ui/qt_text.h"
@@ -28,8 +29,8 @@ constexpr std::string_view front_tag = "front";
 constexpr std::string_view location_tag = "location";
 constexpr std::string_view viewer_tag = "viewer";
 
-constexpr std::array<std::string_view, 6> built_screens{"land",    "reduction", "inorg",
-                                                        "profile", "splash",    "years"};
+constexpr std::array<std::string_view, 7> built_screens{"land",    "storage", "reduction", "inorg",
+                                                        "profile", "splash",  "years"};
 
 class waiting {
   public:
@@ -43,7 +44,8 @@ struct picker_tag {
     picker_module caller;
     std::string_view tag;
 };
-constexpr std::array<picker_tag, 3> picker_tags{{{picker_module::land, "land"},
+constexpr std::array<picker_tag, 4> picker_tags{{{picker_module::land, "land"},
+                                                 {picker_module::storage, "storage"},
                                                  {picker_module::manure, "reduction"},
                                                  {picker_module::inorganic, "inorg"}}};
 
@@ -53,10 +55,11 @@ struct window_size {
     int height;
 };
 // Sizes at first view; each fits a screen of 1280 x 800.
-constexpr std::array<window_size, 7> first_sizes{{{"front", 900, 620},
+constexpr std::array<window_size, 8> first_sizes{{{"front", 900, 620},
                                                   {"profile", 1000, 700},
                                                   {"location", 1000, 760},
                                                   {"land", 1220, 720},
+                                                  {"storage", 1260, 740},
                                                   {"reduction", 1250, 720},
                                                   {"inorg", 1220, 720},
                                                   {"viewer", 1040, 740}}};
@@ -92,6 +95,7 @@ QWidget* program::screen(std::string_view tag) const {
 
 module_screen* program::make_module(std::string_view tag) {
     if (tag == "land") return new frmLand_new(state_, person_, desk_);
+    if (tag == "storage") return new frmStorage(state_, person_, desk_);
     if (tag == "reduction") return new frmReductions(state_, person_, desk_);
     if (tag == "inorg") return new frmInorganic(state_, person_, desk_);
     return nullptr;

@@ -84,13 +84,13 @@ QWidget* storage_plan_page::spreading_tab(frmStorage& screen) {
     auto* layout = new QVBoxLayout(tab);
     layout->setContentsMargins(0, 4, 0, 0);
     auto* row = new QHBoxLayout;
-    screen
-        .add_command(row, tr("Get Slurry &Data"), "Command10",
-                     [this] {
-                         page_.get_slurry_data();
-                         refresh();
-                     })
-        ->setToolTip(tr("Takes the rates from the slurry and manure applications of Step 3"));
+    row->setContentsMargins(4, 0, 4, 0);
+    auto* transfer = screen.add_command(row, tr("Get Slurry &Data"), "Command10", [this] {
+        page_.get_slurry_data();
+        refresh();
+    });
+    transfer->setToolTip(tr("Takes the rates from the slurry and manure applications of Step 3"));
+    setTabOrder(transfer, spreading_);
     row->addStretch();
     layout->addLayout(row);
     layout->addWidget(spreading_, 1);

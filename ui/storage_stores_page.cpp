@@ -58,7 +58,7 @@ QWidget* storage_stores_page::form(frmStorage& screen) {
     row->addStretch();
     screen.add_command(row, tr("&Add To List"), "cmdStores_add", [this] { add_store(); });
     layout->addLayout(row);
-    layout->addStretch();
+    layout->addStretch(1);
     connect(shape_, &QListWidget::itemSelectionChanged, this, &storage_stores_page::shape_chosen);
     for (QLineEdit* box : {length_, width_, diameter_})
         connect(box, &QLineEdit::textEdited, this, [this] { area_->setText(qt(auto_area(entered()))); });

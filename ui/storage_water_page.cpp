@@ -35,7 +35,7 @@ storage_water_page::storage_water_page(frmStorage& screen, dirty_water_page& pag
     layout->addLayout(form_choice(screen));
     told_ = screen.new_text("lblStorage3_water", this);
     layout->addWidget(form());
-    layout->addStretch();
+    layout->addStretch(1);
 }
 
 QLayout* storage_water_page::form_choice(frmStorage& screen) {
@@ -58,10 +58,10 @@ QLayout* storage_water_page::form_choice(frmStorage& screen) {
 }
 
 QWidget* storage_water_page::form() {
-    auto* frame = new QGroupBox(tr("Dirty water"), this);
-    frame->setObjectName("fraStorage3_dirty_water");
-    frame->setMaximumWidth(form_width_px);
-    auto* layout = new QVBoxLayout(frame);
+    frame_ = new QGroupBox(this);
+    frame_->setObjectName("fraStorage3_dirty_water");
+    frame_->setMaximumWidth(form_width_px);
+    auto* layout = new QVBoxLayout(frame_);
     layout->addWidget(told_);
     layout->addSpacing(8);
     lines_ = new QFormLayout;
@@ -72,7 +72,7 @@ QWidget* storage_water_page::form() {
     actual_box_ = add_box(tr("Dirty &water production (cubic m/month):"), "txtStorage3_water_actual",
                           &dirty_water_page::set_actual);
     layout->addLayout(lines_);
-    return frame;
+    return frame_;
 }
 
 QLineEdit* storage_water_page::add_box(const QString& caption, const char* name,
@@ -97,6 +97,7 @@ void storage_water_page::refresh() {
     const bool estimate = page_.form() == dirty_water_form::estimate;
     estimate_->setChecked(estimate);
     actual_->setChecked(!estimate);
+    frame_->setTitle(estimate ? tr("Estimated dirty water") : tr("Actual dirty water"));
     told_->setText(qt(page_.instruction()));
     lines_->setRowVisible(cows_box_, estimate);
     lines_->setRowVisible(pens_box_, estimate);

@@ -6,6 +6,7 @@
 #include "storage/dirty_water_page.h"
 
 class QFormLayout;
+class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -38,6 +39,7 @@ class storage_water_page : public QWidget {
     dirty_water_page& page_;
     QPushButton* estimate_;
     QPushButton* actual_;
+    QGroupBox* frame_;
     QLabel* told_;
     QFormLayout* lines_;
     QLineEdit* cows_box_;
