@@ -22,30 +22,44 @@ std::string shown_date_text(const std::string& stored) {
 
 }  // namespace
 
+std::vector<int> stored_columns(const recordset& table, const text_grid& grid) {
+    std::vector<int> stored;
+    for (const grid_column& column : grid.columns())
+        stored.push_back(column.stored.empty() ? -1 : table.column(column.stored));
+    return stored;
+}
+
 void save_grid(const database& db, std::string_view table, const text_grid& grid, int rows) {
     db.delete_rows(table);
     recordset target = db.open(table);
-    std::vector<int> stored;
-    for (const grid_column& column : grid.columns())
-        stored.push_back(column.stored.empty() ? -1 : target.column(column.stored));
+    const std::vector<int> stored = stored_columns(target, grid);
     for (int row = 0; row < rows; ++row) {
         target.add_new();
         for (int c = 0; c < grid.column_count(); ++c) {
             const int into = stored[static_cast<std::size_t>(c)];
-            if (into < 0 || grid.cell(row, c).empty()) continue;
-            const bool is_date = grid.columns()[static_cast<std::size_t>(c)].is_date;
-            target.set(into, is_date ? stored_date_text(grid.cell(row, c)) : grid.cell(row, c));
+            const std::string& text = grid.cell(row, c);
+            if (into < 0 || text.empty()) continue;
+            if (grid.columns()[static_cast<std::size_t>(c)].is_date)
+                target.set(into, stored_date_text(text));
+            else
+                target.set_kept(into, text);
         }
         target.update();
     }
 }
 
 void load_grid_row(const recordset& source, text_grid& grid, int row) {
+    load_grid_row(source, stored_columns(source, grid), grid, row);
+}
+
+void load_grid_row(const recordset& source, const std::vector<int>& stored, text_grid& grid, int row) {
     for (int c = 0; c < grid.column_count(); ++c) {
-        const grid_column& column = grid.columns()[static_cast<std::size_t>(c)];
-        if (column.stored.empty()) continue;
-        std::string text = source.text(column.stored);
-        if (!text.empty()) grid.set_cell(row, c, column.is_date ? shown_date_text(text) : std::move(text));
+        const int from = stored[static_cast<std::size_t>(c)];
+        if (from < 0) continue;
+        std::string text = source.text(from);
+        if (text.empty()) continue;
+        const bool is_date = grid.columns()[static_cast<std::size_t>(c)].is_date;
+        grid.set_cell(row, c, is_date ? shown_date_text(text) : std::move(text));
     }
 }
 

@@ -5,11 +5,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/assessment_store.h"
 #include "core/text_grid.h"
 
 namespace kel {
+
+/// Where each column of the grid is stored in the table; -1 for one that is not.
+std::vector<int> stored_columns(const recordset& table, const text_grid& grid);
 
 /// The rows written by a module's Save: every row of the table goes, then the first `rows` rows of the grid
 /// are written by stored column name. Empty cells stay unset. Call it within a save_transaction.
@@ -18,6 +22,8 @@ void save_grid(const database& db, std::string_view table, const text_grid& grid
 /// Copies the current row of `source` into row `row` of the grid by stored column name; empty texts leave the
 /// cell.
 void load_grid_row(const recordset& source, text_grid& grid, int row);
+/// The same with the columns of the grid looked up once for all rows, by stored_columns.
+void load_grid_row(const recordset& source, const std::vector<int>& stored, text_grid& grid, int row);
 
 /// Farm name and year of another file, for the years dialog; empty if its table has no row.
 std::string read_farm_name(const std::string& path);

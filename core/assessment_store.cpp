@@ -59,8 +59,8 @@ char lower(char c) {
 }
 
 bool same_name(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return lower(x) == lower(y); });
+    return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                                [](char x, char y) { return lower(x) == lower(y); });
 }
 
 // An assessment from a stranger is data: nothing in it may run.
@@ -174,14 +174,16 @@ struct recordset::rows {
         pending.resize(names.size());
     }
 
-    using value = std::variant<std::monostate, std::string, double>;
+    using value = std::variant<std::monostate, std::string, const std::string*, double>;
 
     bool is_set(std::size_t column) const { return pending[column].index() != 0; }
     static void bind(SQLite::Statement& statement, int index, const value& v) {
         if (const auto* text = std::get_if<std::string>(&v)) statement.bindNoCopy(index, *text);
+        if (const auto* kept = std::get_if<const std::string*>(&v)) statement.bindNoCopy(index, **kept);
         if (const auto* number = std::get_if<double>(&v)) statement.bind(index, *number);
     }
     SQLite::Statement& insert_statement();
+    SQLite::Statement& update_statement();
     void insert();
     void change();
     std::int64_t rowid() const { return select.getColumn(static_cast<int>(names.size())).getInt64(); }
@@ -196,7 +198,10 @@ struct recordset::rows {
     bool has_row = false;
     enum class edit_mode { none, adding, editing } mode = edit_mode::none;
     std::vector<value> pending;
-    SQLite::Statement* inserting = nullptr;  // owned by the connection
+    // Prepared for the row before and owned by the connection; most rows set the columns that it set.
+    SQLite::Statement* inserting = nullptr;
+    SQLite::Statement* changing = nullptr;
+    std::vector<bool> changing_columns;
 };
 
 SQLite::Statement& recordset::rows::insert_statement() {
@@ -221,14 +226,23 @@ void recordset::rows::insert() {
     statement.exec();
 }
 
-void recordset::rows::change() {
+SQLite::Statement& recordset::rows::update_statement() {
+    std::vector<bool> columns(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        columns[i] = is_set(i);
+    if (changing && columns == changing_columns) return database::connection::rewound(*changing);
     std::string sets;
     for (std::size_t i = 0; i < names.size(); ++i)
-        if (is_set(i)) sets += bracketed(names[i]) + " = ?, ";
-    if (sets.empty()) return;
+        if (columns[i]) sets += bracketed(names[i]) + " = ?, ";
     sets.resize(sets.size() - 2);
-    auto& statement =
-        db.shared_->statement("UPDATE " + db.quoted(table) + " SET " + sets + " WHERE rowid = ?");
+    changing = &db.shared_->statement("UPDATE " + db.quoted(table) + " SET " + sets + " WHERE rowid = ?");
+    changing_columns = std::move(columns);
+    return *changing;
+}
+
+void recordset::rows::change() {
+    if (std::all_of(pending.begin(), pending.end(), [](const value& v) { return v.index() == 0; })) return;
+    auto& statement = update_statement();
     int index = 0;
     for (const auto& v : pending)
         if (v.index() != 0) bind(statement, ++index, v);
@@ -314,6 +328,10 @@ void recordset::edit() {
 
 void recordset::set(int column, std::string_view text) {
     rows_->pending.at(static_cast<std::size_t>(column)) = std::string(text);
+}
+
+void recordset::set_kept(int column, const std::string& text) {
+    rows_->pending.at(static_cast<std::size_t>(column)) = &text;
 }
 
 void recordset::set(std::string_view name, date d) {

@@ -80,6 +80,9 @@ class recordset {
     void edit();
     void set(std::string_view name, std::string_view text) { set(column(name), text); }
     void set(int column, std::string_view text);
+    /// As set, without a copy: the text must stay as it is until update.
+    void set_kept(int column, const std::string& text);
+    void set_kept(int column, std::string&& text) = delete;
     void set(std::string_view name, date d);
     void set(std::string_view name, double number);
     void update();

@@ -1,10 +1,10 @@
 #include "core/dates.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdio>
 #include <stdexcept>
-#include <vector>
 
 namespace kel {
 
@@ -22,16 +22,22 @@ std::string formatted(const char* pattern, int a, int b, int c) {
     return buffer;
 }
 
-std::vector<std::string_view> split_date(std::string_view text) {
-    std::vector<std::string_view> parts;
+// The first four parts of a text; `count` is that of all.
+struct date_parts {
+    std::array<std::string_view, 4> part;
+    std::size_t count = 0;
+};
+
+date_parts split_date(std::string_view text) {
+    date_parts parts;
     constexpr std::string_view separators = "/-. ";
     while (true) {
         const auto start = text.find_first_not_of(separators);
         if (start == std::string_view::npos) return parts;
         text.remove_prefix(start);
-        const auto end = text.find_first_of(separators);
-        parts.push_back(text.substr(0, end));
-        if (end == std::string_view::npos) return parts;
+        const auto end = std::min(text.find_first_of(separators), text.size());
+        if (parts.count < parts.part.size()) parts.part[parts.count] = text.substr(0, end);
+        ++parts.count;
         text.remove_prefix(end);
     }
 }
@@ -86,9 +92,9 @@ std::string iso_date_text(date d) {
 std::optional<date> parse_date(std::string_view text) {
     if (text.empty() || text.front() < '0' || text.front() > '9') return std::nullopt;
     // A time behind the day, as other tools write it, is no part of the date.
-    auto parts = split_date(text.substr(0, text.find('T')));
-    if (parts.size() > 3 && parts[3].find(':') != std::string_view::npos) parts.resize(3);
-    if (parts.size() != 3) return std::nullopt;
+    auto [parts, count] = split_date(text.substr(0, text.find('T')));
+    const bool has_time = count > 3 && parts[3].find(':') != std::string_view::npos;
+    if (count != 3 && !has_time) return std::nullopt;
     if (parts[0].size() == 4) std::swap(parts[0], parts[2]);
     const auto day = whole_number(parts[0]);
     const auto month = month_number(parts[1]);

@@ -1,9 +1,9 @@
 // The fields of the farm profile, as every module takes them from the assessment.
 #pragma once
 
-#include <set>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "core/assessment_store.h"
@@ -31,7 +31,7 @@ class known_fields {
     bool contains(std::string_view name) const { return names_.contains(name); }
 
   private:
-    std::set<std::string_view> names_;
+    std::unordered_set<std::string_view> names_;
 };
 
 }  // namespace kel

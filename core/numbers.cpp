@@ -111,6 +111,18 @@ std::string shortest_text(double value) {
     return shortest(value);
 }
 
+std::string plain_text(double value) {
+    if (!std::isfinite(value)) return "0";
+    constexpr int significant_digits = 15;
+    char buffer[64];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific,
+                                   significant_digits - 1)
+                         .ptr;
+    double cut = 0;
+    std::from_chars(buffer, end, cut);
+    return shortest(cut);
+}
+
 float round_half_even(float value, int places) {
     return read_number<float>(rounded_text(shortest(value), places, ties::to_even));
 }

@@ -22,6 +22,10 @@ float leading_single(std::string_view text);
 std::string shortest_text(float value);
 std::string shortest_text(double value);
 
+/// Text of a product worked out in double precision: 15 significant digits at most, which is where the noise
+/// of binary fractions begins, and no exponent.
+std::string plain_text(double value);
+
 /// Rounded to `places` decimals, ties to the even digit.
 float round_half_even(float value, int places);
 double round_half_even(double value, int places);

@@ -90,7 +90,7 @@ void write_total_n(text_grid& table, int row) {
 void write_total_n_of_analysis(text_grid& table, int row) {
     const double total = total_n_rate_of_analysis(leading_number(table.cell(row, col::n_content)),
                                                   leading_number(table.cell(row, col::rate)));
-    table.set_cell(row, col::total_n, shortest_text(total));
+    table.set_cell(row, col::total_n, plain_text(total));
 }
 
 percentage_outcome write_percentage(text_grid& table, int row, int& working_code) {
@@ -115,14 +115,16 @@ void write_rates(text_grid& table, int row) {
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
                             std::vector<message>& told) {
     text_grid table(manure_columns);
-    for (recordset rows = db.open("Manure_applic"); !rows.eof(); rows.move_next()) {
-        const std::string field = rows.text("Field Area ID");
+    recordset rows = db.open("Manure_applic");
+    const std::vector<int> stored = stored_columns(rows, table);
+    for (; !rows.eof(); rows.move_next()) {
+        const std::string field = rows.text(stored[col::field]);
         if (!field.empty() && !fields.contains(field)) {
             told.push_back(module_messages::field_does_not_exist(field));
             continue;
         }
         const int row = table.add_row();
-        load_grid_row(rows, table, row);
+        load_grid_row(rows, stored, table, row);
         const auto day = parse_date(table.cell(row, col::date));
         if (day && window.contains(*day)) continue;
         if (!table.cell(row, col::date).empty()) told.push_back({"", window.refusal});

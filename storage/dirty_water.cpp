@@ -1,7 +1,6 @@
 #include "storage/dirty_water.h"
 
 #include "core/numbers.h"
-#include "storage/number_box.h"
 
 namespace kel {
 
@@ -33,7 +32,7 @@ constexpr double reported_cubic_m_per_cow = 0.55;
 monthly_values monthly_dirty_water(const dirty_water_answers& answers) {
     monthly_values water{};
     // An actual figure is kept and reported, but does not enter the balance.
-    if (number_box_filled(answers.actual) || !number_box_filled(answers.cows)) return water;
+    if (holds_number(answers.actual) || !holds_number(answers.cows)) return water;
     const double cows = leading_number(answers.cows);
     const double pens = reported_pen_water(leading_number(answers.pig_pens));
     for (std::size_t month = 0; month < water.size(); ++month)

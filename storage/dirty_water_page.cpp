@@ -2,7 +2,6 @@
 
 #include "core/dates.h"
 #include "core/numbers.h"
-#include "storage/number_box.h"
 #include "storage/storage_messages.h"
 
 namespace kel {
@@ -88,12 +87,12 @@ void dirty_water_page::take_last_year() {
 }
 
 bool dirty_water_page::complete() {
-    if (number_box_filled(answers_.actual)) return true;
-    if (!number_box_filled(answers_.cows)) {
+    if (holds_number(answers_.actual)) return true;
+    if (!holds_number(answers_.cows)) {
         person_.tell(storage_messages::no_cow_figure);
         return false;
     }
-    if (!number_box_filled(answers_.pig_pens)) {
+    if (!holds_number(answers_.pig_pens)) {
         person_.tell(storage_messages::no_pig_pen_figure);
         return false;
     }

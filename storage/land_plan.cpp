@@ -20,9 +20,9 @@ constexpr auto carried = column_kind::carried;
 // clang-format off
 constexpr std::array<grid_column, 21> land_columns{{
     // heading                            stored column                       kind        width
-    {"Field Area ID",                     "Field Area ID",                    calculated, 18},
+    {"Field Area ID",                     "Field Area ID",                    calculated, 21},
     {"Soil",                              "Soil",                             calculated, 18},
-    {"Crops",                             "Crop",                             entered,    24},
+    {"Crops",                             "Crop",                             entered,    27},
     {"Available Field Area (ha)",         "Available Field Area (ha)",        calculated, 14},
     {"January",                           "January",                          entered,    10},
     {"February",                          "February",                         entered,    10},
@@ -84,13 +84,13 @@ void fill_empty_months(text_grid& land, int row) {
             land.set_cell(row, column, land.cell(row, plan_column::available));
 }
 
-// The cells of a row that are not empty. A month that is closed in the file is open again when its cell is
-// empty: the field's use has been entered anew.
-void set_filled_cells(recordset& target, const text_grid& grid, int row) {
-    for (int c = 0; c < grid.column_count(); ++c) {
-        const std::string_view stored = grid.columns()[static_cast<std::size_t>(c)].stored;
+// The cells of a row that are not empty, but for the field's name, by which the row was found. A month that
+// is closed in the file is open again when its cell is empty: the field's use has been entered anew.
+void set_filled_cells(recordset& target, const std::vector<int>& stored, const text_grid& grid, int row) {
+    for (int c = 1; c < grid.column_count(); ++c) {
+        const int into = stored[static_cast<std::size_t>(c)];
         const std::string& text = grid.cell(row, c);
-        if (!text.empty() || target.text(stored) == closed_month) target.set(stored, text);
+        if (!text.empty() || target.text(into) == closed_month) target.set_kept(into, text);
     }
 }
 
@@ -134,13 +134,16 @@ void save_land_plan(const database& db, const land_plan& plan) {
     std::multimap<std::string_view, int> rows_of_field;  // rows of one name keep their order
     for (int row = 0; row < plan.fields(); ++row)
         rows_of_field.emplace(plan.land.cell(row, plan_column::field), row);
-    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
-        const std::string name = rows.text("Field Area ID");
+    recordset rows = db.open("Land");
+    const std::vector<int> land = stored_columns(rows, plan.land);
+    const std::vector<int> spreading = stored_columns(rows, plan.spreading);
+    for (; !rows.eof(); rows.move_next()) {
+        const std::string name = rows.text(land[plan_column::field]);
         const auto found = rows_of_field.lower_bound(name);
         if (found == rows_of_field.end() || found->first != name) continue;
         rows.edit();
-        set_filled_cells(rows, plan.land, found->second);
-        set_filled_cells(rows, plan.spreading, found->second);
+        set_filled_cells(rows, land, plan.land, found->second);
+        set_filled_cells(rows, spreading, plan.spreading, found->second);
         rows.update();
         rows_of_field.erase(found);
     }

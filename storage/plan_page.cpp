@@ -4,7 +4,6 @@
 
 #include "core/numbers.h"
 #include "storage/field_use_checks.h"
-#include "storage/number_box.h"
 #include "storage/slurry_production.h"
 #include "storage/slurry_transfer.h"
 #include "storage/storage_messages.h"
@@ -109,12 +108,12 @@ bool plan_page::enter_stock(int row, const std::string& unit) {
 }
 
 bool plan_page::enter_number(int row, const std::string& text) {
-    if (!number_box_filled(text)) return refuse(storage_messages::no_livestock_number);
+    if (!holds_number(text)) return refuse(storage_messages::no_livestock_number);
     return set_stock_cell(row, production_column::number, text);
 }
 
 bool plan_page::enter_percent(int row, const std::string& text) {
-    if (!number_box_filled(text)) return refuse(storage_messages::no_percentage);
+    if (!holds_number(text)) return refuse(storage_messages::no_percentage);
     const double percent = leading_number(text);
     if (percent > 100 || percent < 0) return refuse(storage_messages::invalid_percentage);
     return set_stock_cell(row, production_column::percent, text);
@@ -173,7 +172,7 @@ crop_pair plan_page::shown_field_use(int row) const {
 }
 
 bool plan_page::enter_land_month(int row, int column, const std::string& text) {
-    if (!number_box_filled(text)) return refuse(storage_messages::no_land_availability);
+    if (!holds_number(text)) return refuse(storage_messages::no_land_availability);
     if (plan_.land.number(row, plan_column::available) - leading_single(text) < 0)
         return refuse(storage_messages::more_than_available);
     plan_.land.set_cell(row, column, text);
@@ -191,7 +190,7 @@ storage_opening plan_page::click_spreading(int row, int column) {
 }
 
 bool plan_page::enter_slurry_applic(int row, int column, const std::string& text) {
-    if (!number_box_filled(text)) return refuse(storage_messages::no_application_rate);
+    if (!holds_number(text)) return refuse(storage_messages::no_application_rate);
     if (plan_.land.cell(row, land_month_of(column)) == closed_month)
         person_.tell(storage_messages::no_slurry_at_this_time);
     else

@@ -30,9 +30,6 @@ constexpr std::array<slurry_unit, 14> units{{
 }};
 // clang-format on
 
-// More decimals than the entries have; what lies beyond is the noise of binary fractions.
-constexpr int volume_places = 10;
-
 }  // namespace
 
 std::span<const slurry_unit> slurry_units() {
@@ -47,7 +44,7 @@ std::optional<std::string_view> slurry_volume(std::string_view unit) {
 
 std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number) {
     const double product = leading_number(volume) / 100 * leading_number(percent) * leading_number(number);
-    return shortest_text(round_half_even(product, volume_places));
+    return plain_text(product);
 }
 
 }  // namespace kel

@@ -86,6 +86,7 @@ void storage_module::write_first_page() {
 }
 
 bool storage_module::storage_cont2() {
+    if (page_ == storage_page::water) return false;
     const store_totals totals = compute_store_totals(stores_.stores(), rain_mm_);
     if (!stores_.has_stores()) {
         came_back_ = false;
@@ -120,6 +121,7 @@ void storage_module::back() {
 }
 
 bool storage_module::save_storage() {
+    if (page_ != storage_page::plan) return false;
     const bool new_file = state_.assess_file.empty();
     if (!have_file_to_save(state_, person_, "Cannot Save")) return false;
     const database db(state_.assess_file);

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "core/numbers.h"
-#include "storage/number_box.h"
 #include "storage/production_grid.h"
 #include "storage/rainfall.h"
 #include "storage/slurry_production.h"
@@ -22,13 +21,12 @@ using texts = std::vector<std::string>;
 constexpr std::array<std::string_view, months_in_year> month_letters{"J", "F", "M", "A", "M", "J",
                                                                      "J", "A", "S", "O", "N", "D"};
 
-// Volumes are sums of at most three decimals; what lies beyond is the noise of binary fractions.
 std::string figure(double value) {
-    return shortest_text(round_half_even(value, 3));
+    return plain_text(value);
 }
 
 std::string figure(float value) {
-    return shortest_text(round_half_even(value, 3));
+    return shortest_text(value);
 }
 
 report_cell cell(std::string text, int columns = 1, int rows = 1) {
@@ -157,10 +155,10 @@ page_lines water_table(std::string_view caption, std::string_view number_heading
 
 page_lines dirty_water(const dirty_water_answers& answers) {
     page_lines lines;
-    if (number_box_filled(answers.actual))
+    if (holds_number(answers.actual))
         append(lines,
                report_paragraph("Actual Dirty Water Production: " + answers.actual + " cubic m per month"));
-    if (!number_box_filled(answers.cows)) return lines;
+    if (!holds_number(answers.cows)) return lines;
     append(lines, water_table("Dairy Cows", "Average Number Of Dairy Cows", answers.cows,
                               reported_cow_water(leading_number(answers.cows))));
     append(lines, water_table("Pig Pen Washing", "Pig Pens Washed Per Month", answers.pig_pens,

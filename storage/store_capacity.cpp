@@ -30,7 +30,7 @@ constexpr double first_slice_m = 0.76;  // the slices down to 0.75 m are the lag
 constexpr double deepest_lagoon_m = 1000;
 
 double usable_depth(double depth_m) {
-    return std::max(depth_m - tank_freeboard_m, 0.0);
+    return depth_m - tank_freeboard_m;
 }
 
 float lagoon_capacity(const store_size& size) {

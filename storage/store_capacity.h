@@ -25,7 +25,8 @@ struct store_size {
     double bank_angle_degrees = 0;
 };
 
-/// Cubic metres below the freeboard, in single precision. A tank no deeper than its freeboard holds nothing.
+/// Cubic metres below the freeboard, in single precision. A tank shallower than its freeboard counts
+/// below zero, as the formula gives it.
 /// A lagoon is summed in slices of 0.01 m; slices beyond the point where the banks meet still count.
 float store_capacity(store_shape shape, const store_size& size);
 

@@ -6,7 +6,6 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
-#include "storage/number_box.h"
 #include "storage/rainfall.h"
 #include "storage/storage_messages.h"
 
@@ -78,16 +77,6 @@ store_form form_of(const text_grid& stores, int row) {
     };
 }
 
-// Last December's figure; a file of before the storage step has no such table.
-std::optional<std::string> december_percent(const database& last_year) {
-    last_year.open("Type");  // a file that cannot be read at all is an error
-    try {
-        return last_year.lookup("Value", "Misc", "Item", december_percent_item);
-    } catch (const file_error&) {
-        return std::nullopt;
-    }
-}
-
 }  // namespace
 
 stores_page::stores_page(application_state& state, prompts& person)
@@ -103,9 +92,9 @@ bool stores_page::acceptable(const store_form& form) {
     if (!form.name.empty() && stores_.find(store_column::name, form.name) >= 0)
         return refuse(store_name_exists);
     if (const message* missing = size_missing(form)) return refuse(*missing);
-    if (!number_box_filled(form.percent)) return refuse(no_store_percent);
+    if (!holds_number(form.percent)) return refuse(no_store_percent);
     if (form.name.empty()) return refuse(no_store_name);
-    if (!number_box_filled(form.area)) return refuse(no_drainage_area);
+    if (!holds_number(form.area)) return refuse(no_drainage_area);
     return true;
 }
 
@@ -178,7 +167,7 @@ void save_stores(const database& db, const text_grid& stores) {
 
 std::optional<std::string> get_previous_percent_full(const application_state& state) {
     if (state.prev1_file.empty()) return std::nullopt;
-    const auto stored = december_percent(database(state.prev1_file));
+    const auto stored = database(state.prev1_file).lookup("Value", "Misc", "Item", december_percent_item);
     if (!stored) return std::nullopt;
     return shortest_text(round_half_even(std::min(leading_single(*stored), 100.0F), 1));
 }

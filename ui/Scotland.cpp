@@ -6,12 +6,12 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
+#include "ui/choice_list.h"
 #include "ui/map_view.h"
 #include "ui/qt_text.h"
 
@@ -107,14 +107,11 @@ QWidget* Scotland::side_panel() {
     town_prompt_ = new QLabel("\u2192 " + qt(profile_messages::town_prompt), panel);
     town_prompt_->setObjectName("lblScotland_town");
     town_prompt_->setWordWrap(true);
-    towns_ = new QListWidget(panel);
+    towns_ = new choice_list(panel);
     towns_->setObjectName("lstScotland_town");
     towns_->setAccessibleName(tr("Towns"));
-    // The selection and not the current entry: the focus alone makes the first town current.
-    connect(towns_, &QListWidget::itemSelectionChanged, this, [this] {
-        const auto towns = towns_->selectedItems();
-        module_.select_town(towns.isEmpty() ? std::string() : from_qt(towns.front()->text()));
-    });
+    connect(towns_, &QListWidget::itemSelectionChanged, this,
+            [this] { module_.select_town(towns_->chosen().value_or("")); });
     connect(towns_, &QListWidget::itemActivated, this, &Scotland::enter);
     column->addWidget(town_prompt_);
     column->addWidget(towns_, 1);

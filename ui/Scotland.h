@@ -7,10 +7,10 @@
 #include "profile/location_module.h"
 
 class QLabel;
-class QListWidget;
 
 namespace kel {
 
+class choice_list;
 class map_view;
 
 class Scotland : public QMainWindow {
@@ -41,7 +41,7 @@ class Scotland : public QMainWindow {
     QLabel* number_;
     QLabel* zone_;
     QLabel* town_prompt_;
-    QListWidget* towns_;
+    choice_list* towns_;
 };
 
 }  // namespace kel

@@ -7,13 +7,13 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/choice_list.h"
 #include "ui/grid_view.h"
 #include "ui/qt_text.h"
 
@@ -107,9 +107,9 @@ QLineEdit* entry_box::use_text_box() {
     return line_;
 }
 
-QListWidget* entry_box::use_list(const QStringList& items) {
+choice_list* entry_box::use_list(const QStringList& items) {
     if (!list_) {
-        list_ = new QListWidget(this);
+        list_ = new choice_list(this);
         list_->setObjectName("lst" + name_);
         list_->setFixedHeight(list_height_px);
         list_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -139,11 +139,28 @@ void entry_box::use_choices(const QStringList& texts) {
     for (const QString& text : texts) {
         auto* option = new QRadioButton(text, options_);
         option->setObjectName(QString("opt%1_%2").arg(name_).arg(lines->count() + 1));
+        option->installEventFilter(this);
         choices_->addButton(option, lines->count());
         lines->addWidget(option);
     }
     layout_->addWidget(options_, 2, 0, 1, 4);
     setTabOrder(options_, enter_button_);
+}
+
+// The toolkit lets the arrows move the focus past options of which none is checked; here they choose, as the
+// person sees it.
+bool entry_box::eventFilter(QObject* watched, QEvent* event) {
+    auto* option = qobject_cast<QRadioButton*>(watched);
+    if (!option || event->type() != QEvent::KeyPress || choices_->checkedButton())
+        return QFrame::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool on = key == Qt::Key_Down || key == Qt::Key_Right;
+    if (!on && key != Qt::Key_Up && key != Qt::Key_Left) return QFrame::eventFilter(watched, event);
+    const auto options = choices_->buttons();
+    const auto next = std::clamp<qsizetype>(options.indexOf(option) + (on ? 1 : -1), 0, options.size() - 1);
+    options[next]->setChecked(true);
+    options[next]->setFocus();
+    return true;
 }
 
 void entry_box::show_unit(const QString& unit) {
@@ -220,9 +237,7 @@ std::optional<std::string> entry_box::chosen() const {
         const QAbstractButton* option = choices_->checkedButton();
         return option ? std::optional(from_qt(option->text())) : std::nullopt;
     }
-    // Not the current item: the focus alone makes the first one current.
-    const auto items = list_->selectedItems();
-    return items.isEmpty() ? std::nullopt : std::optional(from_qt(items.front()->text()));
+    return list_->chosen();
 }
 
 date entry_box::chosen_date() const {

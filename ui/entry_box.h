@@ -18,11 +18,11 @@ class QCalendarWidget;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
 
 namespace kel {
 
+class choice_list;
 class grid_view;
 
 /// A line edit that takes digits, backspace and one decimal point.
@@ -44,7 +44,7 @@ class entry_box : public QFrame {
 
     QLineEdit* use_number_box();
     QLineEdit* use_text_box();
-    QListWidget* use_list(const QStringList& items);
+    choice_list* use_list(const QStringList& items);
     /// Arrows, Page Up and Page Down move; Enter or a double click on a day confirms.
     QCalendarWidget* use_calendar();
     /// Option buttons, one below the other, in place of those it had. None is chosen unless it is the cell's
@@ -74,6 +74,7 @@ class entry_box : public QFrame {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QPushButton* add_button(const QString& caption, const QString& suffix, operation action);
@@ -88,7 +89,7 @@ class entry_box : public QFrame {
     QGridLayout* layout_;
     QLineEdit* line_ = nullptr;
     QLabel* unit_ = nullptr;
-    QListWidget* list_ = nullptr;
+    choice_list* list_ = nullptr;
     QCalendarWidget* calendar_ = nullptr;
     QWidget* options_ = nullptr;
     QButtonGroup* choices_ = nullptr;

@@ -4,10 +4,10 @@
 #include <QDateEdit>
 #include <QGridLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QVBoxLayout>
 
 #include "storage/storage_messages.h"
+#include "ui/choice_list.h"
 #include "ui/entry_box.h"
 #include "ui/qt_text.h"
 
@@ -24,19 +24,13 @@ QStringList crops() {
     return shown;
 }
 
-void select(QListWidget* list, const std::string& text) {
+void select(choice_list* list, const std::string& text) {
     const auto found = list->findItems(qt(text), Qt::MatchExactly);
     list->clearSelection();
     if (!found.isEmpty()) list->setCurrentItem(found.front());
 }
 
-// The selection counts, not the current item: focus alone makes the first item current.
-std::string selected(const QListWidget* list) {
-    const auto chosen = list->selectedItems();
-    return chosen.isEmpty() ? std::string() : from_qt(chosen.front()->text());
-}
-
-void fit_rows(QListWidget* list) {
+void fit_rows(choice_list* list) {
     list->setFixedHeight(list->count() * list->sizeHintForRow(0) + 2 * list->frameWidth());
 }
 
@@ -47,7 +41,7 @@ field_use_form::field_use_form(const QString& name, entry_box& box, const std::s
     : QWidget(&box),
       box_(box),
       first_(box.use_list(crops())),
-      second_(new QListWidget),
+      second_(new choice_list),
       harvest_(new QDateEdit) {
     // A double click in one list does not confirm: the other one and the date are still to be answered.
     disconnect(first_, &QListWidget::itemDoubleClicked, nullptr, nullptr);
@@ -60,7 +54,7 @@ field_use_form::field_use_form(const QString& name, entry_box& box, const std::s
     second_->setObjectName("lst" + name + "_second");
     harvest_->setObjectName("dtp" + name + "_harvest");
     add_editors();
-    for (QListWidget* list : {first_, second_})
+    for (choice_list* list : {first_, second_})
         fit_rows(list);
     setTabOrder(first_, second_);
     setTabOrder(second_, harvest_);
@@ -104,7 +98,8 @@ void field_use_form::open(const QString& caption, const QString& instruction, co
 
 field_use_entry field_use_form::entered() const {
     const QDate day = harvest_->date();
-    return {{selected(first_), selected(second_)}, make_date(day.day(), day.month(), day.year())};
+    return {{first_->chosen().value_or(""), second_->chosen().value_or("")},
+            make_date(day.day(), day.month(), day.year())};
 }
 
 }  // namespace kel

@@ -6,10 +6,10 @@
 #include "storage/closed_periods.h"
 
 class QDateEdit;
-class QListWidget;
 
 namespace kel {
 
+class choice_list;
 class entry_box;
 
 /// What was chosen, crops as shown in the lists; an empty text for a list without a choice.
@@ -37,8 +37,8 @@ class field_use_form : public QWidget {
     void add_editors();
 
     entry_box& box_;
-    QListWidget* first_;
-    QListWidget* second_;
+    choice_list* first_;
+    choice_list* second_;
     QDateEdit* harvest_;
 };
 

@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -14,6 +13,7 @@
 #include "land/land_messages.h"
 #include "land/land_report.h"
 #include "land/stock_nitrogen.h"
+#include "ui/choice_list.h"
 #include "ui/entry_box.h"
 #include "ui/grid_view.h"
 #include "ui/print_page.h"
@@ -58,7 +58,8 @@ QWidget* frmLand_new::tab_page(const QString& instruction, grid_view* grid, cons
     layout->addWidget(told);
     layout->addWidget(grid, 1);
     auto* row = new QHBoxLayout;
-    add_command(row, tr("&Calculate"), QString("cmdLand_continue") + suffix, [this] { calculate(); });
+    auto* first =
+        add_command(row, tr("&Calculate"), QString("cmdLand_continue") + suffix, [this] { calculate(); });
     add_command(row, tr("&Save"), QString("cmdLand_save") + suffix, [this] { save(); });
     add_command(row, tr("&Open Assessments"), QString("cmdLand_open") + suffix, [this] {
         state_.picker_caller = picker_module::land;
@@ -68,6 +69,7 @@ QWidget* frmLand_new::tab_page(const QString& instruction, grid_view* grid, cons
     row->addStretch();
     add_command(row, tr("Close &Module"), QString("cmdLand_cancel") + suffix, [this] { close(); });
     layout->addLayout(row);
+    setTabOrder(grid, first);
     return page;
 }
 

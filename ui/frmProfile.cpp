@@ -8,11 +8,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
+#include "ui/choice_list.h"
 #include "ui/entry_box.h"
 #include "ui/grid_view.h"
 #include "ui/qt_text.h"

@@ -2,7 +2,6 @@
 
 #include <QCalendarWidget>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -11,6 +10,7 @@
 #include <algorithm>
 
 #include "manure/manure_messages.h"
+#include "ui/choice_list.h"
 #include "ui/entry_box.h"
 #include "ui/grid_view.h"
 #include "ui/qt_text.h"

@@ -108,8 +108,7 @@ void frmStorage::reload() {
 
 // The page of the report refers to the picture, so it is drawn first.
 void frmStorage::report() {
-    if (module_.plan().balance())
-        plan_->save_chart(desk_.state.places.written_folder + "/" + std::string(storage_chart_file));
+    if (module_.plan().balance()) plan_->save_chart(desk_.state.places.report(storage_chart_file));
     module_.storage_report(desk_);
 }
 

@@ -100,11 +100,14 @@ void grid_view::keyPressEvent(QKeyEvent* event) {
     if (locked_) return;
     const bool chooses =
         event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
-    if (event->matches(QKeySequence::Copy)) {
+    const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (tab && (event->modifiers() & Qt::ControlModifier)) {
+        event->ignore();  // switches the pages around the grid
+    } else if (event->matches(QKeySequence::Copy)) {
         copy_selection();
     } else if (chooses && currentIndex().isValid()) {
         emit cell_chosen(current_row(), current_column());
-    } else if ((event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) && leaves_by_tab(event)) {
+    } else if (tab && leaves_by_tab(event)) {
         event->ignore();  // the window then moves the focus on
     } else {
         QTableView::keyPressEvent(event);

@@ -67,7 +67,7 @@ bool month_table::fits(const QModelIndex& index, const QString& text) const {
 QString month_table::fitting_figure(const QModelIndex& index) const {
     const double figure = leading_number(from_qt(index.data().toString()));
     for (const int decimals : {2, 1})
-        if (const QString text = QString::number(figure, 'f', decimals); fits(index, text)) return text;
+        if (QString text = QString::number(figure, 'f', decimals); fits(index, text)) return text;
     return QString::number(figure, 'f', 0);
 }
 

@@ -59,7 +59,7 @@ constexpr std::array<window_size, 8> first_sizes{{{"front", 900, 620},
                                                   {"profile", 1000, 700},
                                                   {"location", 1000, 760},
                                                   {"land", 1220, 720},
-                                                  {"storage", 1260, 740},
+                                                  {"storage", 1260, 760},
                                                   {"reduction", 1250, 720},
                                                   {"inorg", 1220, 720},
                                                   {"viewer", 1040, 740}}};
@@ -102,10 +102,20 @@ module_screen* program::make_module(std::string_view tag) {
 }
 
 // A module that was loaded hidden shows what it loaded then, but never one file's rows over another file.
-void program::load_if_other_file(module_screen& module) {
-    if (module.loaded_file() == state_.assess_file) return;
-    if (!module.loaded_file().empty()) module.reload_all();
+void program::load_if_other_file(module_screen& module, std::string_view tag) {
+    if (!module.loaded_file().empty() && module.loaded_file() != state_.assess_file) load_anew(module, tag);
     module.set_loaded_file(state_.assess_file);
+}
+
+// A module that cannot load the assessment now open must not stay with the rows of the one before.
+void program::load_anew(module_screen& module, std::string_view tag) {
+    try {
+        module.reload_all();
+        module.set_loaded_file(state_.assess_file);
+    } catch (...) {
+        leave(tag, front_tag);
+        throw;
+    }
 }
 
 QWidget* program::make(std::string_view tag) {
@@ -151,7 +161,10 @@ QWidget* program::make(std::string_view tag) {
     if (tag == "years") {
         auto* years = new Year_Picker(years_);
         leaving_to(years, &Year_Picker::closed, "years", {});
-        connect(years, &Year_Picker::changed, this, [this] { refresh_front(); });
+        connect(years, &Year_Picker::changed, this, [this] {
+            load_modules_in_view();
+            refresh_front();
+        });
         return years;
     }
     if (tag == "splash") {
@@ -195,6 +208,16 @@ void program::leave(std::string_view tag, std::string_view back_tag) {
     found->second.release()->deleteLater();
     screens_.erase(found);
     refresh_front();
+    if (tag == "years") load_modules_in_view();
+}
+
+// The years dialog may have opened another assessment under a module, also by a Browse that was then
+// cancelled.
+void program::load_modules_in_view() {
+    for (const picker_tag& entry : picker_tags) {
+        auto* module = static_cast<module_screen*>(screen(entry.tag));
+        if (module && module->isVisible()) load_if_other_file(*module, entry.tag);
+    }
 }
 
 void program::open(std::string_view tag) {
@@ -202,7 +225,7 @@ void program::open(std::string_view tag) {
     {
         const waiting busy;
         made(tag);
-        if (auto* module = qobject_cast<module_screen*>(screen(tag))) load_if_other_file(*module);
+        if (auto* module = qobject_cast<module_screen*>(screen(tag))) load_if_other_file(*module, tag);
     }
     if (tag == "years" && !(there && screen(tag)->isVisible()))
         static_cast<Year_Picker*>(screen(tag))->open();
@@ -249,10 +272,7 @@ void program::reload(picker_module caller) {
     const auto entry = std::find_if(picker_tags.begin(), picker_tags.end(),
                                     [&](const picker_tag& p) { return p.caller == caller; });
     if (entry == picker_tags.end()) return;
-    if (auto* module = static_cast<module_screen*>(screen(entry->tag))) {
-        module->reload_all();
-        module->set_loaded_file(state_.assess_file);
-    }
+    if (auto* module = static_cast<module_screen*>(screen(entry->tag))) load_anew(*module, entry->tag);
 }
 
 void program::refresh_front() {

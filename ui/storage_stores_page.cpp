@@ -3,11 +3,11 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "ui/choice_list.h"
 #include "ui/entry_box.h"
 #include "ui/frmStorage.h"
 #include "ui/grid_view.h"
@@ -39,7 +39,7 @@ QWidget* storage_stores_page::form(frmStorage& screen) {
     auto* layout = new QVBoxLayout(frame);
     lines_ = new QFormLayout;
     name_ = add_box(tr("Store &name:"), "txtStorage3_name", &store_form::name, false);
-    shape_ = new QListWidget(frame);
+    shape_ = new choice_list(frame);
     shape_->setObjectName("lstStorage3_shape");
     for (const std::string_view shape : store_shapes())
         shape_->addItem(qt(shape));
@@ -92,17 +92,15 @@ QWidget* storage_stores_page::table(frmStorage& screen) {
     return panel;
 }
 
-// The selection counts, not the current item: focus alone makes the first item current.
-QString storage_stores_page::shape() const {
-    const auto chosen = shape_->selectedItems();
-    return chosen.isEmpty() ? QString() : chosen.front()->text();
+std::string storage_stores_page::shape() const {
+    return shape_->chosen().value_or("");
 }
 
 store_form storage_stores_page::entered() const {
     store_form store;
     for (const store_box& box : boxes_)
         store.*box.text = from_qt(box.edit->text());
-    store.shape = from_qt(shape());
+    store.shape = shape();
     return store;
 }
 
@@ -122,11 +120,12 @@ void storage_stores_page::show_store(const store_form& store) {
 }
 
 void storage_stores_page::shape_chosen() {
-    show_store(choose_shape(entered(), from_qt(shape())));
+    show_store(choose_shape(entered(), shape()));
 }
 
 void storage_stores_page::add_store() {
-    const bool name_taken = page_.stores().find(store_column::name, from_qt(name_->text())) >= 0;
+    const bool name_taken =
+        !name_->text().isEmpty() && page_.stores().find(store_column::name, from_qt(name_->text())) >= 0;
     if (page_.add_store(entered())) {
         show_store({});
         refresh();

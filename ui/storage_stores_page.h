@@ -8,10 +8,10 @@
 
 class QFormLayout;
 class QLineEdit;
-class QListWidget;
 
 namespace kel {
 
+class choice_list;
 class frmStorage;
 class grid_view;
 
@@ -36,7 +36,7 @@ class storage_stores_page : public QWidget {
     QWidget* table(frmStorage& screen);
     QLineEdit* add_box(const QString& caption, const char* name, std::string store_form::*text,
                        bool number = true);
-    QString shape() const;
+    std::string shape() const;
     /// What stands in the boxes.
     store_form entered() const;
     void show_store(const store_form& store);
@@ -50,7 +50,7 @@ class storage_stores_page : public QWidget {
     QFormLayout* lines_;
     std::vector<store_box> boxes_;
     QLineEdit* name_;
-    QListWidget* shape_;
+    choice_list* shape_;
     QLineEdit* depth_;
     QLineEdit* length_;
     QLineEdit* width_;

@@ -86,6 +86,24 @@ TEST_F(Store, EditChangesOnlyWhatWasSetAndRemoveTakesOneRow) {
     EXPECT_FALSE(db.lookup("Soil", "Field Data", "Field Name", "South"));
 }
 
+TEST_F(Store, EachEditOfAWalkWritesItsOwnColumns) {
+    open_farm({{"North", "4"}, {"South", "5"}, {"East", "6"}});
+    const std::vector<row_values> edits{
+        {{"Size", "7"}, {"Soil", "Sands"}}, {{"Soil", "Peat"}, {"KEL Size", "1"}}, {{"Size", "8"}}};
+    const database db(state.assess_file);
+    recordset rows = db.open("Field Data");
+    for (const row_values& edit : edits) {
+        rows.edit();
+        for (const auto& [column, text] : edit)
+            rows.set_kept(rows.column(column), text);
+        rows.update();
+        rows.move_next();
+    }
+    EXPECT_EQ(column_of(state.assess_file, "Field Data", "Size"), (std::vector<std::string>{"7", "5", "8"}));
+    EXPECT_EQ(db.lookup("Soil", "Field Data", "Field Name", "South"), "Peat");
+    EXPECT_EQ(db.lookup("KEL Size", "Field Data", "Field Name", "South"), "1");
+}
+
 TEST_F(Store, AnUncommittedSaveLeavesEveryAttachedFileAsItWas) {
     open_farm({{"North", "4"}});
     const std::string linked = make_farm("linked.kel", {{"North", "4"}}, 2023);

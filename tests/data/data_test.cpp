@@ -6,6 +6,7 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -31,18 +32,6 @@ std::vector<std::string> texts(const std::string& file, const std::string& sql) 
 
 using table_columns = std::map<std::string, std::map<std::string, std::string>>;  // table, column, type
 
-/// The text between each pair of marks.
-std::vector<std::string> between(const std::string& text, char mark) {
-    std::vector<std::string> parts;
-    for (auto open = text.find(mark); open != std::string::npos;) {
-        const auto close = text.find(mark, open + 1);
-        if (close == std::string::npos) break;
-        parts.push_back(text.substr(open + 1, close - open - 1));
-        open = text.find(mark, close + 1);
-    }
-    return parts;
-}
-
 /// "### [Table]" headings with their rows "| `column`, ... | type | unit | meaning |".
 table_columns documented_columns() {
     table_columns tables;
@@ -52,10 +41,12 @@ table_columns documented_columns() {
         if (line.starts_with("#")) table.clear();
         if (line.starts_with("### [")) table = line.substr(5, line.find(']') - 5);
         if (table.empty() || !line.starts_with("| `")) continue;
-        const auto name_end = line.find("` | ") + 4;
-        const std::string type = line.substr(name_end, line.find(' ', name_end) - name_end);
-        for (const std::string& column : between(line.substr(0, name_end), '`'))
-            tables[table][column] = type == "date" ? "text" : type;
+        const auto names_end = line.find("` | ") + 4;
+        const std::string type = line.substr(names_end, line.find(' ', names_end) - names_end);
+        std::istringstream names(line.substr(0, names_end));
+        std::string part;
+        for (bool is_name = false; std::getline(names, part, '`'); is_name = !is_name)
+            if (is_name) tables[table][part] = type == "date" ? "text" : type;
     }
     return tables;
 }
@@ -75,10 +66,9 @@ TEST(FileFormat, DocumentAndDatabasesHaveTheSameTablesAndColumns) {
     for (const std::string& file : {blank, grass, climate})
         add_columns(built, file);
     const table_columns documented = documented_columns();
-    EXPECT_EQ(documented.size(), 22u);
+    EXPECT_EQ(documented.size(), built.size());
     for (const auto& [table, columns] : documented)
         EXPECT_EQ(columns, built[table]) << table;
-    EXPECT_EQ(documented.size(), built.size());
 }
 
 TEST(BlankAssessment, HoldsOnlyTheRowOfType) {
@@ -86,21 +76,6 @@ TEST(BlankAssessment, HoldsOnlyTheRowOfType) {
         EXPECT_EQ(database(blank).open(table).record_count(), table == "Type" ? 1 : 0) << table;
     EXPECT_EQ(read_assessment_year(blank), std::nullopt);
     EXPECT_TRUE(texts(blank, "SELECT name FROM sqlite_schema WHERE type IN ('view', 'trigger')").empty());
-}
-
-TEST(BlankAssessment, LookupByFieldStoreOrItemUsesAnIndex) {
-    std::map<std::string, std::string> key_of{
-        {"Field Data", "Field Name"}, {"Slurry_store", "Store_name"}, {"Misc", "Item"}};
-    for (const auto& [table, columns] : documented_columns())
-        if (columns.contains("Field Area ID")) key_of[table] = "Field Area ID";
-    EXPECT_EQ(key_of.size(), 10u);
-    SQLite::Database db(blank);
-    for (const auto& [table, key] : key_of) {
-        SQLite::Statement plan(db, "EXPLAIN QUERY PLAN SELECT *, rowid FROM [" + table + "] WHERE [" + key +
-                                       "] = ? ORDER BY rowid");
-        ASSERT_TRUE(plan.executeStep());
-        EXPECT_NE(plan.getColumn(3).getString().find("USING INDEX"), std::string::npos) << table;
-    }
 }
 
 TEST(LocationTables, EverySquareWithANumberHasOnePlaceAndEveryPlaceASquare) {
@@ -120,22 +95,11 @@ TEST(LocationTables, EverySquareWithANumberHasOnePlaceAndEveryPlaceASquare) {
         texts(climate, "SELECT Location FROM Scotland GROUP BY Location HAVING count(*) > 1").empty());
 }
 
-TEST(LocationTables, EveryZoneOfThePlacesHasTownsAndEveryZoneOfTheTownsHasPlaces) {
+TEST(LocationTables, ZonesOfPlacesAndTownsAreTheSameAndNoTownComesTwice) {
     const std::string zones = "SELECT DISTINCT KEL FROM ";
     EXPECT_EQ(texts(climate, zones + "Scotland ORDER BY KEL"),
               texts(climate, zones + "KEL_rain ORDER BY KEL"));
-    EXPECT_EQ(texts(climate, zones + "KEL_rain").size(), 5u);  // four zones and the land outside
     EXPECT_TRUE(texts(climate, "SELECT Town FROM KEL_rain GROUP BY Town HAVING count(*) > 1").empty());
-}
-
-TEST(GrassTables, EveryAnswerOfTheSiteTableFindsItsFigures) {
-    const database db(grass);
-    for (const std::string site_class : {"1", "2", "3", "4", "5"})
-        EXPECT_EQ(db.open("Grass_Recs", "Site Class", site_class).record_count(), 2) << site_class;
-    // Low clover: 0 to 2 cuts with 0 to 5 applications, 3 cuts with none, for silage and hay, and grazing
-    // without cuts.
-    EXPECT_EQ(db.open("Grass_adjust", "Clover", "Low").record_count(), 2 * (3 * 6 + 1) + 6);
-    EXPECT_EQ(db.open("Grass_adjust", "Clover", "High").record_count(), 3 + 2);
 }
 
 }  // namespace

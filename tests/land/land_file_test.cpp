@@ -14,28 +14,15 @@ class LandFile : public land_test {
         values.emplace_back("Field Area ID", name);
         add_row(state.assess_file, "Land", values);
     }
-    void add_stock(const std::string& type, const std::string& number, const std::string& unit_n) {
-        add_row(state.assess_file, "Land_animals",
-                {{"Stock Unit", type},
-                 {"Number Of Stock Units", number},
-                 {"Total N Excreted By One Stock Unit (kg/year)", unit_n},
-                 {"Total N Excreted By All These Animals (kg/year)", "1"}});
-    }
-    void drop_stock_table() {
-        SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE).exec("DROP TABLE [Land_animals]");
-    }
 };
 
 TEST_F(LandFile, FieldsOfTheProfileFillAnEmptyTable) {
     open({{"Long Rig", "15", "Sandy loams"}, {"East Muir", "8", "Humose soils"}});
     EXPECT_EQ(module.field_names(), (texts{"Long Rig", "East Muir"}));
     ASSERT_EQ(module.land().row_count(), 3);
-    EXPECT_EQ(land(1, land_col::field), "East Muir");
-    EXPECT_EQ(land(1, land_col::soil), "Humose soils");
+    EXPECT_EQ(land_cells(1, 0, 8), (texts{"East Muir", "", "", "", "", "", "", "", "Humose soils"}));
     EXPECT_EQ(land(1, land_col::total_area), "8");
-    EXPECT_EQ(land_cells(1, 1, 6), texts(6));
     EXPECT_EQ(land(2, land_col::field), "");
-    EXPECT_EQ(module.animals().row_count(), 1);
 }
 
 TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
@@ -47,7 +34,6 @@ TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
         .expect(module_messages::field_does_not_exist("Sold Field"));
     module.load_land_stuff();
     ASSERT_EQ(module.land().row_count(), 2);
-    EXPECT_EQ(land(0, land_col::field), "Long Rig");
     EXPECT_EQ(land(0, land_col::total_area), "14");  // the table's, not the profile's
     EXPECT_EQ(land(0, land_col::field_limit), "1550");
     EXPECT_EQ(stored("Land", "Field Area ID").size(), 3U);
@@ -64,29 +50,21 @@ TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
 
 TEST_F(LandFile, ConstantsOfTheProgramReplaceThoseOfTheFile) {
     open_farm({});
-    add_stock("1 llama", "2", "40");
-    add_stock("1 sheep", "10", "8");
-    add_stock("1 llama", "2", "40");
-    add_stock("1 dairy cow (650 kg)", "", "");
+    const texts lines[][2] = {
+        // type, number, N of one unit; type, number and nitrogen as they are shown
+        {{"1 llama", "2", "40"}, {"1 llama", "2", "", "0"}},  // nothing was recalculated before
+        {{"1 sheep", "10", "8"}, {"1 sheep", "10", "9", "90"}},
+        {{"1 llama", "2", "40"}, {"1 llama", "2", "9", "18"}},  // keeps the constant of the line before
+        {{"1 dairy cow (650 kg)", "", ""}, {"1 dairy cow (650 kg)", "", "116", "0"}},
+    };
+    for (const auto& [in, shown] : lines)
+        add_row(state.assess_file, "Land_animals",
+                {{"Stock Unit", in[0]},
+                 {"Number Of Stock Units", in[1]},
+                 {"Total N Excreted By One Stock Unit (kg/year)", in[2]}});
     module.load_land_stuff();
-    EXPECT_EQ(stock_line(0), (texts{"1 llama", "2", "", "0"}));  // nothing was recalculated before
-    EXPECT_EQ(stock_line(1), (texts{"1 sheep", "10", "9", "90"}));
-    EXPECT_EQ(stock_line(2), (texts{"1 llama", "2", "9", "18"}));  // keeps the constant of the line before
-    EXPECT_EQ(stock_line(3), (texts{"1 dairy cow (650 kg)", "", "116", "0"}));
-    EXPECT_EQ(module.animals().row_count(), 5);
-}
-
-TEST_F(LandFile, AFileThatCannotBeReadLeavesWhatWasThere) {
-    open({{"Long Rig", "15"}});
-    module.enter_area(0, land_col::grass, "10");
-    enter_sheep(0, "7");
-    const text_grid land_before = module.land();
-    const text_grid stock_before = module.animals();
-    drop_stock_table();
-    EXPECT_THROW(module.load_land_stuff(), file_error);
-    EXPECT_EQ(module.land(), land_before);
-    EXPECT_EQ(module.animals(), stock_before);
-    EXPECT_EQ(module.field_names(), texts{"Long Rig"});
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(stock_line(row), lines[row][1]) << row;
 }
 
 TEST_F(LandFile, SaveWritesBothTablesAndLeavesEmptyCellsUnset) {
@@ -127,16 +105,20 @@ TEST_F(LandFile, CropAndMonthsOfTheStoragePlanSurviveASave) {
         EXPECT_EQ(stored("Land", column), (texts{text, ""})) << column;
 }
 
-TEST_F(LandFile, ASaveThatFailsInItsSecondTableKeepsTheFirst) {
+TEST_F(LandFile, AFileThatFailsInItsSecondTableLosesNothing) {
     open_farm({{"Long Rig", "15"}});
     add_land("Long Rig", {{"Area In Grass (ha)", "4"}, {"Total Area", "15"}});
     module.load_land_stuff();
     module.enter_area(0, land_col::grass, "10");
-    drop_stock_table();
+    enter_sheep(0, "7");
+    const text_grid land_before = module.land(), stock_before = module.animals();
+    SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE).exec("DROP TABLE [Land_animals]");
     EXPECT_THROW(module.save(), file_error);
     EXPECT_EQ(stored("Land", "Area In Grass (ha)"), texts{"4"});
-    EXPECT_EQ(land(0, land_col::grass), "10");
-    EXPECT_EQ(land(0, land_col::buffer), "");
+    EXPECT_THROW(module.load_land_stuff(), file_error);
+    EXPECT_EQ(module.land(), land_before);
+    EXPECT_EQ(module.animals(), stock_before);
+    EXPECT_EQ(module.field_names(), texts{"Long Rig"});
 }
 
 TEST_F(LandFile, SaveWithoutAnOpenFileAsksForOne) {
@@ -144,7 +126,6 @@ TEST_F(LandFile, SaveWithoutAnOpenFileAsksForOne) {
     enter_sheep(0, "10");
     person.expect_file("Save the assessment", "");
     EXPECT_FALSE(module.save());
-    EXPECT_EQ(person.last_folder(), state.places.user_files());
 
     state.prev1_file = make_farm("last_year.kel", {}, 2023);
     person.expect_file("Save the assessment", state.prev1_file)
@@ -152,7 +133,6 @@ TEST_F(LandFile, SaveWithoutAnOpenFileAsksForOne) {
     EXPECT_FALSE(module.save());
     EXPECT_EQ(state.assess_file, "");
     EXPECT_EQ(column_of(state.prev1_file, "FarmProfile", "Name"), texts{"Test Farm"});
-    EXPECT_EQ(state.last_dir, folder_of(state.prev1_file));
 
     person.expect_file("Save the assessment", path("fresh.kel"));
     EXPECT_TRUE(module.save());

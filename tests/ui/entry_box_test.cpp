@@ -70,6 +70,10 @@ TEST_F(EntryBox, EnterConfirmsOnlyWhatTheModuleAccepts) {
     person.expect(land_messages::no_field_id);
     press_key(Qt::Key_Return);
     EXPECT_EQ(focus_name(), "lstLand_fieldID");
+    press_key(Qt::Key_Down);
+    person.expect(land_messages::field_in_grid);
+    EXPECT_EQ(drive::control<QListWidget>(screen("land"), "lstLand_fieldID")->currentRow(), 0);
+    press_key(Qt::Key_Return);
     press_key(Qt::Key_Escape);
 }
 

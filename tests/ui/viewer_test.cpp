@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 
 #include "land/land_messages.h"
+#include "shell/years_messages.h"
 #include "tests/ui/screen_fixture.h"
 #include "ui/page_view.h"
 
@@ -87,6 +88,19 @@ TEST_F(Viewer, ViewReportsLeavesAHiddenStep1WithWhatItLoadedThen) {
     ASSERT_TRUE(in_view("front"));
     press("front", "cmdFront_land");
     EXPECT_EQ(cell(grid("land", "MSFlexGridLand"), 0, 1), "9");
+}
+
+TEST_F(Viewer, AHiddenStep1NeverShowsOneFarmsLandOverAnotherFarm) {
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_reports");
+    close_viewer();
+    person.expect_file("Open an existing assessment", make_farm("other.kel", {{"East Muir", "8"}}))
+        .expect(years_messages::nothing_linked, answer::yes);
+    press("front", "cmdFront_open");
+    press("years", "cmdYear_browse1");
+    press("years", "cmdYear_ok");
+    press("front", "cmdFront_land");
+    EXPECT_EQ(cell(grid("land", "MSFlexGridLand"), 0, 0), "East Muir");
 }
 
 }  // namespace kel::test

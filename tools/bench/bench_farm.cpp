@@ -187,6 +187,7 @@ table_rows rows_of(const std::string& file, const std::string& table) {
     table_rows rows;
     while (select.executeStep()) {
         auto& row = rows.emplace_back();
+        row.reserve(static_cast<std::size_t>(select.getColumnCount()));
         for (int c = 0; c < select.getColumnCount(); ++c)
             row.push_back(select.getColumn(c).getString());
     }

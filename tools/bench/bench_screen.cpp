@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "tools/screen_driver.h"
+#include "ui/today.h"
 
 namespace kel::bench {
 
@@ -27,6 +28,10 @@ void paint_watch::wait_until_painted() {
 bool paint_watch::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Paint) ++paintings_;
     return QObject::eventFilter(watched, event);
+}
+
+report_desk bench_desktop::desk(application_state& state) {
+    return {state, viewer_, today, {}};
 }
 
 }  // namespace kel::bench

@@ -1,7 +1,6 @@
 // Step 1's land table with 2,000 rows on its real screen: opened, scrolled and edited as a person does, each
 // up to the painted screen. What answers a key has one frame of the screen, 16 ms.
 #include <QScrollBar>
-#include <array>
 #include <memory>
 #include <stdexcept>
 
@@ -11,8 +10,6 @@
 #include "tools/screen_driver.h"
 #include "ui/frmLand_new.h"
 #include "ui/grid_view.h"
-#include "ui/kel_application.h"
-#include "ui/today.h"
 
 namespace kel::bench {
 
@@ -25,22 +22,13 @@ constexpr int edits = 41;
 constexpr int grass_column = 1;
 constexpr double frame_ms = 16;
 
-class no_viewer : public report_viewer {
-  public:
-    void wait_cursor(bool) override {}
-    void hide_screen(std::string_view) override {}
-    void show(const viewer_request&) override {}
-};
-
 class land_table {
   public:
-    land_table() : farm_(fields) { application_.set_prompts(&person_); }
-
     /// Step 1 opened anew, up to its first painting.
     double open_ms() {
         screen_.reset();
         return cpu_ms_of([this] {
-            screen_ = std::make_unique<frmLand_new>(farm_.state, person_, desk_);
+            screen_ = std::make_unique<frmLand_new>(farm_.state, desktop_.person, desk_);
             screen_->resize(1220, 720);
             screen_->show();
             grid_ = drive::control<grid_view>(screen_.get(), "MSFlexGridLand");
@@ -49,17 +37,19 @@ class land_table {
     }
 
     double key_ms(Qt::Key key) {
-        return painted_ms([&] { drive::key(grid_, key); });
+        return painted_ms({grid_->viewport()}, [&] { drive::key(grid_, key); });
     }
     double page_by_bar_ms() {
-        return painted_ms([&] { grid_->verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd); });
+        return painted_ms({grid_->viewport()},
+                          [&] { grid_->verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd); });
     }
 
     /// The area in grass of a row in view, entered through its box.
     double edit_ms(int row) {
         const QString area = QString::number(1 + 0.25 * (row % 4));
-        const double spent = painted_ms(
-            [&] { drive::enter_number(screen_.get(), grid_, row, grass_column, "Land_area", area); });
+        const double spent = painted_ms({grid_->viewport()}, [&] {
+            drive::enter_number(screen_.get(), grid_, row, grass_column, "Land_area", area);
+        });
         if (grid_->model()->index(row, grass_column).data().toString() != area)
             throw std::runtime_error("the area was not entered");
         return spent;
@@ -71,23 +61,9 @@ class land_table {
     }
 
   private:
-    template <class F>
-    double painted_ms(F&& action) {
-        paint_watch watch(grid_->viewport());
-        return cpu_ms_of([&] {
-            action();
-            watch.wait_until_painted();
-        });
-    }
-
-    int argc_ = 1;
-    std::string name_ = "kel_bench";
-    std::array<char*, 2> argv_{name_.data(), nullptr};
-    kel_application application_{argc_, argv_.data()};
-    bench_farm farm_;
-    silent_person person_;
-    no_viewer viewer_;
-    report_desk desk_{farm_.state, viewer_, today, {}};
+    bench_desktop desktop_;
+    bench_farm farm_{fields};
+    report_desk desk_{desktop_.desk(farm_.state)};
     std::unique_ptr<frmLand_new> screen_;
     grid_view* grid_ = nullptr;
 };

@@ -1,0 +1,30 @@
+// A list in which nothing is chosen until the person chooses. The toolkit makes the first entry current as
+// soon as the list has the focus, and Down would then pass it by.
+#pragma once
+
+#include <QListWidget>
+#include <optional>
+#include <string>
+
+#include "ui/qt_text.h"
+
+namespace kel {
+
+class choice_list : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+    /// The selected entry, which is not always the current one; nothing if none is.
+    std::optional<std::string> chosen() const {
+        const auto items = selectedItems();
+        return items.isEmpty() ? std::nullopt : std::optional(from_qt(items.front()->text()));
+    }
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QListWidget::focusInEvent(event);
+        if (selectedItems().isEmpty()) setCurrentItem(nullptr);
+    }
+};
+
+}  // namespace kel
