@@ -28,8 +28,14 @@ struct command {
     const char* entry;
     const char* needs;
     const char* tip;
-    void (front::*action)();
+    void (*action)(front&);
 };
+
+// A command of the module as a plain function, for the table.
+template <void (front::*Operation)()>
+void run(front& module) {
+    (module.*Operation)();
+}
 
 constexpr const char* open_tip = "Open assessments and/or select a year";
 constexpr const char* reports_tip =
@@ -39,25 +45,25 @@ constexpr const char* reports_tip =
 // clang-format off
 constexpr std::array<command, 19> commands{{
     // name        button caption                                          menu            menu entry                                    needs        tool tip     action
-    {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                nullptr,     nullptr,     &front::new_farm},
-    {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      "years",     open_tip,    &front::open_assessments},
-    {"edit",       "&Edit Farm Profile",                                   "&File",        "&Edit/View Farm Profile",                    nullptr,     nullptr,     &front::edit_profile},
-    {"save_as",    nullptr,                                                "&File",        "&Save Farm Assessment As...",                nullptr,     nullptr,     &front::save_as},
-    {"exit",       "E&xit",                                                "&File",        "E&xit",                                      nullptr,     nullptr,     &front::exit},
-    {"land",       "Step &1. Land available for spreading?",               "&Assessments", "&Land available for spreading?",             "land",      nullptr,     &front::step1},
-    {"storage",    "Step &2. Enough slurry storage && closed periods?",    "&Assessments", "Enough &slurry storage && closed periods?",  "storage",   nullptr,     &front::step2},
-    {"manure",     "Step &3. Slurry && manure applications?",              "&Assessments", "Slurry && &manure applications?",            "reduction", nullptr,     &front::step3},
-    {"inorganic",  "Step &4. Inorganic N applications",                    "&Assessments", "&Inorganic N applications",                  "inorg",     nullptr,     &front::step4},
-    {"crops",      "Nitrogen Requirement of &Crops",                       "&Assessments", "&Crops: assessment of N requirement",        "crop",      nullptr,     &front::crops},
-    {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    "grass",     nullptr,     &front::grassland},
-    {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", "straw",     nullptr,     &front::composting},
-    {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              "record",    nullptr,     &front::field_record},
-    {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   nullptr,     nullptr,     &front::show_me},
-    {"guidelines", nullptr,                                                "&Help",        "KEL &guidelines",                            nullptr,     nullptr,     &front::guidelines},
-    {"update",     nullptr,                                                "&Help",        "Update facility",                            nullptr,     nullptr,     &front::update},
-    {"about",      nullptr,                                                "&Help",        "About this software",                        nullptr,     nullptr,     &front::about},
-    {"whats_this", "&What's this?",                                        nullptr,        nullptr,                                      nullptr,     nullptr,     &front::whats_this},
-    {"reports",    "View Re&ports",                                        nullptr,        nullptr,                                      nullptr,     reports_tip, &front::view_reports},
+    {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                nullptr,     nullptr,     run<&front::new_farm>},
+    {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      "years",     open_tip,    run<&front::open_assessments>},
+    {"edit",       "&Edit Farm Profile",                                   "&File",        "&Edit/View Farm Profile",                    nullptr,     nullptr,     run<&front::edit_profile>},
+    {"save_as",    nullptr,                                                "&File",        "&Save Farm Assessment As...",                nullptr,     nullptr,     run<&front::save_as>},
+    {"exit",       "E&xit",                                                "&File",        "E&xit",                                      nullptr,     nullptr,     run<&front::exit>},
+    {"land",       "Step &1. Land available for spreading?",               "&Assessments", "&Land available for spreading?",             "land",      nullptr,     run<&front::step1>},
+    {"storage",    "Step &2. Enough slurry storage && closed periods?",    "&Assessments", "Enough &slurry storage && closed periods?",  "storage",   nullptr,     run<&front::step2>},
+    {"manure",     "Step &3. Slurry && manure applications?",              "&Assessments", "Slurry && &manure applications?",            "reduction", nullptr,     run<&front::step3>},
+    {"inorganic",  "Step &4. Inorganic N applications",                    "&Assessments", "&Inorganic N applications",                  "inorg",     nullptr,     run<&front::step4>},
+    {"crops",      "Nitrogen Requirement of &Crops",                       "&Assessments", "&Crops: assessment of N requirement",        "crop",      nullptr,     run<&front::crops>},
+    {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    "grass",     nullptr,     run<&front::grassland>},
+    {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", "straw",     nullptr,     run<&front::composting>},
+    {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              "record",    nullptr,     run<&front::field_record>},
+    {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   nullptr,     nullptr,     run<&front::show_me>},
+    {"guidelines", nullptr,                                                "&Help",        "KEL &guidelines",                            nullptr,     nullptr,     run<&front::guidelines>},
+    {"update",     nullptr,                                                "&Help",        "Update facility",                            nullptr,     nullptr,     run<&front::update>},
+    {"about",      nullptr,                                                "&Help",        "About this software",                        nullptr,     nullptr,     run<&front::about>},
+    {"whats_this", "&What's this?",                                        nullptr,        nullptr,                                      nullptr,     nullptr,     run<&front::whats_this>},
+    {"reports",    "View Re&ports",                                        nullptr,        nullptr,                                      nullptr,     reports_tip, run<&front::view_reports>},
 }};
 // clang-format on
 
@@ -129,7 +135,7 @@ QPushButton* frmKEL_front::button(const char* name) {
     made->setEnabled(built);
     made->setToolTip(built ? tr(c.tip ? c.tip : "") : tr("Not part of this version"));
     connect(made, &QPushButton::clicked, this, [this, action = c.action] {
-        (module_.*action)();
+        action(module_);
         refresh();
     });
     return made;
@@ -166,7 +172,7 @@ void frmKEL_front::add_menus() {
         action->setObjectName(QString("mnuFront_") + c.name);
         action->setEnabled(!c.needs || built_.exists(c.needs));
         connect(action, &QAction::triggered, this, [this, act = c.action] {
-            (module_.*act)();
+            act(module_);
             refresh();
         });
     }

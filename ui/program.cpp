@@ -118,6 +118,23 @@ void program::load_anew(module_screen& module, std::string_view tag) {
     }
 }
 
+QWidget* program::make_profile() {
+    auto* profile = new frmProfile(profile_, desk_, state_);
+    connect(profile, &frmProfile::left, this, [this, profile] {
+        show_screen(front_tag);
+        profile->hide();
+        // Cancel reads the store back only after this.
+        QMetaObject::invokeMethod(
+            this, [this] { refresh_front(); }, Qt::QueuedConnection);
+    });
+    connect(profile, &frmProfile::years_wanted, this, [this] { open("years"); });
+    connect(profile, &frmProfile::location_wanted, this, [this, profile] {
+        open(location_tag);
+        profile->hide();
+    });
+    return profile;
+}
+
 QWidget* program::make(std::string_view tag) {
     const auto leaving_to = [this](auto* screen, auto left, std::string_view from, std::string_view to) {
         // Queued: the screen that says it is left must not be deleted under its own feet.
@@ -129,22 +146,7 @@ QWidget* program::make(std::string_view tag) {
         connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
         return front;
     }
-    if (tag == "profile") {
-        auto* profile = new frmProfile(profile_, desk_, state_);
-        connect(profile, &frmProfile::left, this, [this, profile] {
-            show_screen(front_tag);
-            profile->hide();
-            // Cancel reads the store back only after this.
-            QMetaObject::invokeMethod(
-                this, [this] { refresh_front(); }, Qt::QueuedConnection);
-        });
-        connect(profile, &frmProfile::years_wanted, this, [this] { open("years"); });
-        connect(profile, &frmProfile::location_wanted, this, [this, profile] {
-            open(location_tag);
-            profile->hide();
-        });
-        return profile;
-    }
+    if (tag == "profile") return make_profile();
     if (tag == location_tag) {
         auto* map = new Scotland(state_, person_, profile_);
         leaving_to(map, &Scotland::closed, location_tag, "profile");

@@ -54,6 +54,7 @@ class program : public QObject, public screens, public report_viewer {
     void load_if_other_file(module_screen& module, std::string_view tag);
     void load_modules_in_view();
     void load_anew(module_screen& module, std::string_view tag);
+    QWidget* make_profile();
     QWidget* make(std::string_view tag);
     QWidget* made(std::string_view tag);
     /// Shows another screen and does away with this one; its size is kept for the next time.
