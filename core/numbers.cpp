@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace kel {
 
@@ -78,6 +79,18 @@ std::string rounded_text(std::string text, int places, ties rule) {
 }
 
 template <class T>
+std::string cut_to_digits(T value, int significant_digits) {
+    if (!std::isfinite(value)) return "0";
+    char buffer[64];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific,
+                                   significant_digits - 1)
+                         .ptr;
+    T cut{};
+    std::from_chars(buffer, end, cut);
+    return shortest(cut);
+}
+
+template <class T>
 T read_number(std::string_view text) {
     T value{};
     std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
@@ -111,16 +124,11 @@ std::string shortest_text(double value) {
     return shortest(value);
 }
 
+std::string plain_text(float value) {
+    return cut_to_digits(value, std::numeric_limits<float>::digits10 + 1);
+}
 std::string plain_text(double value) {
-    if (!std::isfinite(value)) return "0";
-    constexpr int significant_digits = 15;
-    char buffer[64];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific,
-                                   significant_digits - 1)
-                         .ptr;
-    double cut = 0;
-    std::from_chars(buffer, end, cut);
-    return shortest(cut);
+    return cut_to_digits(value, std::numeric_limits<double>::digits10);
 }
 
 float round_half_even(float value, int places) {

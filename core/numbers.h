@@ -22,8 +22,9 @@ float leading_single(std::string_view text);
 std::string shortest_text(float value);
 std::string shortest_text(double value);
 
-/// Text of a product worked out in double precision: 15 significant digits at most, which is where the noise
-/// of binary fractions begins, and no exponent.
+/// Text for a person, without exponent: at most the significant digits that the type holds, 7 of a single and
+/// 15 of a double, behind which the noise of binary fractions begins.
+std::string plain_text(float value);
 std::string plain_text(double value);
 
 /// Rounded to `places` decimals, ties to the even digit.

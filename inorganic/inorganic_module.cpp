@@ -2,19 +2,15 @@
 
 #include <utility>
 
-#include "core/numbers.h"
 #include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "core/numbers.h"
 #include "inorganic/application_rules.h"
 #include "inorganic/inorganic_messages.h"
 #include "inorganic/inorganic_report.h"
 #include "storage/closed_period_lookups.h"
 
 namespace kel {
-
-namespace {
-
-}  // namespace
 
 inorganic_module::inorganic_module(application_state& state, prompts& person)
     : state_(state), person_(person), applications_(inorganic_table::set_grid()) {

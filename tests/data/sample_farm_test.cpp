@@ -19,7 +19,6 @@
 #include "manure/manure_module.h"
 #include "profile/profile_module.h"
 #include "storage/closed_periods.h"
-#include "storage/slurry_production.h"
 #include "storage/storage_module.h"
 #include "tests/support/farm_files.h"
 
@@ -137,15 +136,6 @@ TEST_F(SampleFarm, MonthsAreClosedAsSoilAndSecondCropAsk) {
                 EXPECT_EQ(land.text(name) == closed_month, expected) << land.text("Field Area ID") << name;
                 EXPECT_EQ(land.text("Applic_" + name) == closed_month, expected);
             }
-        }
-}
-
-TEST_F(SampleFarm, SlurryVolumesAreAsStep2CalculatesThem) {
-    for (const sample_year& year : sample_years())
-        for (recordset line = database(year.path).open("Slurry_animals"); !line.eof(); line.move_next()) {
-            EXPECT_EQ(line.text("Volume"), slurry_volume(line.text("Stock Unit")));
-            EXPECT_EQ(line.text("Total Volume"),
-                      line_volume(line.text("Volume"), line.text("Percent"), line.text("Number")));
         }
 }
 

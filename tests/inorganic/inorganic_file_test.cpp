@@ -2,7 +2,6 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include "core/dates.h"
-#include "core/module_messages.h"
 #include "tests/inorganic/inorganic_fixture.h"
 
 namespace kel::test {
@@ -38,6 +37,7 @@ TEST_F(InorganicFile, EveryRowLoadsAsItStands) {
     EXPECT_EQ(row(1), (texts{"", "in spring", "", "100", "", "", ""}));
     EXPECT_EQ(row(2), texts(7));
     EXPECT_EQ(module.application_of(1).day, std::nullopt);
+    EXPECT_EQ(module.calendar_year(), 2005);
     EXPECT_EQ(state.limits, year_limits_of(make_date(19, 12, 2004)));
     ASSERT_TRUE(module.save());
     EXPECT_EQ(stored("Date"), (texts{"2005-03-07", "in spring"}));
@@ -76,17 +76,6 @@ TEST_F(InorganicFile, AFileThatFailsLosesNothing) {
     EXPECT_THROW(module.inorganic_load_stuff(), file_error);
     EXPECT_EQ(row(0).front(), "East Muir");
     EXPECT_EQ(module.field_names().size(), 2U);
-}
-
-TEST_F(InorganicFile, WithoutAnAssessmentSaveAsksForOneAndCloseAsks) {
-    module.inorganic_load_stuff();
-    EXPECT_EQ(module.applications().row_count(), 1);
-    person.expect_file("Save the assessment", "");
-    EXPECT_FALSE(module.save());
-    person.expect(module_messages::close_module, answer::no)
-        .expect(module_messages::close_module, answer::yes);
-    EXPECT_FALSE(module.close());
-    EXPECT_TRUE(module.close());
 }
 
 TEST_F(InorganicFile, ReportHasTheRowsWithoutTheEntryRow) {

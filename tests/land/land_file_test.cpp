@@ -52,7 +52,7 @@ TEST_F(LandFile, ConstantsOfTheProgramReplaceThoseOfTheFile) {
     open_farm({});
     const texts lines[][2] = {
         // type, number, N of one unit; type, number and nitrogen as they are shown
-        {{"1 llama", "2", "40"}, {"1 llama", "2", "", "0"}},  // nothing was recalculated before
+        {{"1 Sheep", "2", "40"}, {"1 Sheep", "2", "", "0"}},  // nothing was recalculated before
         {{"1 sheep", "10", "8"}, {"1 sheep", "10", "9", "90"}},
         {{"1 llama", "2", "40"}, {"1 llama", "2", "9", "18"}},  // keeps the constant of the line before
         {{"1 dairy cow (650 kg)", "", ""}, {"1 dairy cow (650 kg)", "", "116", "0"}},

@@ -29,13 +29,11 @@ class Location : public farm_test {
                               static_cast<float>(top_of_row(square.y) + 60));
         location.click();
     }
-    map_square square_of_place(const std::string& name) {
-        const location_lookup lookup(database(state.places.climate_tables()));
+    void click_place(const std::string& name) {
         for (int y = 0; y < grid_rows; ++y)
             for (int x = 0; x < grid_columns; ++x)
-                if (lookup.at({x, y}).location == name) return {x, y};
+                if (click_at({x, y}); location.place().location == name) return;
         ADD_FAILURE() << name << " is not on the map";
-        return {};
     }
 
     scripted_prompts person;
@@ -43,29 +41,25 @@ class Location : public farm_test {
     location_module location{state, person, profile};
 };
 
-TEST_F(Location, SeaAndTheMapsRightEdgeAreNoLocation) {
-    const map_square land = square_of_place("Cupar");
+TEST_F(Location, EnterAsksForZoneThenTownAndTheSeaHasNeither) {
+    person.expect(messages::no_kel);
+    click_place("Lyness");  // land outside all zones has towns, and cannot be entered
+    location.select_town(location.towns().at(0));
+    EXPECT_FALSE(location.enter());
     for (const map_square outside : {map_square{37, 20}, map_square{38, 46}, map_square{0, 0}}) {
-        click_at(land);
-        EXPECT_TRUE(location.marker_visible() && location.custom_pointer());
+        click_place("Cupar");
         EXPECT_EQ(location.towns().front(), "Blairgowrie");  // table order
+        EXPECT_TRUE(location.marker_visible());
         location.select_town("Cupar");
         click_at(outside);
         EXPECT_EQ(location.place().location, "No Location") << outside.x;
-        EXPECT_EQ(location.zone() + location.town(), "");
         EXPECT_TRUE(location.towns().empty());
-        EXPECT_FALSE(location.marker_visible() || location.custom_pointer());
+        EXPECT_FALSE(location.marker_visible());
+        person.expect(messages::no_kel);
+        EXPECT_FALSE(location.enter());
     }
-}
-
-TEST_F(Location, EnterAsksForZoneThenTown) {
-    person.expect(messages::no_kel).expect(messages::no_kel).expect(messages::no_town);
-    location.arrow_move(0, 0);  // pointing looks, and chooses nothing
-    EXPECT_FALSE(location.enter());
-    click_at(square_of_place("Lyness"));  // land outside all zones has towns, and cannot be entered
-    location.select_town(location.towns().at(0));
-    EXPECT_FALSE(location.enter());
-    click_at(square_of_place("Cupar"));
+    person.expect(messages::no_town);
+    click_place("Cupar");
     EXPECT_FALSE(location.enter());
     EXPECT_EQ(state.farm_zone + profile.farm().location, "");
     location.select_town("Cupar");

@@ -1,4 +1,4 @@
-// The commands of the assessments screen: step entries with their prompts, files, help and the end.
+// The assessments screen: start-up, step entries with their prompts, files, help and the end.
 #include <filesystem>
 
 #include "core/file_choice.h"
@@ -21,7 +21,10 @@ class AssessmentsScreen : public shell_test {
         person.verify_done();
         return shown.events;
     }
-    void save_as(const std::string& chosen) { person.expect_file("Save Farm Assessment As...", chosen); }
+    void save_as(const std::string& chosen) {
+        person.expect_file("Save Farm Assessment As...", chosen);
+        front.save_as();
+    }
 
     assessments_module front{state, person, profile, shown, desk};
 };
@@ -47,10 +50,6 @@ TEST_F(AssessmentsScreen, StepsAskInOrderAndNoFallsBackToTheStepBefore) {
         std::string opened;
     } const cases[] = {
         {&front_screen::step1, {}, "land"},
-        {&front_screen::crops, {}, "crop"},
-        {&front_screen::grassland, {}, "grass"},
-        {&front_screen::composting, {}, "straw"},
-        {&front_screen::field_record, {}, "record"},
         {&front_screen::step2, {{land, yes}}, "storage"},
         {&front_screen::step2, {{land, no}}, "land"},
         {&front_screen::step2, {{land, cancel}}, ""},
@@ -71,16 +70,19 @@ TEST_F(AssessmentsScreen, StepsAskInOrderAndNoFallsBackToTheStepBefore) {
         state.manure_caller.clear();
     }
     state.no_related_prompt = 1;
-    EXPECT_EQ(run(&front_screen::step2).at(0), "open storage");
-    EXPECT_EQ(run(&front_screen::step3).at(0), "open reduction");
-    EXPECT_EQ(run(&front_screen::step4).at(0), "open inorg");
+    for (const auto& [unasked, opened] : {std::pair(&front_screen::step2, "open storage"),
+                                          {&front_screen::step3, "open reduction"},
+                                          {&front_screen::step4, "open inorg"},
+                                          {&front_screen::crops, "open crop"},
+                                          {&front_screen::grassland, "open grass"},
+                                          {&front_screen::composting, "open straw"},
+                                          {&front_screen::field_record, "open record"}})
+        EXPECT_EQ(run(unasked).at(0), opened);
 }
 
 TEST_F(AssessmentsScreen, NewFarmEmptiesTheChainButNotTheStore) {
     open_farm({{"Long", "4"}});
     profile.load_profile();
-    EXPECT_EQ(run(&front_screen::edit_profile), (texts{"open profile", "hide front"}));
-    EXPECT_FALSE(profile.year_list_enabled());
     state.prev1_file = state.slot_prev1 = path("y2.kel");
     EXPECT_EQ(run(&front_screen::new_farm), (texts{"open profile", "hide front"}));
     EXPECT_TRUE(profile.year_list_enabled());
@@ -94,52 +96,31 @@ TEST_F(AssessmentsScreen, NewFarmEmptiesTheChainButNotTheStore) {
 TEST_F(AssessmentsScreen, SaveAsGoesOnInTheCopyAndTheSlotKeepsTheOldFile) {
     open_farm({{"Long", "4"}});
     const std::string old_file = state.assess_file;
-    save_as("");
-    front.save_as();
-    EXPECT_EQ(settings(), "");
-    save_as(path("User_files/copy"));
-    front.save_as();
-    EXPECT_EQ(person.last_folder(), state.places.user_files());
-    EXPECT_EQ(state.assess_file, path("User_files/copy.kel"));
+    for (const std::string& chosen : {std::string(), path("User_files/copy"), path("User_files/copy.kel")}) {
+        save_as(chosen);
+        EXPECT_EQ(settings(), chosen.empty() ? "" : "0\n0\n1\n" + old_file + "\nnone\nnone\n");
+        EXPECT_EQ(state.assess_file, chosen.empty() ? old_file : path("User_files/copy.kel"));
+        EXPECT_EQ(column_of(state.assess_file, "Field Data", "Field Name"), texts{"Long"});
+    }
     EXPECT_EQ(state.last_dir, path("User_files"));
-    EXPECT_EQ(column_of(state.assess_file, "Field Data", "Field Name"), texts{"Long"});
-    EXPECT_EQ(settings(), "0\n0\n1\n" + old_file + "\nnone\nnone\n");
-    save_as(state.assess_file);
-    front.save_as();
-    EXPECT_EQ(column_of(state.assess_file, "Field Data", "Field Name"), texts{"Long"});
 }
 
 TEST_F(AssessmentsScreen, SaveAsThatFailsOrWouldReplaceAFileUnaskedKeepsTheOpenFile) {
     open_farm({});
     write_file(path("other.kel"), "precious");
-    save_as(path("other"));
-    person.expect(replace_file(text::save_as_title, "other.kel"), answer::no);
+    person.expect_file("Save Farm Assessment As...", path("other"))
+        .expect(replace_file(text::save_as_title, "other.kel"), answer::no);
     front.save_as();
     EXPECT_EQ(file_text(path("other.kel")), "precious");
-    save_as(path("no_such_folder/copy.kel"));
-    person.expect(text::save_error);
+    person.expect_file("Save Farm Assessment As...", path("no_such_folder/copy.kel"))
+        .expect(text::save_error);
     front.save_as();
     EXPECT_EQ(state.assess_file, path("farm.kel"));
 }
 
-TEST_F(AssessmentsScreen, ViewReportsListsWhatExistsAndHidesStepOne) {
-    open_farm({});
-    write_file(state.places.report("KEL_report_landspread.htm"), "<html>");
-    EXPECT_EQ(run(&front_screen::view_reports), (texts{"wait", "hide land", "show", "ready"}));
-    const std::string page = state.places.report("KEL_report_contents.htm");
-    EXPECT_EQ(shown.shown, (viewer_request{page, "Contents", 0}));
-    EXPECT_EQ(state.viewer_back, "front");
-    EXPECT_NE(file_text(page).find("href=KEL_report_landspread.htm"), std::string::npos);
-    EXPECT_EQ(file_text(page).find("href=KEL_report_storage.htm"), std::string::npos);
-}
-
 TEST_F(AssessmentsScreen, GuidesAndHelpTopicsShowInTheViewerOrAreNamedAsMissing) {
     const std::string root = state.places.install_root = path("root");
-    struct {
-        command show;
-        const char* missing_title;
-        viewer_request expected;
-    } const cases[] = {
+    const std::tuple<command, const char*, viewer_request> cases[] = {
         {&front_screen::show_me,
          "Show Me",
          {root + "/Viewer/html/scot_kel/KEL_showme_contents.htm", "Contents", 1}},
@@ -154,14 +135,13 @@ TEST_F(AssessmentsScreen, GuidesAndHelpTopicsShowInTheViewerOrAreNamedAsMissing)
         write_file(expected.page, "<html>");
         EXPECT_EQ(run(show), texts{"show"});
         EXPECT_EQ(shown.shown, expected);
-        EXPECT_EQ(state.viewer_back, "front");
     }
+    EXPECT_EQ(state.viewer_back, "front");
 }
 
 TEST_F(AssessmentsScreen, UpdateEndsWithoutWritingTheStoreUnlessTheUpdaterIsMissing) {
     const std::string updater = path("updater1.exe");
-    state.places.program_folder = path("");
-    state.places.program_folder.pop_back();
+    state.places.program_folder = folder_of(updater);
     person.expect(text::update_question, answer::no);
     EXPECT_EQ(run(&front_screen::update), texts{});
     person.expect(text::update_question, answer::yes).expect(text::updater_missing(updater));
@@ -169,16 +149,10 @@ TEST_F(AssessmentsScreen, UpdateEndsWithoutWritingTheStoreUnlessTheUpdaterIsMiss
     write_file(updater, "");
     person.expect(text::update_question, answer::yes);
     EXPECT_EQ(run(&front_screen::update), (texts{"start", "end"}));
-    shown.updater_starts = false;
-    person.expect(text::update_question, answer::yes).expect(text::updater_missing(updater));
-    EXPECT_EQ(run(&front_screen::update), texts{"start"});
     EXPECT_EQ(settings(), "");
 }
 
 TEST_F(AssessmentsScreen, ExitAsksTheCloseBoxDoesNotAndAFailedStoreKeepsNothingOpen) {
-    person.expect(text::exit_question, answer::no);
-    EXPECT_EQ(run(&front_screen::exit), texts{});
-    EXPECT_EQ(settings(), "");
     person.expect(text::exit_question, answer::yes);
     EXPECT_EQ(run(&front_screen::exit), texts{"end"});
     EXPECT_EQ(settings(), "0\n0\n0\nnone\nnone\nnone\n");
@@ -187,6 +161,49 @@ TEST_F(AssessmentsScreen, ExitAsksTheCloseBoxDoesNotAndAFailedStoreKeepsNothingO
         {state.places.settings_store(),
          "the settings could not be written. The folder may be read-only or the disc full."}));
     EXPECT_EQ(run(&front_screen::close_window), texts{"end"});
+}
+
+class StartUp : public AssessmentsScreen {
+  protected:
+    void start(const std::string& store) {
+        write_file(state.places.settings_store(), store);
+        front.start_up();
+    }
+    const std::string y3 = make_farm("y3.kel", {{"Long", "4"}}, 2024);
+    const std::string y1 = make_farm("y1.kel", {}, 2022);
+};
+
+TEST_F(StartUp, WithoutAUsableStoreNothingOpensAndNothingIsSaid) {
+    start("1\n1\n1\n" + path("gone.kel") + "\n" + y3 + "\nnone\n");
+    EXPECT_EQ(front.title(), "KEL Calculator (Version " + program_version() + ")");
+    EXPECT_EQ(shown.events, (texts{"wait", "ready"}));
+    EXPECT_EQ(working(), texts(3));
+    EXPECT_EQ(slots(), texts(3));
+}
+
+TEST_F(StartUp, SelectedSlotReopensWithTheYearsBeforeIt) {
+    const std::string y2 = make_farm("y2.kel", {{"Long", "4"}, {"Haugh", "2"}}, 2023);
+    const texts chains[] = {{y3, y2, y1}, {y2, y1, ""}, {y1, "", ""}};
+    for (int selected = 1; selected <= 3; ++selected) {
+        start("0\n1\n" + std::to_string(selected) + "\n" + y3 + "\n" + y2 + "\n" + y1 + "\n");
+        EXPECT_EQ(working(), chains[selected - 1]);
+        EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2025 - selected));
+        EXPECT_EQ(state.no_related_prompt, 1);
+    }
+    EXPECT_EQ(profile.fields().row_count(), 0);
+}
+
+// A file can pass the check of its [Type] table and still be damaged further on.
+TEST_F(StartUp, FileThatCannotBeLoadedIsNamedAndTheSlotsSurviveTheRun) {
+    change(y3, "Type", "Year", "next year");
+    const std::string store = "0\n0\n1\n" + y3 + "\n" + y1 + "\nnone\n";
+    person.expect(
+        assessments_messages::cannot_open({y3, "the text \"next year\" in [Type].[Year] is not a date."}));
+    start(store);
+    EXPECT_EQ(working(), texts(3));
+    EXPECT_EQ(shown.events, (texts{"wait", "ready"}));
+    front.close_window();
+    EXPECT_EQ(settings(), store);
 }
 
 }  // namespace kel::test

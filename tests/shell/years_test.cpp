@@ -50,9 +50,6 @@ TEST_F(YearsDialog, ShowsEachSlotFromItsFileAndTheOptionOfTheNewestLeft) {
     EXPECT_EQ(years.rows()[1].path, y2);
     EXPECT_NE(years.rows()[1].trouble, "");
     EXPECT_EQ(years.rows()[2], year_row{});
-    state.slot_selected = 0;
-    years.open();
-    EXPECT_EQ(years.option(), year_option::current);
 }
 
 TEST_F(YearsDialog, BrowsedCurrentFileDropsTheLinksAndOutlivesCancel) {
@@ -84,18 +81,11 @@ TEST_F(YearsDialog, DamagedOrCancelledBrowseLeavesEverything) {
     EXPECT_EQ(settings(), before);
 }
 
-TEST_F(YearsDialog, LinkNeedsTheNewerFileFirst) {
-    person.expect(text::no_assessment_open).expect(text::no_previous_year);
-    years.browse_prev1();
-    state.slot_current = y3;
-    years.browse_prev2();
-}
-
 TEST_F(YearsDialog, LinkedYearsLie365Or366DaysApart) {
-    struct {
+    const struct {
         date older, newer;
         bool linked;
-    } const cases[] = {
+    } cases[] = {
         {make_date(19, 12, 2004), make_date(19, 12, 2005), true},   // 365
         {make_date(19, 12, 2003), make_date(19, 12, 2004), true},   // 366, over a leap day
         {make_date(18, 12, 2004), make_date(19, 12, 2005), true},   // 366, on another day
@@ -104,23 +94,27 @@ TEST_F(YearsDialog, LinkedYearsLie365Or366DaysApart) {
         {make_date(19, 12, 2005), make_date(19, 12, 2004), false},  // the newer one chosen
     };
     open_chain(1);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(short_date_text(c.older) + " " + short_date_text(c.newer));
-        change(y1, "Type", "Year", iso_date_text(c.older));
-        change(y2, "Type", "Year", iso_date_text(c.newer));
-        state.slot_current = y2;
-        state.slot_prev1 = "before";
-        person.expect_file(std::string(text::link_title), y1);
-        if (!c.linked) person.expect(text::not_previous_year);
-        years.browse_prev1();
-        EXPECT_EQ(state.slot_prev1, c.linked ? y1 : "before");
-        state.slot_prev1 = y2;
-        state.slot_prev2 = "before";
-        person.expect_file(std::string(text::link_title), y1);
-        if (!c.linked) person.expect(text::not_year_before_previous);
-        years.browse_prev2();
-        EXPECT_EQ(state.slot_prev2, c.linked ? y1 : "before");
+    for (const auto& [older, newer, linked] : cases) {
+        SCOPED_TRACE(short_date_text(older) + " " + short_date_text(newer));
+        change(y1, "Type", "Year", iso_date_text(older));
+        change(y2, "Type", "Year", iso_date_text(newer));
+        for (const bool last_year : {true, false}) {
+            std::string& slot = last_year ? state.slot_prev1 : state.slot_prev2;
+            (last_year ? state.slot_current : state.slot_prev1) = y2;
+            slot = "before";
+            person.expect_file(std::string(text::link_title), y1);
+            if (!linked) person.expect(last_year ? text::not_previous_year : text::not_year_before_previous);
+            last_year ? years.browse_prev1() : years.browse_prev2();
+            EXPECT_EQ(slot, linked ? y1 : "before");
+        }
     }
+}
+
+TEST_F(YearsDialog, LinkNeedsTheNewerFileFirst) {
+    person.expect(text::no_assessment_open).expect(text::no_previous_year);
+    years.browse_prev1();
+    state.slot_current = y3;
+    years.browse_prev2();
 }
 
 TEST_F(YearsDialog, OtherFarmNameAsksBeforeTheYearIsTested) {
@@ -148,26 +142,13 @@ TEST_F(YearsDialog, NewLinkDropsTheOlderOneAndCancelUndoesIt) {
     const std::string other = make_farm("other.kel", {}, 2023);
     browse(&years_module::browse_prev1, other);
     EXPECT_EQ(slots(), (texts{y3, other, ""}));
-    EXPECT_EQ(state.slot_selected, 2);
     EXPECT_EQ(years.option(), year_option::prev1);
-    browse(&years_module::browse_prev2, y1);
-    EXPECT_EQ(years.rows()[2].path, y1);
     years.do_not_check_link = true;
     years.cancel();
     EXPECT_EQ(slots(), (texts{y3, y2, y1}));
     EXPECT_EQ(working(), (texts{y1, "", ""}));
     EXPECT_EQ(state.no_link_prompt, 0);
     EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2022));
-}
-
-TEST_F(YearsDialog, CancelGetsOutEvenIfTheStoredFileIsDamaged) {
-    open_chain(1);
-    change(y3, "Type", "Year", "spring");
-    person.expect(
-        assessments_messages::cannot_open({y3, "the text \"spring\" in [Type].[Year] is not a date."}));
-    years.cancel();
-    EXPECT_EQ(working(), texts(3));
-    EXPECT_EQ(slots(), (texts{y3, y2, y1}));
 }
 
 TEST_F(YearsDialog, EmptyOptionGivesWayAndAFilledOneDoubleClickedIsOk) {
@@ -181,10 +162,7 @@ TEST_F(YearsDialog, EmptyOptionGivesWayAndAFilledOneDoubleClickedIsOk) {
     EXPECT_EQ(years.option(), year_option::prev1);
     EXPECT_EQ(state.assess_file, y3);
     state.slot_current.clear();
-    state.slot_prev1.clear();
     years.open();
-    years.click_option(year_option::prev2);
-    EXPECT_EQ(years.option(), year_option::current);
     person.expect(text::nothing_opened);
     EXPECT_FALSE(years.double_click_option(year_option::current));
 }
@@ -202,7 +180,7 @@ TEST_F(YearsDialog, OkAsksAboutAMissingLinkUnlessTicked) {
     EXPECT_EQ(settings(), "1\n1\n1\n" + y3 + "\nnone\nnone\n");
 }
 
-TEST_F(YearsDialog, OkWorksOnTheOptionAndReloadsItsCaller) {
+TEST_F(YearsDialog, OkWorksOnTheOptionAndReloadsItsCallerOrKeepsTheOpenFile) {
     open_chain(1);
     for (auto caller :
          {picker_module::front, picker_module::land, picker_module::record, picker_module::profile}) {
@@ -214,16 +192,12 @@ TEST_F(YearsDialog, OkWorksOnTheOptionAndReloadsItsCaller) {
     EXPECT_EQ(working(), (texts{y2, y1, ""}));
     EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2023));
     EXPECT_EQ(settings(), "0\n0\n2\n" + y3 + "\n" + y2 + "\n" + y1 + "\n");
-}
-
-TEST_F(YearsDialog, OkOnAFileThatCannotBeReadKeepsTheOpenOne) {
-    open_chain(1);
+    make_damaged("y3.kel");
     years.do_not_check_link = true;
-    years.click_option(year_option::prev1);
-    make_damaged("y2.kel");
+    years.click_option(year_option::current);
     EXPECT_THROW(years.ok(), file_error);
-    EXPECT_EQ(state.assess_file, y3);
-    EXPECT_EQ(state.slot_selected, 1);
+    EXPECT_EQ(state.assess_file, y2);
+    EXPECT_EQ(state.slot_selected, 2);
     EXPECT_EQ(state.no_link_prompt, 0);
 }
 

@@ -1,3 +1,4 @@
+// The catalogue of crops, the lists to choose from and the residue groups.
 #include "crops/crop_catalogue.h"
 
 #include <gtest/gtest.h>
@@ -10,21 +11,6 @@
 #include "crops/residue_groups.h"
 
 namespace kel {
-
-TEST(CropCatalogue, RowsAreCompleteAndACodeNeverStandsForTwoPreviousCrops) {
-    const std::set<std::string_view> types{crop_types::grass, crop_types::autumn_sown_crop,
-                                           crop_types::other};
-    for (const crop& a : load_crop_catalogue()) {
-        EXPECT_FALSE(a.planned_name.empty()) << a.no;
-        EXPECT_TRUE(types.contains(a.type)) << a.no;
-        EXPECT_TRUE(a.previous_code.empty() || !a.previous_name.empty()) << a.no;
-        for (const crop& b : load_crop_catalogue()) {
-            if (a.previous_code.empty() || b.previous_code.empty()) continue;
-            EXPECT_EQ(a.previous_code == b.previous_code, a.previous_name == b.previous_name)
-                << a.no << " " << b.no;
-        }
-    }
-}
 
 TEST(CropLists, EveryNameOfferedIsKnownToTheTablesBehindIt) {
     for (const std::string_view name : planned_crop_list())
@@ -54,24 +40,14 @@ TEST(CropCatalogue, PreviousCropCodeFollowsTheColumnsOfThePreviousCrop) {
 }
 
 TEST(CropCatalogue, LongNameIsThePlannedNameOfTheCode) {
-    const struct {
-        std::string_view code, name;
-    } cases[] = {
-        {"SB", "Spring barley"},
-        {"SB (F/high N)", "Spring barley (feed or high N malting)"},
-        {"G", "Grass"},
-        {"G/C", "Grass/clover"},
-        {"SR", "Swedes"},
-        {"SR/TR", "Swedes and turnips"},
-        {"CAB", "Cabbage"},
-        {"CAB 0", "Unknown"},
-        {"PG", "Permanent grass"},
-        {"SET-A", "Unknown"},
-        {"", "Unknown"},
-        {"ww", "Unknown"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(crop_long_name(c.code), c.name) << c.code;
+    const std::pair<std::string_view, std::string_view> cases[] = {
+        {"SB", "Spring barley"}, {"SB (F/high N)", "Spring barley (feed or high N malting)"},
+        {"SR", "Swedes"},        {"SR/TR", "Swedes and turnips"},
+        {"G", "Grass"},          {"CAB", "Cabbage"},
+        {"CAB 0", "Unknown"},    {"SET-A", "Unknown"},
+        {"", "Unknown"},         {"ww", "Unknown"}};
+    for (const auto& [code, name] : cases)
+        EXPECT_EQ(crop_long_name(code), name) << code;
 }
 
 TEST(CropCatalogue, LeyLongNameKnowsTheElevenPreviousSwardsOnly) {
@@ -102,6 +78,32 @@ TEST(CropCatalogue, TypeMembersArePlannedNamesInRowOrderEachOnce) {
                   "Direct sown grass and grass/clover (autumn sown)", "Daffodil bulbs", "Cabbage (spring)"}));
     EXPECT_EQ(std::ranges::count(crop_type_members("Other"), "Cabbage"), 1);
     EXPECT_TRUE(crop_type_members("").empty());
+}
+
+TEST(ResidueGroups, ABetterYieldLeavesLessAndAnUnknownCodeNothing) {
+    const std::pair<std::string_view, int> cases[] = {{"Cabbage (above average yield)", 2},
+                                                      {"Cabbage (average yield - 30 t/ha)", 3},
+                                                      {"Cabbage (below average yield)", 4},
+                                                      {"Rough grazing", 1},
+                                                      {"Kale", 5},
+                                                      {"Permanent grass", 6}};
+    for (const auto& [previous_crop, group] : cases)
+        EXPECT_EQ(residue_group(*previous_crop_code(previous_crop)), group) << previous_crop;
+    for (const auto code : {"", "CAB", "SET-A", "DPOT", "sb"})
+        EXPECT_EQ(residue_group(code), 0) << code;
+}
+
+TEST(ResidueGroups, VegetablesAreKnownByNameAndByCode) {
+    std::set<std::string_view> by_code;
+    std::set<std::string_view> by_name;
+    for (const crop& row : load_crop_catalogue()) {
+        if (is_vegetable_crop(row.planned_code)) by_code.insert(row.planned_name);
+        if (is_vegetable_crop(row.planned_name)) by_name.insert(row.planned_name);
+    }
+    EXPECT_EQ(by_code, by_name);
+    EXPECT_EQ(by_code.size(), 15U);
+    for (const auto none : {"Cabbage (above average yield)", "CAB 0", "Kale", "SR/TR", ""})
+        EXPECT_FALSE(is_vegetable_crop(none)) << none;
 }
 
 }  // namespace kel
