@@ -82,7 +82,7 @@ int check_assessment_file(const std::string& path) {
     }
 }
 
-void copy_assessment(const std::string& from, const std::string& to) {
+void copy_whole_file(const std::string& from, const std::string& to) {
     const fs::path target(to);
     fs::path fresh = target;
     fresh += ".new";

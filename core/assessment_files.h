@@ -32,6 +32,6 @@ std::optional<date> read_assessment_year(const std::string& path);
 int check_assessment_file(const std::string& path);
 
 /// Plain copy of a whole file that is not open; an existing target is replaced. Throws file_error.
-void copy_assessment(const std::string& from, const std::string& to);
+void copy_whole_file(const std::string& from, const std::string& to);
 
 }  // namespace kel

@@ -67,7 +67,7 @@ bool have_file_to_save(application_state& state, prompts& person, std::string_vi
             {std::string(refusal_title), "This is last years file and cannot be saved to at this time!"});
         return false;
     }
-    copy_assessment(state.places.blank_assessment(), chosen);
+    copy_whole_file(state.places.blank_assessment(), chosen);
     state.assess_file = chosen;
     return true;
 }

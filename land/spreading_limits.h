@@ -29,7 +29,7 @@ float field_limit(float available_ha);
 /// Hectares left for one deduction beside the two others. Below 0 when those exceed the areas already.
 float deduction_room(float grass_ha, float other_ha, float deducted_ha, float also_deducted_ha);
 
-/// A field's area split into the part entered and the rest, as cell texts of hectares with at most 2
+/// A field's area split into what was entered and the rest, as cell texts of hectares with at most 2
 /// decimals, ties to even.
 struct area_pair {
     std::string entered;

@@ -113,7 +113,7 @@ bool manure_module::have_file() {
     const std::string chosen = choose_file_to_save(state_, person_, "Save the assessment");
     if (chosen.empty()) return false;
     if (same_file(chosen, state_.assess_file)) return refuse(text::this_years_file);
-    copy_assessment(state_.places.blank_assessment(), chosen);
+    copy_whole_file(state_.places.blank_assessment(), chosen);
     state_.prev1_file = chosen;
     return true;
 }

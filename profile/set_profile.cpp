@@ -91,7 +91,7 @@ bool profile_module::save_new_farm(const std::string& path) {
 
 bool profile_module::save_into_new_file(const std::string& path, bool& store_written) {
     state_.slot_current = path;
-    copy_assessment(state_.places.blank_assessment(), path);
+    copy_whole_file(state_.places.blank_assessment(), path);
     state_.slot_prev1.clear();
     state_.slot_prev2.clear();
     state_.assess_file = path;

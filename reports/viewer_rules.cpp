@@ -21,7 +21,7 @@ std::string starting_folder(const application_state& state, const std::string& r
 
 // The target is replaced by a rename, so a file copied onto itself survives.
 void copy_over(const std::string& from, const std::string& to) {
-    copy_assessment(from, to);
+    copy_whole_file(from, to);
 }
 
 }  // namespace

@@ -92,7 +92,7 @@ void assessments_module::save_as() {
 void assessments_module::copy_to(const std::string& target) {
     write_store(state_);
     if (target == state_.assess_file) return;
-    copy_assessment(state_.assess_file, target);
+    copy_whole_file(state_.assess_file, target);
     state_.assess_file = target;
 }
 

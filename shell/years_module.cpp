@@ -227,7 +227,7 @@ void years_module::move_chain(bool overwrite) {
 
 void years_module::make_new_year(bool overwrite) {
     // To write over a linked file means to go on with it as it is; nothing is copied into it.
-    if (!overwrite) copy_assessment(state_.slot_current, new_path_);
+    if (!overwrite) copy_whole_file(state_.slot_current, new_path_);
     move_chain(overwrite);
     state_.kel_year_start = new_date_;
     const database db(new_path_);

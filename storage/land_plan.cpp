@@ -20,8 +20,8 @@ constexpr auto carried = column_kind::carried;
 // clang-format off
 constexpr std::array<grid_column, 21> land_columns{{
     // heading                            stored column                       kind        width
-    {"Field Area ID",                     "Field Area ID",                    calculated, 21},
-    {"Soil",                              "Soil",                             calculated, 18},
+    {"Field Area ID",                     "Field Area ID",                    calculated, 18},
+    {"Soil",                              "Soil",                             calculated, 21},
     {"Crops",                             "Crop",                             entered,    27},
     {"Available Field Area (ha)",         "Available Field Area (ha)",        calculated, 14},
     {"January",                           "January",                          entered,    10},

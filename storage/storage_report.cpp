@@ -69,7 +69,7 @@ page_lines summary(const storage_balance& balance) {
     table.add_row(month_row("Outputs (cubic m)", 1, whole_numbers(balance.outputs)));
     table.add_row(month_row("% Full At Month End", 1, whole_numbers(balance.percent)));
     page_lines lines = table.lines();
-    append(lines, report_paragraph("<img src=" + std::string(storage_chart_file) + " width=640 height=302>"));
+    append(lines, report_paragraph("<img src=" + std::string(storage_chart_file) + " width=720 height=340>"));
     if (!balance.warning.empty()) append(lines, report_paragraph(balance.warning));
     return lines;
 }

@@ -36,7 +36,7 @@ class entry_box : public QFrame {
     Q_OBJECT
 
   public:
-    /// `name` is the part of the object names behind fra, cmd, txt and lst, as in fraLand_area.
+    /// `name` stands in the object names behind fra, cmd, txt and lst, as in fraLand_area.
     entry_box(const QString& name, grid_view& grid, QWidget* parent);
 
     /// Controls that stay disabled while the box is open; the list is the screen's.

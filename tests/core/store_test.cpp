@@ -154,9 +154,9 @@ TEST_F(Store, TriggersAndHugeTextsOfAStrangersFileDoNothing) {
 TEST_F(Store, ACopyOfAReadOnlyTemplateCanBeWritten) {
     const std::string protected_file = make_farm("template.kel", {});
     std::filesystem::permissions(protected_file, std::filesystem::perms::owner_read);
-    copy_assessment(protected_file, path("copy.kel"));
+    copy_whole_file(protected_file, path("copy.kel"));
     EXPECT_NO_THROW(save_items(path("copy.kel"), items(1, "v")));
-    EXPECT_NE(trouble_with([&] { copy_assessment(protected_file, path("no folder/copy.kel")); }), "");
+    EXPECT_NE(trouble_with([&] { copy_whole_file(protected_file, path("no folder/copy.kel")); }), "");
 }
 
 // Runs the work in a process of its own, which ends without warning once `work` calls die() or runs into a

@@ -88,7 +88,7 @@ std::vector<dated_rate> total_n_rates(const sample_year& year) {
 TEST_F(SampleFarm, ProfilePassesAllTestsOfSetProfile) {
     for (const sample_year& year : sample_years()) {
         open(path("copy.kel"), year.start);
-        copy_assessment(year.path, state.assess_file);
+        copy_whole_file(year.path, state.assess_file);
         profile_module profile(state, person);
         profile.load_profile();
         EXPECT_EQ(profile.set_profile(), set_profile_result::saved);
@@ -216,7 +216,7 @@ TEST(SampleChain, OneFieldIsOverItsLimitByThisYearAndOneTogetherWithLastYear) {
 TEST_F(SampleFarm, StartAtLastDecemberAsStep2WorksItOut) {
     for (const sample_year& year : sample_years()) {
         const std::string saved = path(std::to_string(year_of(year.start)) + ".kel");
-        copy_assessment(year.path, saved);
+        copy_whole_file(year.path, saved);
         open(saved, year.start);
         storage_module storage(state, person);
         storage.storage_load_stuff();

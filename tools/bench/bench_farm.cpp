@@ -131,7 +131,7 @@ void add_year(const database& db, int year) {
 }
 
 void make_file(const std::string& from, const std::string& file, int fields, int year) {
-    copy_assessment(from, file);
+    copy_whole_file(from, file);
     const database db(file);
     save_transaction save(db);
     add_farm(db, fields);
@@ -177,7 +177,7 @@ bench_farm::~bench_farm() {
 
 std::string bench_farm::copy_of_file(const std::string& name) const {
     std::string copy = folder_ + "/" + name;
-    copy_assessment(state.assess_file, copy);
+    copy_whole_file(state.assess_file, copy);
     return copy;
 }
 
