@@ -11,6 +11,7 @@ std::vector<farm_field> read_farm_fields(const database& db) {
 
 std::vector<std::string> field_names(const std::vector<farm_field>& fields) {
     std::vector<std::string> names;
+    names.reserve(fields.size());
     for (const farm_field& field : fields)
         names.push_back(field.name);
     return names;

@@ -51,12 +51,13 @@ std::set<std::string, std::less<>> fields_over_limit(
     if (last_year && last_year->empty()) return {};
     const std::span<const dated_rate> past = last_year ? *last_year : std::span<const dated_rate>{};
     std::set<std::string, std::less<>> over;
-    for (const auto& [field, history] : by_field(table, past)) {
-        const bool beyond = std::any_of(history.table.begin(), history.table.end(), [&](const auto* row) {
+    const auto beyond = [](const auto& history) {
+        return std::any_of(history.table.begin(), history.table.end(), [&](const auto* row) {
             return sum_at(*row, history) > rolling_field_limit_kg_per_ha;
         });
-        if (beyond) over.emplace(field);
-    }
+    };
+    for (const auto& [field, history] : by_field(table, past))
+        if (beyond(history)) over.emplace(field);
     return over;
 }
 

@@ -19,6 +19,7 @@ report_cell heading(std::string text) {
 void add_rows(report_table& table, const text_grid& grid, int rows, int columns) {
     for (int row = 0; row < rows; ++row) {
         std::vector<std::string> texts;
+        texts.reserve(static_cast<std::size_t>(columns));
         for (int column = 0; column < columns; ++column)
             texts.push_back(grid.cell(row, column));
         table.add_row(texts);
