@@ -76,17 +76,7 @@ QWidget* Scotland::side_panel() {
     hint->setWordWrap(true);
     column->addWidget(hint);
 
-    auto* zones = new QGroupBox(tr("Zones"), panel);
-    auto* legend = new QFormLayout(zones);
-    legend->setVerticalSpacing(3);
-    for (const auto& entry : map_->legend()) {
-        QPixmap swatch(14, 14);
-        swatch.fill(entry.colour);
-        auto* mark = new QLabel(zones);
-        mark->setPixmap(swatch);
-        legend->addRow(mark, new QLabel(qt(entry.zone), zones));
-    }
-    column->addWidget(zones);
+    column->addWidget(legend_panel(panel));
 
     auto* under = new QGroupBox(tr("Under the pointer"), panel);
     auto* under_form = new QFormLayout(under);
@@ -117,18 +107,36 @@ QWidget* Scotland::side_panel() {
     column->addWidget(towns_, 1);
     column->addStretch();
 
+    column->addLayout(button_row());
+    return panel;
+}
+
+QWidget* Scotland::legend_panel(QWidget* parent) const {
+    auto* zones = new QGroupBox(tr("Zones"), parent);
+    auto* legend = new QFormLayout(zones);
+    legend->setVerticalSpacing(3);
+    for (const auto& entry : map_->legend()) {
+        QPixmap swatch(14, 14);
+        swatch.fill(entry.colour);
+        auto* mark = new QLabel(zones);
+        mark->setPixmap(swatch);
+        legend->addRow(mark, new QLabel(qt(entry.zone), zones));
+    }
+    return zones;
+}
+
+QLayout* Scotland::button_row() {
     auto* buttons = new QHBoxLayout;
-    auto* enter_button = new QPushButton(tr("E&nter"), panel);
+    auto* enter_button = new QPushButton(tr("E&nter"), this);
     enter_button->setObjectName("cmdScotland_enter");
-    auto* cancel_button = new QPushButton(tr("&Cancel"), panel);
+    auto* cancel_button = new QPushButton(tr("&Cancel"), this);
     cancel_button->setObjectName("cmdScotland_cancel");
     buttons->addStretch();
     buttons->addWidget(enter_button);
     buttons->addWidget(cancel_button);
-    column->addLayout(buttons);
     connect(enter_button, &QPushButton::clicked, this, &Scotland::enter);
     connect(cancel_button, &QPushButton::clicked, this, &QWidget::close);
-    return panel;
+    return buttons;
 }
 
 void Scotland::add_menu() {

@@ -7,6 +7,7 @@
 #include "profile/location_module.h"
 
 class QLabel;
+class QLayout;
 
 namespace kel {
 
@@ -28,6 +29,8 @@ class Scotland : public QMainWindow {
 
   private:
     QWidget* side_panel();
+    QWidget* legend_panel(QWidget* parent) const;
+    QLayout* button_row();
     void add_menu();
     void click_map();
     void refresh_pointer();

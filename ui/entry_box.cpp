@@ -76,7 +76,7 @@ entry_box::entry_box(const QString& name, grid_view& grid, QWidget* parent)
     hide();
 }
 
-QPushButton* entry_box::add_button(const QString& caption, const QString& suffix, operation action) {
+QPushButton* entry_box::add_button(const QString& caption, const QString& suffix, const operation& action) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName("cmd" + name_ + "_" + suffix);
     button->setAutoDefault(false);
@@ -85,11 +85,11 @@ QPushButton* entry_box::add_button(const QString& caption, const QString& suffix
     return button;
 }
 
-QPushButton* entry_box::add_clear(operation clear) {
-    return add_button("Clear &Cell", "clear", std::move(clear));
+QPushButton* entry_box::add_clear(const operation& clear) {
+    return add_button("Clear &Cell", "clear", clear);
 }
-QPushButton* entry_box::add_erase(operation erase) {
-    return add_button("Erase &Row", "erase", std::move(erase));
+QPushButton* entry_box::add_erase(const operation& erase) {
+    return add_button("Erase &Row", "erase", erase);
 }
 
 QLineEdit* entry_box::use_number_box() {

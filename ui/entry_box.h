@@ -55,8 +55,8 @@ class entry_box : public QFrame {
 
     using operation = std::function<bool()>;  // true: the box closes
     void on_enter(operation enter) { enter_ = std::move(enter); }
-    QPushButton* add_clear(operation clear);
-    QPushButton* add_erase(operation erase);
+    QPushButton* add_clear(const operation& clear);
+    QPushButton* add_erase(const operation& erase);
 
     /// Opens over the cell with this caption, instruction and the cell's text in the editor.
     void open(const QString& caption, const QString& instruction, const QString& text);
@@ -77,7 +77,7 @@ class entry_box : public QFrame {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QPushButton* add_button(const QString& caption, const QString& suffix, operation action);
+    QPushButton* add_button(const QString& caption, const QString& suffix, const operation& action);
     QWidget* editor() const;
     void show_in_editor(const QString& caption, const QString& text);
     void run(const operation& action);

@@ -22,7 +22,7 @@ class YearsDialog : public shell_test {
         years.open();
     }
     std::string make_other_farm(const std::string& name, int year) {
-        const std::string file = make_farm(name, {}, year);
+        std::string file = make_farm(name, {}, year);
         change(file, "FarmProfile", "Name", "Other Farm");
         return file;
     }

@@ -31,7 +31,7 @@ farm_test::~farm_test() {
 }
 
 std::string farm_test::make_farm(const std::string& name, const std::vector<test_field>& fields, int year) {
-    const std::string file = path(name);
+    std::string file = path(name);
     copy_whole_file(state.places.blank_assessment(), file);
     const database db(file);
     save_transaction save(db);

@@ -65,9 +65,11 @@ inline void click(QWidget* screen, const QString& name) {
 }
 
 class screen_test : public farm_test {
-  protected:
+  public:
     screen_test() { application().set_prompts(&person); }
     ~screen_test() override { application().set_prompts(nullptr); }
+
+  protected:
     static kel_application& application() { return *static_cast<kel_application*>(qApp); }
 
     /// Starts the program, or ends it and starts it again, in the same folder.
