@@ -8,7 +8,7 @@
 #include "inorganic/application_rules.h"
 #include "inorganic/inorganic_messages.h"
 #include "inorganic/inorganic_report.h"
-#include "storage/closed_period_lookups.h"
+#include "rules/closed_period_lookups.h"
 
 namespace kel {
 

@@ -4,8 +4,8 @@
 #include "core/numbers.h"
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
-#include "storage/closed_period_lookups.h"
-#include "storage/closed_periods.h"
+#include "rules/closed_period_lookups.h"
+#include "rules/closed_periods.h"
 
 namespace kel {
 

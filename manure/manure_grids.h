@@ -10,8 +10,8 @@
 #include "core/farm_fields.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
-#include "manure/available_nitrogen.h"
 #include "manure/field_limit_check.h"
+#include "rules/available_nitrogen.h"
 
 namespace kel {
 

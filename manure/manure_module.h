@@ -12,9 +12,9 @@
 #include "core/application_state.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
-#include "manure/manure_catalogue.h"
 #include "manure/manure_grids.h"
 #include "reports/report_viewer.h"
+#include "rules/manure_catalogue.h"
 
 namespace kel {
 

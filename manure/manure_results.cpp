@@ -9,7 +9,7 @@
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "manure/manure_report.h"
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
 
 namespace kel {
 

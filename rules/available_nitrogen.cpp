@@ -1,10 +1,10 @@
-#include "manure/available_nitrogen.h"
+#include "rules/available_nitrogen.h"
 
 #include <algorithm>
 #include <array>
 
 #include "core/numbers.h"
-#include "manure/manure_catalogue.h"
+#include "rules/manure_catalogue.h"
 
 namespace kel {
 

@@ -1,9 +1,9 @@
-#include "storage/closed_period_lookups.h"
+#include "rules/closed_period_lookups.h"
 
 #include <optional>
 
 #include "core/numbers.h"
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
 
 namespace kel {
 

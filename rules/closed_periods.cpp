@@ -1,9 +1,9 @@
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
 
 #include <algorithm>
 #include <array>
 
-#include "crops/crop_catalogue.h"
+#include "rules/crop_catalogue.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "crops/crop_catalogue.h"
+#include "rules/crop_catalogue.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "crops/crop_lists.h"
+#include "rules/crop_lists.h"
 
 #include <algorithm>
 #include <array>
 
-#include "crops/crop_catalogue.h"
+#include "rules/crop_catalogue.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "manure/manure_lookups.h"
+#include "rules/manure_lookups.h"
 
 #include "core/numbers.h"
 

@@ -1,4 +1,4 @@
-#include "storage/rainfall.h"
+#include "rules/rainfall.h"
 
 #include <array>
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/assessment_store.h"
-#include "storage/months.h"
+#include "rules/months.h"
 
 namespace kel {
 

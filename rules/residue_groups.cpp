@@ -1,4 +1,4 @@
-#include "crops/residue_groups.h"
+#include "rules/residue_groups.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "storage/months.h"
+#include "rules/months.h"
 
 namespace kel {
 

@@ -1,8 +1,8 @@
 #include "storage/field_use_checks.h"
 
 #include "core/assessment_store.h"
-#include "crops/crop_catalogue.h"
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
+#include "rules/crop_catalogue.h"
 #include "storage/storage_messages.h"
 
 namespace kel {

@@ -6,7 +6,7 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
-#include "crops/crop_catalogue.h"
+#include "rules/crop_catalogue.h"
 
 namespace kel {
 

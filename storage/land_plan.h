@@ -10,8 +10,8 @@
 #include "core/assessment_store.h"
 #include "core/farm_fields.h"
 #include "core/text_grid.h"
-#include "storage/closed_periods.h"
-#include "storage/months.h"
+#include "rules/closed_periods.h"
+#include "rules/months.h"
 
 namespace kel {
 

@@ -4,7 +4,7 @@
 
 #include "core/assessment_store.h"
 #include "core/text_grid.h"
-#include "storage/months.h"
+#include "rules/months.h"
 
 namespace kel {
 

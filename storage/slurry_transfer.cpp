@@ -1,7 +1,7 @@
 #include "storage/slurry_transfer.h"
 
 #include "core/numbers.h"
-#include "manure/manure_catalogue.h"
+#include "rules/manure_catalogue.h"
 
 namespace kel {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "storage/months.h"
+#include "rules/months.h"
 
 namespace kel {
 

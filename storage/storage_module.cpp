@@ -6,7 +6,7 @@
 #include "core/file_choice.h"
 #include "core/module_messages.h"
 #include "core/numbers.h"
-#include "storage/rainfall.h"
+#include "rules/rainfall.h"
 #include "storage/storage_messages.h"
 #include "storage/storage_report.h"
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/numbers.h"
+#include "rules/rainfall.h"
 #include "storage/production_grid.h"
-#include "storage/rainfall.h"
 #include "storage/slurry_production.h"
 #include "storage/stores_page.h"
 

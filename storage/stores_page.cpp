@@ -6,7 +6,7 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
-#include "storage/rainfall.h"
+#include "rules/rainfall.h"
 #include "storage/storage_messages.h"
 
 namespace kel {

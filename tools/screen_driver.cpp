@@ -7,7 +7,7 @@
 #include <QTest>
 #include <stdexcept>
 
-#include "ui/grid_view.h"
+#include "ui/widgets/grid_view.h"
 
 namespace kel::drive {
 

@@ -17,12 +17,12 @@
 
 #include "core/assessment_files.h"
 #include "tools/screen_driver.h"
-#include "ui/grid_view.h"
 #include "ui/kel_application.h"
-#include "ui/map_view.h"
 #include "ui/program.h"
-#include "ui/qt_text.h"
+#include "ui/screens/map_view.h"
 #include "ui/today.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace {
 

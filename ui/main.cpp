@@ -5,8 +5,8 @@
 #include "ui/kel_application.h"
 #include "ui/program.h"
 #include "ui/qt_prompts.h"
-#include "ui/qt_text.h"
 #include "ui/today.h"
+#include "ui/widgets/qt_text.h"
 
 int main(int argc, char** argv) {
     kel::kel_application application(argc, argv);

@@ -7,19 +7,19 @@
 #include <array>
 
 #include "core/file_error.h"
-#include "ui/FullScreen.h"
-#include "ui/Scotland.h"
-#include "ui/Year_Picker.h"
-#include "ui/frmInorganic.h"
-#include "ui/frmKEL_front.h"
-#include "ui/frmKEL_splash.h"
-#include "ui/frmLand_new.h"
-#include "ui/frmProfile.h"
-#include "ui/frmReductions.h"
-#include "ui/frmStorage.h"
 #include "ui/kel_application.h"
-#include "ui/module_screen.h"
-#include "ui/qt_text.h"
+#include "ui/screens/FullScreen.h"
+#include "ui/screens/Scotland.h"
+#include "ui/screens/Year_Picker.h"
+#include "ui/screens/frmInorganic.h"
+#include "ui/screens/frmKEL_front.h"
+#include "ui/screens/frmKEL_splash.h"
+#include "ui/screens/frmLand_new.h"
+#include "ui/screens/frmProfile.h"
+#include "ui/screens/frmReductions.h"
+#include "ui/screens/frmStorage.h"
+#include "ui/widgets/module_screen.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -4,7 +4,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

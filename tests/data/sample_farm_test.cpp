@@ -18,7 +18,7 @@
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "profile/profile_module.h"
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
 #include "storage/storage_module.h"
 #include "tests/support/farm_files.h"
 

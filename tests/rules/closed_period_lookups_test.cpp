@@ -1,4 +1,4 @@
-#include "storage/closed_period_lookups.h"
+#include "rules/closed_period_lookups.h"
 
 #include "tests/support/farm_files.h"
 

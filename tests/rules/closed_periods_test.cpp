@@ -1,10 +1,10 @@
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "crops/crop_catalogue.h"
+#include "rules/crop_catalogue.h"
 
 namespace kel {
 

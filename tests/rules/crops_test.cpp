@@ -1,5 +1,5 @@
 // The catalogue of crops, the lists to choose from and the residue groups.
-#include "crops/crop_catalogue.h"
+#include "rules/crop_catalogue.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 #include <set>
 #include <string>
 
-#include "crops/crop_lists.h"
-#include "crops/residue_groups.h"
+#include "rules/crop_lists.h"
+#include "rules/residue_groups.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "manure/manure_catalogue.h"
+#include "rules/manure_catalogue.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Nitrogen of the applications as the requirement modules take it over.
-#include "manure/manure_lookups.h"
+#include "rules/manure_lookups.h"
 
 #include "tests/support/farm_files.h"
 

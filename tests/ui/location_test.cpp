@@ -4,7 +4,7 @@
 
 #include "profile/profile_messages.h"
 #include "tests/ui/screen_fixture.h"
-#include "ui/map_view.h"
+#include "ui/screens/map_view.h"
 
 namespace kel::test {
 

@@ -13,10 +13,10 @@
 #include "tests/support/farm_files.h"
 #include "tests/support/scripted_prompts.h"
 #include "tools/screen_driver.h"
-#include "ui/grid_view.h"
 #include "ui/kel_application.h"
 #include "ui/program.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel::test {
 

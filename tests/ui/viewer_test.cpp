@@ -5,7 +5,7 @@
 #include "land/land_messages.h"
 #include "shell/years_messages.h"
 #include "tests/ui/screen_fixture.h"
-#include "ui/page_view.h"
+#include "ui/widgets/page_view.h"
 
 namespace kel::test {
 

@@ -8,8 +8,8 @@
 #include "tools/bench/bench_screen.h"
 #include "tools/bench/groups.h"
 #include "tools/screen_driver.h"
-#include "ui/frmLand_new.h"
-#include "ui/grid_view.h"
+#include "ui/screens/frmLand_new.h"
+#include "ui/widgets/grid_view.h"
 
 namespace kel::bench {
 

@@ -14,9 +14,9 @@
 #include "tools/bench/bench_screen.h"
 #include "tools/bench/groups.h"
 #include "tools/screen_driver.h"
-#include "ui/frmStorage.h"
-#include "ui/grid_view.h"
-#include "ui/storage_chart.h"
+#include "ui/screens/frmStorage.h"
+#include "ui/screens/storage_chart.h"
+#include "ui/widgets/grid_view.h"
 
 namespace kel::bench {
 

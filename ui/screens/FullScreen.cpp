@@ -1,4 +1,4 @@
-#include "ui/FullScreen.h"
+#include "ui/screens/FullScreen.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 
 #include "reports/viewer_rules.h"
-#include "ui/page_view.h"
-#include "ui/print_page.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/page_view.h"
+#include "ui/widgets/print_page.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

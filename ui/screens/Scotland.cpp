@@ -1,4 +1,4 @@
-#include "ui/Scotland.h"
+#include "ui/screens/Scotland.h"
 
 #include <QAction>
 #include <QFormLayout>
@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
-#include "ui/choice_list.h"
-#include "ui/map_view.h"
-#include "ui/qt_text.h"
+#include "ui/screens/map_view.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "ui/Year_Picker.h"
+#include "ui/screens/Year_Picker.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -12,7 +12,7 @@
 
 #include "profile/farm_profile.h"
 #include "shell/years_messages.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

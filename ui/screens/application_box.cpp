@@ -1,4 +1,4 @@
-#include "ui/application_box.h"
+#include "ui/screens/application_box.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
@@ -14,7 +14,7 @@
 
 #include "inorganic/application_rules.h"
 #include "inorganic/inorganic_messages.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "inorganic/inorganic_module.h"
-#include "ui/entry_box.h"
+#include "ui/widgets/entry_box.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "ui/field_use_form.h"
+#include "ui/screens/field_use_form.h"
 
 #include <QCalendarWidget>
 #include <QDateEdit>
@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 
 #include "storage/storage_messages.h"
-#include "ui/choice_list.h"
-#include "ui/entry_box.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

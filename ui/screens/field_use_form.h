@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "storage/closed_periods.h"
+#include "rules/closed_periods.h"
 
 class QDateEdit;
 

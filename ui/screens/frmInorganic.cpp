@@ -1,14 +1,14 @@
-#include "ui/frmInorganic.h"
+#include "ui/screens/frmInorganic.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "inorganic/inorganic_messages.h"
-#include "ui/application_box.h"
-#include "ui/entry_box.h"
-#include "ui/grid_view.h"
-#include "ui/qt_text.h"
+#include "ui/screens/application_box.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "ui/frmKEL_front.h"
+#include "ui/screens/frmKEL_front.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -11,7 +11,7 @@
 #include <array>
 #include <string_view>
 
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

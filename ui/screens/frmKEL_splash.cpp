@@ -1,4 +1,4 @@
-#include "ui/frmKEL_splash.h"
+#include "ui/screens/frmKEL_splash.h"
 
 #include <QHBoxLayout>
 #include <QIcon>

@@ -1,4 +1,4 @@
-#include "ui/frmLand_new.h"
+#include "ui/screens/frmLand_new.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
@@ -13,11 +13,11 @@
 #include "land/land_messages.h"
 #include "land/land_report.h"
 #include "land/stock_nitrogen.h"
-#include "ui/choice_list.h"
-#include "ui/entry_box.h"
-#include "ui/grid_view.h"
-#include "ui/print_page.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/print_page.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

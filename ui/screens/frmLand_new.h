@@ -2,7 +2,7 @@
 #pragma once
 
 #include "land/land_module.h"
-#include "ui/module_screen.h"
+#include "ui/widgets/module_screen.h"
 
 class QLabel;
 class QPushButton;

@@ -1,4 +1,4 @@
-#include "ui/frmProfile.h"
+#include "ui/screens/frmProfile.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -12,10 +12,10 @@
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
-#include "ui/choice_list.h"
-#include "ui/entry_box.h"
-#include "ui/grid_view.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

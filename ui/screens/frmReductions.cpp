@@ -1,4 +1,4 @@
-#include "ui/frmReductions.h"
+#include "ui/screens/frmReductions.h"
 
 #include <QCalendarWidget>
 #include <QLineEdit>
@@ -10,10 +10,10 @@
 #include <algorithm>
 
 #include "manure/manure_messages.h"
-#include "ui/choice_list.h"
-#include "ui/entry_box.h"
-#include "ui/grid_view.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

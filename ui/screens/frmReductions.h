@@ -2,7 +2,7 @@
 #pragma once
 
 #include "manure/manure_module.h"
-#include "ui/module_screen.h"
+#include "ui/widgets/module_screen.h"
 
 class QPlainTextEdit;
 class QStackedWidget;

@@ -1,4 +1,4 @@
-#include "ui/frmStorage.h"
+#include "ui/screens/frmStorage.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -7,10 +7,10 @@
 
 #include "storage/storage_messages.h"
 #include "storage/storage_report.h"
-#include "ui/qt_text.h"
-#include "ui/storage_plan_page.h"
-#include "ui/storage_stores_page.h"
-#include "ui/storage_water_page.h"
+#include "ui/screens/storage_plan_page.h"
+#include "ui/screens/storage_stores_page.h"
+#include "ui/screens/storage_water_page.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "storage/storage_module.h"
-#include "ui/module_screen.h"
+#include "ui/widgets/module_screen.h"
 
 class QLabel;
 class QPushButton;

@@ -1,4 +1,4 @@
-#include "ui/map_view.h"
+#include "ui/screens/map_view.h"
 
 #include <QFile>
 #include <QKeyEvent>

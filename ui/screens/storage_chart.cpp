@@ -1,4 +1,4 @@
-#include "ui/storage_chart.h"
+#include "ui/screens/storage_chart.h"
 
 #include <QEvent>
 #include <QGraphicsLayout>
@@ -13,7 +13,7 @@
 #include <cmath>
 
 #include "core/file_error.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

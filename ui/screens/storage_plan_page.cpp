@@ -1,4 +1,4 @@
-#include "ui/storage_plan_page.h"
+#include "ui/screens/storage_plan_page.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,13 +14,13 @@
 
 #include "storage/slurry_production.h"
 #include "storage/storage_messages.h"
-#include "ui/entry_box.h"
-#include "ui/field_use_form.h"
-#include "ui/frmStorage.h"
-#include "ui/grid_view.h"
-#include "ui/month_table.h"
-#include "ui/qt_text.h"
-#include "ui/storage_chart.h"
+#include "ui/screens/field_use_form.h"
+#include "ui/screens/frmStorage.h"
+#include "ui/screens/storage_chart.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/month_table.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

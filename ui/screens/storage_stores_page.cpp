@@ -1,4 +1,4 @@
-#include "ui/storage_stores_page.h"
+#include "ui/screens/storage_stores_page.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
@@ -7,11 +7,11 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "ui/choice_list.h"
-#include "ui/entry_box.h"
-#include "ui/frmStorage.h"
-#include "ui/grid_view.h"
-#include "ui/qt_text.h"
+#include "ui/screens/frmStorage.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

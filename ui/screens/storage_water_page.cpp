@@ -1,4 +1,4 @@
-#include "ui/storage_water_page.h"
+#include "ui/screens/storage_water_page.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
@@ -8,9 +8,9 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "ui/entry_box.h"
-#include "ui/frmStorage.h"
-#include "ui/qt_text.h"
+#include "ui/screens/frmStorage.h"
+#include "ui/widgets/entry_box.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "ui/entry_box.h"
+#include "ui/widgets/entry_box.h"
 
 #include <QButtonGroup>
 #include <QCalendarWidget>
@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ui/choice_list.h"
-#include "ui/grid_view.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/choice_list.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

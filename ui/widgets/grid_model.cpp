@@ -1,9 +1,9 @@
-#include "ui/grid_model.h"
+#include "ui/widgets/grid_model.h"
 
 #include <QApplication>
 #include <QPalette>
 
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

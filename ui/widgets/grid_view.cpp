@@ -1,4 +1,4 @@
-#include "ui/grid_view.h"
+#include "ui/widgets/grid_view.h"
 
 #include <QApplication>
 #include <QClipboard>

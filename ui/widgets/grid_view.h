@@ -5,7 +5,7 @@
 
 #include <QTableView>
 
-#include "ui/grid_model.h"
+#include "ui/widgets/grid_model.h"
 
 namespace kel {
 

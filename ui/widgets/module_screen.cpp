@@ -1,11 +1,11 @@
-#include "ui/module_screen.h"
+#include "ui/widgets/module_screen.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPushButton>
 
-#include "ui/entry_box.h"
+#include "ui/widgets/entry_box.h"
 
 namespace kel {
 

@@ -1,4 +1,4 @@
-#include "ui/month_table.h"
+#include "ui/widgets/month_table.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "core/numbers.h"
-#include "ui/grid_view.h"
-#include "ui/qt_text.h"
+#include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 

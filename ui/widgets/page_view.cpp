@@ -1,4 +1,4 @@
-#include "ui/page_view.h"
+#include "ui/widgets/page_view.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>

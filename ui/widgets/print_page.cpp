@@ -1,4 +1,4 @@
-#include "ui/print_page.h"
+#include "ui/widgets/print_page.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -6,7 +6,7 @@
 #include <QUrl>
 #include <memory>
 
-#include "ui/qt_text.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 
