@@ -1,11 +1,6 @@
 #include "core/assessment_files.h"
 
-#include <filesystem>
-#include <system_error>
-
 namespace kel {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -80,22 +75,6 @@ int check_assessment_file(const std::string& path) {
     } catch (const std::exception&) {
         return 0;
     }
-}
-
-void copy_whole_file(const std::string& from, const std::string& to) {
-    const fs::path target(to);
-    fs::path fresh = target;
-    fresh += ".new";
-    std::error_code trouble;
-    fs::copy_file(from, fresh, fs::copy_options::overwrite_existing, trouble);
-    if (!trouble) fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, trouble);
-    // A journal left behind by the file that goes would be rolled back into the one that comes.
-    if (!trouble) fs::remove(to + "-journal", trouble);
-    if (!trouble) fs::rename(fresh, target, trouble);
-    if (!trouble) return;
-    std::error_code ignored;
-    fs::remove(fresh, ignored);
-    throw file_error(to, "the file could not be copied there: " + trouble.message() + ".");
 }
 
 }  // namespace kel

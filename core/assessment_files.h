@@ -1,5 +1,5 @@
-// Whole-file operations on assessments: the save and load of a grid by stored column names, what the years
-// dialog asks of other files, and copies.
+// Whole-file operations on assessments: the save and load of a grid by stored column names, and what the
+// years dialog asks of other files.
 #pragma once
 
 #include <optional>
@@ -30,8 +30,5 @@ std::string read_farm_name(const std::string& path);
 std::optional<date> read_assessment_year(const std::string& path);
 /// 1 if the file opens and [Type] can be opened, otherwise 0. Never throws.
 int check_assessment_file(const std::string& path);
-
-/// Plain copy of a whole file that is not open; an existing target is replaced. Throws file_error.
-void copy_whole_file(const std::string& from, const std::string& to);
 
 }  // namespace kel

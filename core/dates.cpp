@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
-#include <stdexcept>
 
 namespace kel {
 
@@ -118,8 +117,7 @@ date add_days(date d, int days) {
 
 date add_years(date d, int n) {
     const date moved = d + std::chrono::years{n};
-    if (!moved.ok()) throw std::invalid_argument(short_date_text(moved) + " is not a date");
-    return moved;
+    return moved.ok() ? moved : date{moved.year() / moved.month() / std::chrono::last};
 }
 
 year_limits year_limits_of(date kel_year_start) {

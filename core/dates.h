@@ -32,7 +32,7 @@ std::string_view month_name(int month);
 std::string_view weekday_name(date d);
 
 date add_days(date d, int days);
-/// Same day and month, n years on. Throws std::invalid_argument for 29 February in a year without that day.
+/// Same day and month, n years on or back; 28 February for 29 February in a year without that day.
 date add_years(date d, int n);
 
 /// The limits of the KEL year assessed and of the one before it, with their texts for captions and reports.

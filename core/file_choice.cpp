@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/assessment_files.h"
+#include "core/whole_file.h"
 
 namespace kel {
 

@@ -124,10 +124,10 @@ std::string shortest_text(double value) {
     return shortest(value);
 }
 
-std::string plain_text(float value) {
+std::string default_text(float value) {
     return cut_to_digits(value, std::numeric_limits<float>::digits10 + 1);
 }
-std::string plain_text(double value) {
+std::string default_text(double value) {
     return cut_to_digits(value, std::numeric_limits<double>::digits10);
 }
 
@@ -143,6 +143,34 @@ std::string format_fixed(float value, int places) {
 }
 std::string format_fixed(double value, int places) {
     return rounded_text(shortest(value), places, ties::away_from_zero);
+}
+
+float round_shown_half_even(float value, int places) {
+    return read_number<float>(rounded_text(default_text(value), places, ties::to_even));
+}
+double round_shown_half_even(double value, int places) {
+    return read_number<double>(rounded_text(default_text(value), places, ties::to_even));
+}
+
+std::string format_shown(float value, int places) {
+    return rounded_text(default_text(value), places, ties::away_from_zero);
+}
+std::string format_shown(double value, int places) {
+    return rounded_text(default_text(value), places, ties::away_from_zero);
+}
+
+float round_shown_half_away(float value, int places) {
+    return read_number<float>(format_shown(value, places));
+}
+double round_shown_half_away(double value, int places) {
+    return read_number<double>(format_shown(value, places));
+}
+
+float round_to_3(float value) {
+    return round_half_even(value, 3);
+}
+bool exceeds_limit(float value, float limit) {
+    return round_to_3(value) > limit;
 }
 
 }  // namespace kel

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kel {
 
@@ -28,6 +29,14 @@ struct file_request {
     bool operator==(const file_request&) const = default;
 };
 
+/// A list to be read, with two lines above it (either may be empty) and OK.
+struct titled_list {
+    std::string heading;
+    std::string note;
+    std::vector<std::string> rows;
+    bool operator==(const titled_list&) const = default;
+};
+
 inline constexpr std::string_view assessment_filter = "KEL database (*.kel)|*.kel";
 inline constexpr std::string_view line_break = "\r\n";
 
@@ -37,6 +46,8 @@ class prompts {
     /// Shows a box with its buttons and returns the one pressed.
     virtual answer ask(const message& box) = 0;
     void tell(const message& box) { ask(box); }
+    /// Returns when the list has been read.
+    virtual void show_list(const titled_list& list) = 0;
     /// The path chosen, or an empty text when cancelled. A save dialog adds the extension of its filter.
     virtual std::string file_to_open(const file_request& request) = 0;
     virtual std::string file_to_save(const file_request& request) = 0;

@@ -1,12 +1,11 @@
 #include "core/settings_store.h"
 
 #include <charconv>
-#include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
 #include "core/assessment_files.h"
+#include "core/whole_file.h"
 
 namespace kel {
 
@@ -92,23 +91,13 @@ void read_store(application_state& state) {
 }
 
 void write_store(const application_state& state) {
-    const auto slot = [](const std::string& path) { return path.empty() ? std::string("none") : path; };
-    const std::string target = state.places.settings_store();
-    const std::string fresh = target + ".new";
-    std::ofstream store(fresh, std::ios::binary | std::ios::trunc);
-    store << state.no_link_prompt << '\n' << state.no_related_prompt << '\n' << state.slot_selected << '\n';
-    store << slot(state.slot_current) << '\n'
-          << slot(state.slot_prev1) << '\n'
-          << slot(state.slot_prev2) << '\n';
-    store.close();
-    std::error_code trouble;
-    if (store) std::filesystem::rename(fresh, target, trouble);
-    if (!store || trouble) {
-        std::error_code ignored;
-        std::filesystem::remove(fresh, ignored);
-        throw file_error(target,
-                         "the settings could not be written. The folder may be read-only or the disc full.");
-    }
+    const auto slot = [](const std::string& path) { return (path.empty() ? "none" : path) + "\n"; };
+    const auto number = [](int value) { return std::to_string(value) + "\n"; };
+    write_whole_file(state.places.settings_store(),
+                     number(state.no_link_prompt) + number(state.no_related_prompt) +
+                         number(state.slot_selected) + slot(state.slot_current) + slot(state.slot_prev1) +
+                         slot(state.slot_prev2),
+                     "the settings");
 }
 
 }  // namespace kel

@@ -4,15 +4,6 @@
 
 namespace kel {
 
-namespace {
-
-// Only 29 February has no date one year on.
-date one_year_on(date d) {
-    return add_years(month_of(d) == 2 && day_of(d) == 29 ? add_days(d, -1) : d, 1);
-}
-
-}  // namespace
-
 float total_n_kg_per_ha(float amount_kg_per_ha, float n_content_percent) {
     return round_half_even(amount_kg_per_ha * n_content_percent / 100.0F, 1);
 }
@@ -30,7 +21,7 @@ std::optional<std::string_view> content_after_amount(std::string_view amount) {
 }
 
 calendar_window calendar_window_of(date kel_year_start) {
-    return {kel_year_start, one_year_on(kel_year_start)};
+    return {kel_year_start, add_years(kel_year_start, 1)};
 }
 
 }  // namespace kel

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "core/numbers.h"
+
 namespace kel {
 
 namespace {
@@ -14,21 +16,13 @@ struct field_history {
 };
 using histories = std::unordered_map<std::string_view, field_history>;
 
-// 29 February has no such day a year earlier. The twelve months that end on it begin on 1 March, so that the
-// day before them is 28 February.
-date one_year_before(date day) {
-    const date before = day - std::chrono::years{1};
-    if (before.ok()) return before;
-    return before.year() / before.month() / std::chrono::last;
-}
-
 // In single precision and in this order: the application itself, the table's others in row order, last
 // year's in stored order.
 float sum_at(const dated_rate& application, const field_history& history) {
     float sum = application.total_n_kg_per_ha;
     for (const dated_rate* other : history.table)
         if (other != &application && other->day <= application.day) sum += other->total_n_kg_per_ha;
-    const date a_year_before = one_year_before(application.day);
+    const date a_year_before = add_years(application.day, -1);
     for (const dated_rate* past : history.last_year)
         if (past->day > a_year_before && past->day <= application.day) sum += past->total_n_kg_per_ha;
     return sum;
@@ -53,7 +47,7 @@ std::set<std::string, std::less<>> fields_over_limit(
     std::set<std::string, std::less<>> over;
     const auto beyond = [](const auto& history) {
         return std::any_of(history.table.begin(), history.table.end(), [&](const auto* row) {
-            return sum_at(*row, history) > rolling_field_limit_kg_per_ha;
+            return exceeds_limit(sum_at(*row, history), rolling_field_limit_kg_per_ha);
         });
     };
     for (const auto& [field, history] : by_field(table, past))

@@ -90,7 +90,7 @@ void write_total_n(text_grid& table, int row) {
 void write_total_n_of_analysis(text_grid& table, int row) {
     const double total = total_n_rate_of_analysis(leading_number(table.cell(row, col::n_content)),
                                                   leading_number(table.cell(row, col::rate)));
-    table.set_cell(row, col::total_n, plain_text(total));
+    table.set_cell(row, col::total_n, default_text(total));
 }
 
 percentage_outcome write_percentage(text_grid& table, int row, int& working_code) {

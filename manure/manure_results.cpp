@@ -3,9 +3,9 @@
 #include <unordered_map>
 #include <utility>
 
-#include "core/assessment_files.h"
 #include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "core/whole_file.h"
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "manure/manure_report.h"

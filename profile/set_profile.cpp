@@ -1,8 +1,8 @@
 // Set Profile: its tests and questions in their order, the new farm's file, and the save.
-#include "core/assessment_files.h"
 #include "core/file_choice.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
+#include "core/whole_file.h"
 #include "profile/field_changes.h"
 #include "profile/profile_messages.h"
 #include "profile/profile_module.h"

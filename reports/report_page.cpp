@@ -1,9 +1,6 @@
 #include "reports/report_page.h"
 
-#include <filesystem>
-#include <fstream>
-
-#include "core/file_error.h"
+#include "core/whole_file.h"
 
 namespace kel {
 
@@ -144,17 +141,10 @@ page_lines framed_page(const page_lines& body, date today, std::string_view deve
 }
 
 void write_page(const std::string& path, const page_lines& page) {
-    const std::string fresh = path + ".new";
-    std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
+    std::string text;
     for (const std::string& line : page)
-        out << line << '\n';
-    out.close();
-    std::error_code trouble;
-    if (out) std::filesystem::rename(fresh, path, trouble);
-    if (out && !trouble) return;
-    std::error_code ignored;
-    std::filesystem::remove(fresh, ignored);
-    throw file_error(path, "the report could not be written. The folder may be read-only or the disc full.");
+        text.append(line).append("\n");
+    write_whole_file(path, text, "the report");
 }
 
 }  // namespace kel

@@ -1,7 +1,7 @@
 #include "reports/viewer_rules.h"
 
-#include "core/assessment_files.h"
 #include "core/file_choice.h"
+#include "core/whole_file.h"
 #include "reports/contents_page.h"
 
 namespace kel {

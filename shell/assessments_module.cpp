@@ -6,9 +6,9 @@
 #include <system_error>
 #include <vector>
 
-#include "core/assessment_files.h"
 #include "core/file_choice.h"
 #include "core/settings_store.h"
+#include "core/whole_file.h"
 #include "reports/contents_page.h"
 #include "shell/assessments_messages.h"
 #include "shell/reopen_assessment.h"

@@ -15,8 +15,7 @@ enum class year_data_mode {
 };
 
 /// Works on [Crops], [Inorganic N], [Manure_applic] and [Site] of the file, as one transaction. Throws
-/// file_error, and std::invalid_argument for 29 February moved to a year without that day; the file is then
-/// as it was.
+/// file_error; the file is then as it was.
 void clear_year_data(const std::string& path, int years, year_data_mode mode);
 
 /// The same within the caller's transaction.

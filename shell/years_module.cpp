@@ -6,6 +6,7 @@
 #include "core/assessment_files.h"
 #include "core/file_choice.h"
 #include "core/settings_store.h"
+#include "core/whole_file.h"
 #include "shell/assessments_messages.h"
 #include "shell/reopen_assessment.h"
 #include "shell/year_data.h"

@@ -44,7 +44,7 @@ std::optional<std::string_view> slurry_volume(std::string_view unit) {
 
 std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number) {
     const double product = leading_number(volume) / 100 * leading_number(percent) * leading_number(number);
-    return plain_text(product);
+    return default_text(product);
 }
 
 }  // namespace kel

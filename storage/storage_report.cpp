@@ -22,11 +22,11 @@ constexpr std::array<std::string_view, months_in_year> month_letters{"J", "F", "
                                                                      "J", "A", "S", "O", "N", "D"};
 
 std::string figure(double value) {
-    return plain_text(value);
+    return default_text(value);
 }
 
 std::string figure(float value) {
-    return plain_text(value);
+    return default_text(value);
 }
 
 report_cell cell(std::string text, int columns = 1, int rows = 1) {

@@ -38,6 +38,12 @@ class walking_person : public prompts {
         log_ << "[" << box.title << "] " << box.text << "\n\n";
         return box.buttons == message_buttons::ok ? answer::ok : answer::yes;
     }
+    void show_list(const titled_list& list) override {
+        log_ << list.heading << "\n" << list.note << "\n";
+        for (const std::string& row : list.rows)
+            log_ << "  " << row << "\n";
+        log_ << "\n";
+    }
     std::string file_to_open(const file_request&) override { return next(); }
     std::string file_to_save(const file_request&) override { return next(); }
     void lay_ready(std::string path) { paths_.push_back(std::move(path)); }

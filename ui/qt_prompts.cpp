@@ -1,8 +1,13 @@
 #include "ui/qt_prompts.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 #include "ui/widgets/qt_text.h"
 
@@ -50,6 +55,39 @@ QString readable(std::string_view text) {
     return shown;
 }
 
+QLabel* new_line(const char* name, const std::string& text) {
+    auto* line = new QLabel(readable(text));
+    line->setObjectName(name);
+    line->setTextFormat(Qt::PlainText);
+    line->setWordWrap(true);
+    line->setHidden(text.empty());
+    return line;
+}
+
+class list_dialog : public QDialog {
+  public:
+    list_dialog(const titled_list& list, QWidget* parent) : QDialog(parent) {
+        setObjectName("CropBox");
+        setWindowTitle(qt(program_title));
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(new_line("Label1", list.heading));
+        layout->addWidget(new_line("Label2", list.note));
+        auto* rows = new QListWidget;
+        rows->setObjectName("List1");
+        rows->setAccessibleName(qt(list.heading));
+        for (const std::string& row : list.rows)
+            rows->addItem(qt(row));
+        layout->addWidget(rows);
+        auto* ok = new QPushButton(QObject::tr("OK"));
+        ok->setObjectName("OKButton");
+        ok->setDefault(true);
+        connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+        layout->addWidget(ok, 0, Qt::AlignRight);
+        ok->setFocus();
+        resize(fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 24);
+    }
+};
+
 QString shown_folder(const std::string& folder) {
     return folder.empty() ? QDir::homePath() : qt(folder);
 }
@@ -69,6 +107,12 @@ answer qt_prompts::ask(const message& box) {
     const int pressed = shown.exec();
     QApplication::restoreOverrideCursor();
     return answer_of(pressed, box.buttons);
+}
+
+void qt_prompts::show_list(const titled_list& list) {
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    list_dialog(list, QApplication::activeWindow()).exec();
+    QApplication::restoreOverrideCursor();
 }
 
 std::string qt_prompts::chosen_file(const file_request& request, bool save) {

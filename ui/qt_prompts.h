@@ -14,6 +14,7 @@ inline constexpr std::string_view program_title = "KEL Calculator";
 class qt_prompts : public prompts {
   public:
     answer ask(const message& box) override;
+    void show_list(const titled_list& list) override;
     std::string file_to_open(const file_request& request) override;
     std::string file_to_save(const file_request& request) override;
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace kel {
@@ -28,9 +29,9 @@ TEST(Numbers, ShortestTextReadsBackAndNeverUsesAnExponent) {
     EXPECT_EQ(shortest_text(0.00001F), "0.00001");
     EXPECT_EQ(shortest_text(-0.0F), "0");
     EXPECT_EQ(shortest_text(0.1), "0.1");
-    EXPECT_EQ(plain_text(2.7 * 1.1), "2.97");
-    EXPECT_EQ(plain_text(58.0F / 1000 * 380), "22.04");
-    EXPECT_EQ(plain_text(1.93 / 100 * 50 * 100), "96.5");
+    EXPECT_EQ(default_text(2.7 * 1.1), "2.97");
+    EXPECT_EQ(default_text(58.0F / 1000 * 380), "22.04");
+    EXPECT_EQ(default_text(1.93 / 100 * 50 * 100), "96.5");
     EXPECT_EQ(shortest_text(std::numeric_limits<float>::infinity()), "0");
     for (const float value : {0.28F, 116.0F, 27.972F, 16777216.0F, 1.17549435e-38F})
         EXPECT_EQ(leading_single(shortest_text(value)), value);
@@ -52,6 +53,22 @@ TEST(Numbers, RoundingJudgesTiesOnTheDecimalText) {
         EXPECT_EQ(format_fixed(c.value, c.places), c.away) << c.value;
     }
     EXPECT_EQ(round_half_even(1.015, 2), 1.02);
+}
+
+TEST(Numbers, NoiseBehindTheDigitsOfTheTypeMakesNoTieAndNoBreach) {
+    const float below = std::nextafter(61.25F, 0.0F), above = std::nextafter(61.35F, 99.0F);
+    EXPECT_EQ(default_text(below), "61.25");
+    EXPECT_EQ(format_fixed(below, 1), "61.2");
+    EXPECT_EQ(format_shown(below, 1), "61.3");
+    EXPECT_EQ(round_shown_half_away(-below, 1), -61.3F);
+    EXPECT_EQ(round_half_even(above, 1), 61.4F);
+    EXPECT_EQ(round_shown_half_even(std::nextafter(61.25F, 99.0F), 1), 61.2F);
+    EXPECT_EQ(round_shown_half_even(0.1 + 0.2 - 0.05, 1), 0.2) << "0.25000000000000006";
+    EXPECT_EQ(format_shown(1.005 * 3, 2), "3.02") << "3.0149999999999997";
+
+    EXPECT_FALSE(exceeds_limit(61.300003F + 188.70001F, 250.0F));
+    EXPECT_FALSE(exceeds_limit(250.0004F, 250.0F));
+    EXPECT_TRUE(exceeds_limit(250.001F, 250.0F));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <array>
 #include <filesystem>
 
+#include "core/whole_file.h"
 #include "tests/support/farm_files.h"
 
 namespace kel::test {

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "core/assessment_files.h"
 #include "core/numbers.h"
+#include "core/whole_file.h"
 #include "inorganic/inorganic_messages.h"
 #include "inorganic/inorganic_module.h"
 #include "land/land_module.h"
@@ -42,6 +42,7 @@ std::vector<sample_year> sample_years() {
 /// Says yes to everything and keeps what it was told.
 struct agreeing_person : prompts {
     answer ask(const message& box) override { return told.push_back(box), answer::yes; }
+    void show_list(const titled_list&) override {}
     std::string file_to_open(const file_request&) override { return {}; }
     std::string file_to_save(const file_request&) override { return {}; }
     std::vector<message> told;

@@ -26,7 +26,10 @@ TEST(FieldLimitCheck, SumsUpToTheDayOfAnApplicationAndPassesExactly250) {
         {{on(1, 2, 2025, 200), on(1, 3, 2025, 60)}, true},
         {{on(1, 3, 2025, 60), on(1, 2, 2025, 200)}, true},  // in whatever order
         {{on(1, 2, 2025, 200), on(1, 3, 2025, 50)}, false},
-        {{on(1, 2, 2025, 250.0001F)}, true},
+        // Judged on the sum to 3 decimals: what a person would add up to exactly 250 passes.
+        {{on(1, 2, 2025, 61.300003F), on(1, 3, 2025, 188.70001F)}, false},
+        {{on(1, 2, 2025, 250.0004F)}, false},
+        {{on(1, 2, 2025, 250.001F)}, true},
         {{on(1, 2, 2025, 130), on(1, 2, 2025, 130)}, true},  // on the same day
         {{on(1, 2, 2025, 200), on(1, 3, 2025, 200, "East Muir")}, false},
         // No lower bound within the table, however far apart the days are.
@@ -68,9 +71,10 @@ TEST(FieldLimitCheck, TheYearThatEndsOn29FebruaryBeginsOnFirstMarch) {
 }
 
 TEST(FieldLimitCheck, SinglePrecisionSumStartsAtTheRowItself) {
-    // Next to 250 a single loses 0.000005; two of them added first are kept.
-    EXPECT_TRUE(over({on(1, 2, 2025, 5e-6F), on(1, 2, 2025, 5e-6F), on(1, 2, 2025, 250)}));
-    EXPECT_FALSE(over({on(1, 2, 2025, 5e-6F), on(1, 2, 2025, 5e-6F), on(2, 2, 2025, 250)}));
+    // Next to 250.0005 a single loses 0.000005; two of them added first are kept and reach the next
+    // thousandth.
+    EXPECT_TRUE(over({on(1, 2, 2025, 5e-6F), on(1, 2, 2025, 5e-6F), on(1, 2, 2025, 250.0005F)}));
+    EXPECT_FALSE(over({on(1, 2, 2025, 5e-6F), on(1, 2, 2025, 5e-6F), on(2, 2, 2025, 250.0005F)}));
 }
 
 }  // namespace kel

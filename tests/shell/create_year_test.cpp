@@ -150,12 +150,11 @@ TEST_F(YearData, MovedDatesKeepRowsAndEmptyCells) {
     EXPECT_EQ(column_of(file, "Site", "End of season date"), texts{"2027-10-31"});
 }
 
-TEST_F(YearData, LeapDayWithoutItsDayMovesNothingAtAll) {
+TEST_F(YearData, LeapDayMovesToTheLastOfFebruary) {
     const std::string file = make_farm("farm.kel", {});
-    add_row(file, "Inorganic N", {{"Date", "2025-03-01"}});
     add_row(file, "Site", {{"End of season date", "2024-02-29"}});
-    EXPECT_THROW(clear_year_data(file, 1, year_data_mode::move_dates), std::invalid_argument);
-    EXPECT_EQ(column_of(file, "Inorganic N", "Date"), texts{"2025-03-01"});
+    clear_year_data(file, 1, year_data_mode::move_dates);
+    EXPECT_EQ(column_of(file, "Site", "End of season date"), texts{"2025-02-28"});
 }
 
 }  // namespace kel::test

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "core/assessment_files.h"
+#include "core/whole_file.h"
 
 namespace kel::test {
 

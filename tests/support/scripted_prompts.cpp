@@ -13,12 +13,17 @@ scripted_prompts& scripted_prompts::expect(const message& box) {
 }
 
 scripted_prompts& scripted_prompts::expect(const message& box, answer reply) {
-    script_.push_back({box, reply, false, {}});
+    script_.push_back({.box = box, .reply = reply});
+    return *this;
+}
+
+scripted_prompts& scripted_prompts::expect_list(const titled_list& list) {
+    script_.push_back({.box = {"(list)", list.heading}, .list = list});
     return *this;
 }
 
 scripted_prompts& scripted_prompts::expect_file(const std::string& title, const std::string& path) {
-    script_.push_back({{title, {}}, answer::ok, true, path});
+    script_.push_back({.box = {title, {}}, .file = true, .path = path});
     return *this;
 }
 
@@ -29,7 +34,7 @@ void scripted_prompts::verify_done() {
 }
 
 answer scripted_prompts::ask(const message& box) {
-    if (script_.empty() || script_.front().file) {
+    if (script_.empty() || script_.front().file || script_.front().list) {
         ADD_FAILURE() << "unexpected box: [" << box.title << "] " << box.text;
         return box.buttons == message_buttons::ok ? answer::ok : answer::no;
     }
@@ -40,6 +45,18 @@ answer scripted_prompts::ask(const message& box) {
     EXPECT_EQ(next.box.kind, box.kind) << box.title;
     EXPECT_EQ(next.box.buttons, box.buttons) << box.title;
     return next.reply;
+}
+
+void scripted_prompts::show_list(const titled_list& list) {
+    if (script_.empty() || !script_.front().list) {
+        ADD_FAILURE() << "unexpected list: " << list.heading;
+        return;
+    }
+    const titled_list expected = *script_.front().list;
+    script_.pop_front();
+    EXPECT_EQ(expected.heading, list.heading);
+    EXPECT_EQ(expected.note, list.note);
+    EXPECT_EQ(expected.rows, list.rows) << list.heading;
 }
 
 std::string scripted_prompts::file_chosen(const file_request& request) {

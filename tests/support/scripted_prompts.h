@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "core/prompts.h"
@@ -17,6 +18,8 @@ class scripted_prompts : public prompts {
     scripted_prompts& expect(const message& box);
     /// Expects this box next and gives this answer.
     scripted_prompts& expect(const message& box, answer reply);
+    /// Expects this list next.
+    scripted_prompts& expect_list(const titled_list& list);
     /// Expects an open or save dialog of this title next and chooses the path; an empty one cancels.
     scripted_prompts& expect_file(const std::string& title, const std::string& path);
 
@@ -25,15 +28,17 @@ class scripted_prompts : public prompts {
     const std::string& last_folder() const { return last_folder_; }
 
     answer ask(const message& box) override;
+    void show_list(const titled_list& list) override;
     std::string file_to_open(const file_request& request) override;
     std::string file_to_save(const file_request& request) override;
 
   private:
     struct step {
-        message box;
+        message box{};
         answer reply = answer::ok;
         bool file = false;
-        std::string path;
+        std::string path{};
+        std::optional<titled_list> list{};
     };
     std::string file_chosen(const file_request& request);
     std::deque<step> script_;

@@ -9,9 +9,10 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/assessment_files.h"
+#include "core/assessment_store.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
+#include "core/whole_file.h"
 #include "land/stock_nitrogen.h"
 
 namespace kel::bench {
@@ -196,6 +197,9 @@ table_rows rows_of(const std::string& file, const std::string& table) {
 
 answer silent_person::ask(const message& box) {
     stop_at(box.title, box.text);
+}
+void silent_person::show_list(const titled_list& list) {
+    stop_at(list.heading, list.note);
 }
 std::string silent_person::file_to_open(const file_request& request) {
     stop_at(request.title, "(open)");

@@ -38,6 +38,7 @@ table_rows rows_of(const std::string& file, const std::string& table);
 class silent_person : public prompts {
   public:
     answer ask(const message& box) override;
+    void show_list(const titled_list& list) override;
     std::string file_to_open(const file_request& request) override;
     std::string file_to_save(const file_request& request) override;
 };

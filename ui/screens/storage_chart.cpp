@@ -1,8 +1,8 @@
 #include "ui/screens/storage_chart.h"
 
+#include <QBuffer>
 #include <QEvent>
 #include <QGraphicsLayout>
-#include <QImageWriter>
 #include <QPalette>
 #include <QToolTip>
 #include <QtCharts/QBarCategoryAxis>
@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/file_error.h"
+#include "core/whole_file.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -171,8 +171,11 @@ void storage_chart::save_picture(const std::string& path) const {
     print.show_percents(percents_, axis_);
     print.resize(picture_px);
     const QImage picture = print.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QImageWriter writer(qt(path));
-    if (!writer.write(picture)) throw file_error(path, from_qt(writer.errorString()));
+    QByteArray file;
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "BMP");
+    write_whole_file(path, {file.constData(), static_cast<std::size_t>(file.size())}, "the chart");
 }
 
 }  // namespace kel

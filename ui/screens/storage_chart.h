@@ -22,7 +22,7 @@ class storage_chart : public QChartView {
 
     /// Moves the twelve points to these figures.
     void show_percents(const monthly_values& percents, const percent_axis& axis);
-    /// Writes the chart as a picture, in the format that the file's name asks for. Throws file_error.
+    /// Writes the chart as a picture, a bitmap. Throws file_error.
     void save_picture(const std::string& path) const;
 
   protected:

@@ -1,0 +1,16 @@
+// Files that are not databases are written whole: aside, then renamed over the old one, which stays when the
+// folder is read-only or the disc full.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kel {
+
+/// Puts `content` in place of the file. `what` names it for the person ("the settings"). Throws file_error.
+void write_whole_file(const std::string& path, std::string_view content, std::string_view what);
+
+/// Plain copy of a whole file that is not open; an existing target is replaced. Throws file_error.
+void copy_whole_file(const std::string& from, const std::string& to);
+
+}  // namespace kel
