@@ -13,6 +13,9 @@ namespace kel {
 /// Throws file_error.
 std::optional<monthly_values> monthly_rain(const database& climate, std::string_view town);
 
+/// The same of the climate table's first row; nothing from an empty table.
+std::optional<monthly_values> first_monthly_rain(const database& climate);
+
 /// Cubic metres of the rain (mm) on the area.
 float rain_volume(float rain_mm, float area_sq_m);
 

@@ -1,4 +1,4 @@
--- Nitrogen tables of the grassland module: grass_recs.csv and grass_adjust.csv. All figures are kg N/ha in one season.
+-- Nitrogen tables of the grassland module: grass_recs.csv, grass_adjust.csv and grass_source.csv. All figures are kg N/ha in one season.
 -- Keys are compared as text.
 
 -- Requirement of the reference management, by clover content, site class and nitrogen residue group.
@@ -20,4 +20,9 @@ CREATE TABLE [Grass_adjust] (
     [Cuts]       TEXT,
     [Apps]       TEXT,
     [Adjustment] INTEGER
+);
+
+-- Where the figures come from, as the results page and the report tell it. At most one row.
+CREATE TABLE [Grass_source] (
+    [Source] TEXT
 );

@@ -1,0 +1,81 @@
+// The reference tables: what they answer, and that a damaged one is refused with the cell's name.
+#include "grass/grass_tables.h"
+
+#include <gtest/gtest.h>
+
+#include "core/file_error.h"
+#include "core/whole_file.h"
+#include "tests/support/farm_files.h"
+
+namespace kel::test {
+
+namespace {
+const std::string built = std::string(KEL_STAGE_DIR) + "/kel_calc/dbases/wren_grass.mdb";
+}
+
+TEST(GrassTables, AnswerByTheWholeKey) {
+    const grass_tables tables{database(built)};
+    EXPECT_EQ(tables.grass_rec_value("Low", "2", "Group 3"), 225.0F);
+    EXPECT_EQ(tables.grass_rec_value("High", "5", "Group 6"), 20.0F);
+    EXPECT_EQ(tables.grass_rec_value("Low", "6", "Group 3"), std::nullopt);
+    EXPECT_EQ(tables.grass_adjustment("Low", "Silage", "2", "0"), -25.0F);
+    EXPECT_EQ(tables.grass_adjustment("High", "Grazing", "0", "2"), 10.0F);
+    EXPECT_EQ(tables.grass_adjustment("Low", "Silage", "-", "0"), std::nullopt);
+    EXPECT_NE(tables.source().find("not an official table"), std::string::npos);
+}
+
+class DamagedGrassTables : public farm_test {
+  protected:
+    DamagedGrassTables() { copy_whole_file(built, copy); }
+    std::string refusal() const {
+        try {
+            const grass_tables read{database(copy)};
+        } catch (const file_error& failure) {
+            EXPECT_EQ(failure.file(), copy);
+            return failure.trouble();
+        }
+        return "read";
+    }
+    void set(const char* table, const char* column, const char* text) const {
+        const database db(copy);
+        recordset row = db.open(table);
+        row.move_next();
+        row.edit();
+        row.set(column, text);
+        row.update();
+    }
+    const std::string copy = path("tables.mdb");
+};
+
+TEST_F(DamagedGrassTables, NoNumberIsRefused) {
+    set("Grass_Recs", "Group 3", "55 kg");
+    EXPECT_EQ(refusal(),
+              "in the table [Grass_Recs] the cell Clover High, Site Class 2, Group 3 is no number: 55 kg.");
+}
+
+TEST_F(DamagedGrassTables, AnEmptyFigureIsRefused) {
+    set("Grass_adjust", "Adjustment", "");
+    EXPECT_EQ(refusal(),
+              "in the table [Grass_adjust] the cell Clover High, Management Grazing, Cuts 0, Apps 1 has no "
+              "figure.");
+}
+
+TEST_F(DamagedGrassTables, ADoubledRowIsRefused) {
+    set("Grass_Recs", "Site Class", "1");
+    EXPECT_EQ(refusal(),
+              "in the table [Grass_Recs] the cell Clover High, Site Class 1, Group 1 is there twice.");
+}
+
+TEST_F(DamagedGrassTables, AMissingRowIsRefused) {
+    set("Grass_adjust", "Apps", "7");
+    EXPECT_EQ(
+        refusal(),
+        "in the table [Grass_adjust] the cell Clover High, Management Grazing, Cuts 0, Apps 1 is missing.");
+}
+
+TEST_F(DamagedGrassTables, AnAdvisersFiguresAreTaken) {
+    set("Grass_Recs", "Group 3", "-12.5");
+    EXPECT_EQ(grass_tables(database(copy)).grass_rec_value("High", "2", "Group 3"), -12.5F);
+}
+
+}  // namespace kel::test
