@@ -1,7 +1,9 @@
 #include "tools/screen_driver.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
@@ -26,8 +28,14 @@ QWidget* focused() {
 }
 
 void settle() {
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QApplication::processEvents();
+    constexpr int longest_ms = 60'000;
+    const QDeadlineTimer limit(longest_ms);
+    bool busy = true;
+    while (busy) {
+        if (limit.hasExpired()) throw std::runtime_error("the event loop does not come to rest");
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        busy = QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+    }
 }
 
 void press(QWidget* screen, const QString& button) {

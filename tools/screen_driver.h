@@ -24,7 +24,7 @@ T* control(QWidget* screen, const QString& name) {
 /// The control that has the keyboard's focus; throws if none has.
 QWidget* focused();
 
-/// Lets the event loop deliver everything that is due.
+/// Lets the event loop deliver everything that is due, and what comes of it, until nothing is left to do.
 void settle();
 /// Presses a button; throws if it is disabled or not shown.
 void press(QWidget* screen, const QString& button);

@@ -18,12 +18,13 @@ namespace kel {
 
 namespace {
 
-// Enter presses the button that has the focus, in windows as in dialogs.
-bool press_with_enter(QObject* receiver, const QKeyEvent& event) {
-    auto* button = qobject_cast<QPushButton*>(receiver);
-    if (!button || (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)) return false;
-    button->click();
-    return true;
+// Enter presses the button that has the focus, in windows as in dialogs. Alt and its letter press a button at
+// once: the toolkit takes a tenth of a second, in which what is typed next still goes to the old screen.
+bool presses_button(const QEvent& event) {
+    if (event.type() == QEvent::Shortcut) return !static_cast<const QShortcutEvent&>(event).isAmbiguous();
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -48,9 +49,10 @@ kel_application::kel_application(int& argc, char** argv) : QApplication(argc, ar
 
 bool kel_application::notify(QObject* receiver, QEvent* event) {
     try {
-        if (event->type() == QEvent::KeyPress && press_with_enter(receiver, *static_cast<QKeyEvent*>(event)))
-            return true;
-        return QApplication::notify(receiver, event);
+        auto* button = presses_button(*event) ? qobject_cast<QPushButton*>(receiver) : nullptr;
+        if (!button) return QApplication::notify(receiver, event);
+        button->click();
+        return true;
     } catch (const std::exception& failure) {
         if (person_) person_->tell(stop_box(failure));
         return true;

@@ -22,21 +22,25 @@ namespace kel::test {
 
 using texts = std::vector<std::string>;
 
+/// Waits for what must come about however slow the machine is.
+template <class Condition>
+void wait_for(Condition condition, const char* what) {
+    constexpr int longest_ms = 30'000;
+    if (!QTest::qWaitFor(condition, longest_ms)) throw std::runtime_error(what);
+}
+/// The control that the next key goes to, in the window in front.
 inline QWidget* focus() {
-    // A window that has come to view gets the focus from the platform a little later.
-    if (!QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }, 500))
-        throw std::runtime_error("nothing has the focus");
+    drive::settle();
+    wait_for([] { return QApplication::activeWindow() && QApplication::focusWidget(); },
+             "nothing has the focus");
     return QApplication::focusWidget();
 }
 inline std::string focus_name() {
     return from_qt(focus()->objectName());
 }
 inline void press_key(Qt::Key key, int times = 1, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    constexpr int button_goes_down_ms = 120;  // before one that was pressed by its letter acts
-    for (int i = 0; i < times; ++i) {
+    for (int i = 0; i < times; ++i)
         drive::key(focus(), key, modifiers);
-        if (modifiers & Qt::AltModifier) QTest::qWait(button_goes_down_ms);
-    }
 }
 inline void type_text(const QString& text) {
     QTest::keyClicks(focus(), text);
@@ -45,8 +49,6 @@ inline void type_text(const QString& text) {
 /// Opens the box of the grid's current cell, types or picks by typing, confirms.
 inline void enter_text(const QString& text) {
     press_key(Qt::Key_Return);
-    // A list takes letters that follow soon for the same word, also across two uses of a box.
-    if (qobject_cast<QListWidget*>(focus())) QTest::qWait(QApplication::keyboardInputInterval() + 20);
     type_text(text);
     press_key(Qt::Key_Return);
 }

@@ -10,5 +10,8 @@ int main(int argc, char** argv) {
     qputenv("LC_ALL", "en_US.UTF-8");
     testing::InitGoogleTest(&argc, argv);
     const kel::kel_application application(argc, argv);
+    // However slowly the letters come, those typed into a list are one word.
+    constexpr int one_word_ms = 3'600'000;
+    QApplication::setKeyboardInputInterval(one_word_ms);
     return RUN_ALL_TESTS();
 }

@@ -1,8 +1,10 @@
 // A list in which nothing is chosen until the person chooses. The toolkit makes the first entry current as
-// soon as the list has the focus, and Down would then pass it by.
+// soon as the list has the focus, and Down would then pass it by. Letters typed into it spell one word, a new
+// one each time that the list gets the focus: what was typed into it before would otherwise stand in front.
 #pragma once
 
 #include <QListWidget>
+#include <QSignalBlocker>
 #include <optional>
 #include <string>
 
@@ -23,7 +25,10 @@ class choice_list : public QListWidget {
   protected:
     void focusInEvent(QFocusEvent* event) override {
         QListWidget::focusInEvent(event);
-        if (selectedItems().isEmpty()) setCurrentItem(nullptr);
+        const QSignalBlocker unchanged(this);
+        const auto items = selectedItems();
+        keyboardSearch({});  // ends the word, but also moves on by an entry
+        setCurrentItem(items.isEmpty() ? nullptr : items.front());
     }
 };
 
