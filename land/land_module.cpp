@@ -7,6 +7,7 @@
 #include "core/numbers.h"
 #include "land/land_messages.h"
 #include "land/land_report.h"
+#include "land/stock_nitrogen.h"
 
 namespace kel {
 
@@ -53,43 +54,46 @@ void land_module::load_land_stuff() {
         person_.tell(module_messages::field_does_not_exist(name));
 }
 
-land_opening land_module::click_land(int /*row*/, int column) {
+opening land_module::click_land(int row, int column) {
     using namespace land_messages;
+    const auto opens = [&](land_box box, std::string_view caption, std::string_view instruction) {
+        return opening(box, caption, instruction, {{part_kind::number, land_.cell(row, column)}});
+    };
     switch (column) {
         case land_column::field:
-            return {land_box::field, field_caption, field_instruction};
+            return {land_box::field,
+                    field_caption,
+                    field_instruction,
+                    {{part_kind::list, land_.cell(row, column), field_names_}}};
         case land_column::grass:
-            return {land_box::area, grass_caption, grass_instruction};
+            return opens(land_box::area, grass_caption, grass_instruction);
         case land_column::not_in_grass:
-            return {land_box::area, not_in_grass_caption, not_in_grass_instruction};
+            return opens(land_box::area, not_in_grass_caption, not_in_grass_instruction);
         case land_column::buffer:
-            return {land_box::deduction, deduction_caption, buffer_instruction};
+            return opens(land_box::deduction, deduction_caption, buffer_instruction);
         case land_column::slope:
-            return {land_box::deduction, deduction_caption, slope_instruction};
+            return opens(land_box::deduction, deduction_caption, slope_instruction);
         case land_column::other_deduction:
-            return {land_box::deduction, deduction_caption, other_deduction_instruction};
+            return opens(land_box::deduction, deduction_caption, other_deduction_instruction);
         default:
-            person_.tell(module_messages::calculation);
-            return {};
+            return opens_none(person_, module_messages::calculation);
     }
 }
 
-land_opening land_module::click_animals(int /*row*/, int column) {
+opening land_module::click_animals(int row, int column) {
     using namespace land_messages;
+    const std::string& text = animals_.cell(row, column);
     switch (column) {
         case stock_column::stock:
-            return {land_box::stock, stock_caption, stock_box_instruction};
+            return {land_box::stock,
+                    stock_caption,
+                    stock_box_instruction,
+                    {{part_kind::list, text, choices_of(stock_types(), &stock_type::name)}}};
         case stock_column::number:
-            return {land_box::number, number_caption, number_instruction};
+            return {land_box::number, number_caption, number_instruction, {{part_kind::number, text}}};
         default:
-            person_.tell(module_messages::calculation);
-            return {};
+            return opens_none(person_, module_messages::calculation);
     }
-}
-
-bool land_module::refuse(const message& reason) {
-    person_.tell(reason);
-    return false;
 }
 
 bool land_module::field_in_other_row(int row, std::string_view name) const {
@@ -98,9 +102,9 @@ bool land_module::field_in_other_row(int row, std::string_view name) const {
     return false;
 }
 
-bool land_module::enter_field(int row, const std::string& name) {
-    if (name.empty()) return refuse(land_messages::no_field_id);
-    if (field_in_other_row(row, name)) return refuse(land_messages::field_in_grid);
+outcome land_module::enter_field(int row, const std::string& name) {
+    if (name.empty()) return refuse(person_, land_messages::no_field_id);
+    if (field_in_other_row(row, name)) return refuse(person_, land_messages::field_in_grid);
     // Read before the first cell is written: a file that cannot be read must leave the row as it was.
     const recordset field = database(state_.assess_file).open("Field Data", "Field Name", name);
     std::string soil = field.eof() ? "" : field.text("Soil");
@@ -110,7 +114,7 @@ bool land_module::enter_field(int row, const std::string& name) {
     land_.set_cell(row, land_column::soil, std::move(soil));
     land_.set_cell(row, land_column::total_area, std::move(size));
     recalculate_land_row(land_, row);
-    return true;
+    return box_closes();
 }
 
 void land_module::set_area(int row, int column, const area_pair& areas) {
@@ -119,77 +123,76 @@ void land_module::set_area(int row, int column, const area_pair& areas) {
     recalculate_land_row(land_, row);
 }
 
-bool land_module::enter_area(int row, int column, const std::string& text) {
-    if (!holds_number(text)) return refuse(land_messages::no_area);
+outcome land_module::enter_area(int row, int column, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, land_messages::no_area);
     const area_pair areas =
         split_field_area(leading_single(text), land_.number(row, land_column::total_area));
     if (areas.cut_to_field) person_.tell(land_messages::area_adjusted);
     set_area(row, column, areas);
-    return true;
+    return box_closes();
 }
 
-bool land_module::enter_deduction(int row, int column, const std::string& text) {
-    if (!holds_number(text)) return refuse(land_messages::no_deduction);
+outcome land_module::enter_deduction(int row, int column, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, land_messages::no_deduction);
     const float room = room_for_deduction(land_, row, column);
     const bool too_much = leading_single(text) > room;
     if (too_much) person_.tell(land_messages::figure_amended);
     land_.set_cell(row, column, too_much ? shortest_text(room) : text);
     recalculate_land_row(land_, row);
-    return true;
+    return box_closes();
 }
 
-bool land_module::enter_stock(int row, const std::string& type) {
-    if (type.empty()) return refuse(land_messages::no_livestock);
+outcome land_module::enter_stock(int row, const std::string& type) {
+    if (type.empty()) return refuse(person_, land_messages::no_livestock);
     animals_.set_cell(row, stock_column::stock, type);
     recalculate_stock_row(animals_, row, working_constant_);
     animals_.keep_entry_row(row);
-    return true;
+    return box_closes();
 }
 
-bool land_module::enter_number(int row, const std::string& text) {
-    if (!holds_number(text)) return refuse(land_messages::no_livestock_number);
+outcome land_module::enter_number(int row, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, land_messages::no_livestock_number);
     animals_.set_cell(row, stock_column::number, text);
     recalculate_stock_row(animals_, row, working_constant_);
     animals_.keep_entry_row(row);
-    return true;
+    return box_closes();
 }
 
-void land_module::clear_field(int row) {
+outcome land_module::clear_field(int row) {
     land_.set_cell(row, land_column::field, "");
     recalculate_land_row(land_, row);
+    return box_closes();
 }
 
-void land_module::clear_area(int row, int column) {
+outcome land_module::clear_area(int row, int column) {
     set_area(row, column, split_field_area(0, land_.number(row, land_column::total_area)));
+    return box_closes();
 }
 
-void land_module::clear_deduction(int row, int column) {
+outcome land_module::clear_deduction(int row, int column) {
     land_.set_cell(row, column, "");
     recalculate_land_row(land_, row);
+    return box_closes();
 }
 
-void land_module::clear_stock(int row) {
+outcome land_module::clear_stock(int row) {
     animals_.set_cell(row, stock_column::stock, "");
     recalculate_stock_row(animals_, row, working_constant_);
+    return box_closes();
 }
 
-void land_module::clear_number(int row) {
+outcome land_module::clear_number(int row) {
     animals_.set_cell(row, stock_column::number, "");
     recalculate_stock_row(animals_, row, working_constant_);
+    return box_closes();
 }
 
-bool land_module::erase_row(text_grid& grid, int row) {
-    if (row == grid.row_count() - 1) return refuse(module_messages::cannot_delete);
-    grid.erase_row(row);
-    return true;
+outcome land_module::erase_land_row(int row) {
+    return erase_data_row(person_, land_, row);
 }
 
-bool land_module::erase_land_row(int row) {
-    return erase_row(land_, row);
-}
-
-bool land_module::erase_stock_row(int row) {
-    return erase_row(animals_, row);
+outcome land_module::erase_stock_row(int row) {
+    return erase_data_row(person_, animals_, row);
 }
 
 void land_module::calculate() {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/entry.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "land/land_grids.h"
@@ -18,14 +19,6 @@
 namespace kel {
 
 enum class land_box { none, field, area, deduction, stock, number };
-
-/// What a click opens; none after a message.
-struct land_opening {
-    land_box box = land_box::none;
-    std::string_view caption;
-    std::string_view instruction;
-    bool operator==(const land_opening&) const = default;
-};
 
 class land_module {
   public:
@@ -41,26 +34,25 @@ class land_module {
     /// and leaves everything as it was when the file cannot be read.
     void load_land_stuff();
 
-    land_opening click_land(int row, int column);
-    land_opening click_animals(int row, int column);
+    opening click_land(int row, int column);
+    opening click_animals(int row, int column);
 
     // The entry boxes: what the person chose or typed goes into the cell, with the cells that follow from it.
-    // True: the box closes.
-    bool enter_field(int row, const std::string& name);
-    bool enter_area(int row, int column, const std::string& text);
-    bool enter_deduction(int row, int column, const std::string& text);
-    bool enter_stock(int row, const std::string& type);
-    bool enter_number(int row, const std::string& text);
+    outcome enter_field(int row, const std::string& name);
+    outcome enter_area(int row, int column, const std::string& text);
+    outcome enter_deduction(int row, int column, const std::string& text);
+    outcome enter_stock(int row, const std::string& type);
+    outcome enter_number(int row, const std::string& text);
 
-    void clear_field(int row);
-    void clear_area(int row, int column);
-    void clear_deduction(int row, int column);
-    void clear_stock(int row);
-    void clear_number(int row);
+    outcome clear_field(int row);
+    outcome clear_area(int row, int column);
+    outcome clear_deduction(int row, int column);
+    outcome clear_stock(int row);
+    outcome clear_number(int row);
 
-    // False, after a message, for the entry row.
-    bool erase_land_row(int row);
-    bool erase_stock_row(int row);
+    // The entry row cannot be erased, and says so.
+    outcome erase_land_row(int row);
+    outcome erase_stock_row(int row);
 
     /// Opens the result panel.
     void calculate();
@@ -76,10 +68,8 @@ class land_module {
     void report(report_desk& desk);
 
   private:
-    bool refuse(const message& reason);
     bool field_in_other_row(int row, std::string_view name) const;
     void set_area(int row, int column, const area_pair& areas);
-    bool erase_row(text_grid& grid, int row);
 
     application_state& state_;
     prompts& person_;

@@ -110,11 +110,11 @@ TEST_F(SampleFarm, LandAndStockRowsAreAsStep1WritesThem) {
         const text_grid before = module.land();
         EXPECT_EQ(before.data_row_count(), static_cast<int>(module.field_names().size()));
         for (int row = 0; row < before.data_row_count(); ++row) {
-            EXPECT_TRUE(module.enter_field(row, before.cell(row, land_column::field)));
+            EXPECT_TRUE(module.enter_field(row, before.cell(row, land_column::field)).closes);
             for (const int area : {land_column::grass, land_column::not_in_grass})
-                EXPECT_TRUE(module.enter_area(row, area, before.cell(row, area)));
+                EXPECT_TRUE(module.enter_area(row, area, before.cell(row, area)).closes);
             for (const int d : {land_column::buffer, land_column::slope, land_column::other_deduction})
-                EXPECT_TRUE(module.enter_deduction(row, d, before.cell(row, d)));
+                EXPECT_TRUE(module.enter_deduction(row, d, before.cell(row, d)).closes);
             for (int stored = land_column::field; stored <= land_column::total_area; ++stored)
                 EXPECT_EQ(module.land().cell(row, stored), before.cell(row, stored)) << row << " " << stored;
         }

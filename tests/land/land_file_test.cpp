@@ -39,7 +39,7 @@ TEST_F(LandFile, RowsOfFieldsThatTheProfileLacksAreDroppedWithAWarningEach) {
     EXPECT_EQ(stored("Land", "Field Area ID").size(), 3U);
     ASSERT_TRUE(module.save());
     EXPECT_EQ(stored("Land", "Field Area ID"), texts{"Long Rig"});
-    ASSERT_TRUE(module.erase_land_row(0));
+    ASSERT_TRUE(module.erase_land_row(0).closes);
     ASSERT_TRUE(module.save());
     EXPECT_TRUE(stored("Land", "Field Area ID").empty());
     add_land("Old Park", {});
@@ -97,8 +97,8 @@ TEST_F(LandFile, CropAndMonthsOfTheStoragePlanSurviveASave) {
     }
     add_land("East Muir", months);
     module.load_land_stuff();
-    ASSERT_TRUE(module.erase_land_row(0));
-    ASSERT_TRUE(module.enter_field(1, "Long Rig"));
+    ASSERT_TRUE(module.erase_land_row(0).closes);
+    ASSERT_TRUE(module.enter_field(1, "Long Rig").closes);
     ASSERT_TRUE(module.save());
     EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"East Muir", "Long Rig"}));
     for (const auto& [column, text] : months)

@@ -25,13 +25,6 @@ namespace {
 constexpr int dialog_width_px = 740;
 constexpr int boxes_width_px = 370;
 
-QDate to_qt(date d) {
-    return {year_of(d), month_of(d), day_of(d)};
-}
-date from_qt_date(QDate d) {
-    return make_date(d.day(), d.month(), d.year());
-}
-
 }  // namespace
 
 // A calendar that can be without a date, which the toolkit's own cannot: it then draws none as chosen.
@@ -108,7 +101,7 @@ QWidget* application_box::calendar_side() {
     calendar_ = new day_calendar(side);
     calendar_->setObjectName("cal" + name_);
     calendar_->days()->installEventFilter(this);
-    connect(calendar_, &QCalendarWidget::clicked, this, [this](QDate day) { pick(from_qt_date(day)); });
+    connect(calendar_, &QCalendarWidget::clicked, this, [this](QDate day) { pick(from_qt(day)); });
     auto* heading = new QHBoxLayout;
     heading->addWidget(label_for(text::date_label, calendar_));
     calendar_->days()->setAccessibleName(qt(text::date_label));
@@ -212,7 +205,7 @@ void application_box::pick(date picked) {
 void application_box::pick_moved_day() {
     const auto* focused = window()->focusWidget();
     const bool cancels = focused && focused->objectName() == "cmd" + name_ + "_cancel";
-    if (isVisible() && calendar_->moved() && !cancels) pick(from_qt_date(calendar_->selectedDate()));
+    if (isVisible() && calendar_->moved() && !cancels) pick(from_qt(calendar_->selectedDate()));
 }
 
 bool application_box::eventFilter(QObject* watched, QEvent* event) {
@@ -223,7 +216,7 @@ bool application_box::eventFilter(QObject* watched, QEvent* event) {
     } else if (watched == calendar_->days() && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-            pick(from_qt_date(calendar_->selectedDate()));
+            pick(from_qt(calendar_->selectedDate()));
             return true;
         }
     } else if (watched == calendar_->days() && event->type() == QEvent::FocusOut && !picking_) {
@@ -242,7 +235,7 @@ fertiliser_application application_box::entered() const {
 bool application_box::enter() {
     if (calendar_->moved()) {
         const std::string comments = from_qt(comments_->text());
-        const date moved_to = from_qt_date(calendar_->selectedDate());
+        const date moved_to = from_qt(calendar_->selectedDate());
         pick(moved_to);
         if (day_ != moved_to || from_qt(comments_->text()) != comments) return false;
     }

@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -12,9 +11,7 @@
 
 #include "land/land_messages.h"
 #include "land/land_report.h"
-#include "land/stock_nitrogen.h"
-#include "ui/widgets/choice_list.h"
-#include "ui/widgets/entry_box.h"
+#include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/print_page.h"
 #include "ui/widgets/qt_text.h"
@@ -40,12 +37,7 @@ frmLand_new::frmLand_new(application_state& state, prompts& person, report_desk&
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(views_);
     disable_meanwhile(tabs_->tabBar());
-    add_land_boxes();
-    add_stock_boxes();
-    connect(land_, &grid_view::cell_chosen, this,
-            [this](int row, int column) { open_box(module_.click_land(row, column), *land_); });
-    connect(animals_, &grid_view::cell_chosen, this,
-            [this](int row, int column) { open_box(module_.click_animals(row, column), *animals_); });
+    add_entry_boxes();
     land_->setFocus();
 }
 
@@ -103,76 +95,27 @@ QWidget* frmLand_new::result_page() {
     return page;
 }
 
-void frmLand_new::add_land_boxes() {
-    const auto row = [this] { return land_->current_row(); };
-    const auto column = [this] { return land_->current_column(); };
-    const auto erase = [this, row] { return module_.erase_land_row(row()); };
-    field_box_ = new_box("Land_fieldID", *land_);
-    field_box_->use_list({});
-    field_box_->on_enter(
-        [this, row] { return module_.enter_field(row(), field_box_->chosen().value_or("")); });
-    field_box_->add_clear([this, row] { return module_.clear_field(row()), true; });
-    field_box_->add_erase(erase);
-    area_box_ = new_box("Land_area", *land_);
-    area_box_->use_number_box();
-    area_box_->on_enter([=, this] { return module_.enter_area(row(), column(), area_box_->entered_text()); });
-    area_box_->add_clear([=, this] { return module_.clear_area(row(), column()), true; });
-    area_box_->add_erase(erase);
-    deduction_box_ = new_box("Land_deduct", *land_);
-    deduction_box_->use_number_box();
-    deduction_box_->on_enter(
-        [=, this] { return module_.enter_deduction(row(), column(), deduction_box_->entered_text()); });
-    deduction_box_->add_clear([=, this] { return module_.clear_deduction(row(), column()), true; });
-    deduction_box_->add_erase(erase);
-}
-
-void frmLand_new::add_stock_boxes() {
-    const auto row = [this] { return animals_->current_row(); };
-    const auto erase = [this, row] { return module_.erase_stock_row(row()); };
-    stock_box_ = new_box("Land_animal", *animals_);
-    QStringList types;
-    for (const auto& type : stock_types())
-        types << qt(type.name);
-    stock_box_->use_list(types);
-    stock_box_->on_enter(
-        [this, row] { return module_.enter_stock(row(), stock_box_->chosen().value_or("")); });
-    stock_box_->add_clear([this, row] { return module_.clear_stock(row()), true; });
-    stock_box_->add_erase(erase);
-    number_box_ = new_box("Land_animal_no", *animals_);
-    number_box_->use_number_box();
-    number_box_->on_enter([this, row] { return module_.enter_number(row(), number_box_->entered_text()); });
-    number_box_->add_clear([this, row] { return module_.clear_number(row()), true; });
-    number_box_->add_erase(erase);
-}
-
-entry_box* frmLand_new::box_of(land_box box) const {
-    switch (box) {
-        case land_box::field:
-            return field_box_;
-        case land_box::area:
-            return area_box_;
-        case land_box::deduction:
-            return deduction_box_;
-        case land_box::stock:
-            return stock_box_;
-        case land_box::number:
-            return number_box_;
-        case land_box::none:
-            break;
-    }
-    return nullptr;
-}
-
-void frmLand_new::open_box(const land_opening& opening, grid_view& grid) {
-    entry_box* box = box_of(opening.box);
-    if (!box) return;
-    if (box == field_box_) {
-        QStringList names;
-        for (const std::string& name : module_.field_names())
-            names << qt(name);
-        field_box_->use_list(names);
-    }
-    box->open(qt(opening.caption), qt(opening.instruction), grid.currentIndex().data().toString());
+void frmLand_new::add_entry_boxes() {
+    using module = land_module;
+    const auto clear = [this](auto run) { return clear_button(runs(module_, run)); };
+    const box_button erase_land = erase_button(runs(module_, &module::erase_land_row));
+    const box_button erase_stock = erase_button(runs(module_, &module::erase_stock_row));
+    // clang-format off
+    add_boxes(*land_, [this](int row, int column) { return module_.click_land(row, column); }, {
+        {land_box::field, "Land_fieldID", runs(module_, &module::enter_field),
+            {clear(&module::clear_field), erase_land}},
+        {land_box::area, "Land_area", runs(module_, &module::enter_area),
+            {clear(&module::clear_area), erase_land}},
+        {land_box::deduction, "Land_deduct", runs(module_, &module::enter_deduction),
+            {clear(&module::clear_deduction), erase_land}},
+    });
+    add_boxes(*animals_, [this](int row, int column) { return module_.click_animals(row, column); }, {
+        {land_box::stock, "Land_animal", runs(module_, &module::enter_stock),
+            {clear(&module::clear_stock), erase_stock}},
+        {land_box::number, "Land_animal_no", runs(module_, &module::enter_number),
+            {clear(&module::clear_number), erase_stock}},
+    });
+    // clang-format on
 }
 
 void frmLand_new::refresh() {

@@ -27,10 +27,7 @@ class frmLand_new : public module_screen {
   private:
     QWidget* tab_page(const QString& instruction, grid_view* grid, const char* suffix);
     QWidget* result_page();
-    void add_land_boxes();
-    void add_stock_boxes();
-    void open_box(const land_opening& opening, grid_view& grid);
-    entry_box* box_of(land_box box) const;
+    void add_entry_boxes();
     void calculate();
     void back();
     void save();
@@ -47,11 +44,6 @@ class frmLand_new : public module_screen {
     QLabel* note_;
     std::vector<QLabel*> values_;
     QPushButton* report_;
-    entry_box* field_box_;
-    entry_box* area_box_;
-    entry_box* deduction_box_;
-    entry_box* stock_box_;
-    entry_box* number_box_;
 };
 
 }  // namespace kel

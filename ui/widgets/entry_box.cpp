@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "ui/widgets/choice_list.h"
+#include "ui/widgets/entry_form.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
 
@@ -21,35 +22,10 @@ namespace kel {
 
 namespace {
 
-QLineEdit* new_filtered_box(const QString& name, const char* pattern, QWidget* parent) {
-    auto* box = new QLineEdit(parent);
-    box->setObjectName(name);
-    box->setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), box));
-    return box;
-}
-
 constexpr int box_width_px = 400;
 constexpr int list_height_px = 220;
 
 }  // namespace
-
-QLineEdit* new_number_box(const QString& name, QWidget* parent) {
-    return new_filtered_box(name, "[0-9]*\\.?[0-9]*", parent);
-}
-
-QLineEdit* new_whole_number_box(const QString& name, QWidget* parent) {
-    return new_filtered_box(name, "[0-9]*", parent);
-}
-
-QCalendarWidget* new_calendar(const QString& name, QWidget* parent) {
-    auto* calendar = new QCalendarWidget(parent);
-    calendar->setObjectName(name);
-    calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
-    calendar->setFirstDayOfWeek(Qt::Monday);
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar->setDateEditEnabled(false);  // what it makes of typed digits is no date
-    return calendar;
-}
 
 entry_box::entry_box(const QString& name, grid_view& grid, QWidget* parent)
     : QFrame(parent),
@@ -70,26 +46,87 @@ entry_box::entry_box(const QString& name, grid_view& grid, QWidget* parent)
     instruction_->setTextFormat(Qt::PlainText);
     layout_->addWidget(caption_, 0, 0, 1, 4);
     layout_->addWidget(instruction_, 1, 0, 1, 4);
-    enter_button_ = add_button("E&nter", "enter", [this] { return enter_(); });
-    cancel_button_ = add_button("Cancel", "cancel", [] { return true; });
+    const auto close = [](grid_cell, const box_entry&) { return box_closes(); };
+    enter_button_ = add_button("E&nter", "enter", nullptr);
+    connect(enter_button_, &QPushButton::clicked, this, [this] { confirm(); });
+    cancel_button_ = add_button("Cancel", "cancel", close);
     enter_button_->setDefault(true);
     hide();
 }
 
-QPushButton* entry_box::add_button(const QString& caption, const QString& suffix, const operation& action) {
+QPushButton* entry_box::add_button(const QString& caption, const QString& suffix, box_operation action) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName("cmd" + name_ + "_" + suffix);
     button->setAutoDefault(false);
     layout_->addWidget(button, 3, buttons_++);
+    if (action)
+        connect(button, &QPushButton::clicked, this, [this, run = std::move(action)] { perform(run); });
+    all_buttons_.push_back(button);
+    return button;
+}
+
+QPushButton* entry_box::add_plain_button(const QString& caption, const QString& suffix,
+                                         const operation& action) {
+    QPushButton* button = add_button(caption, suffix, box_operation());
     connect(button, &QPushButton::clicked, this, [this, action] { run(action); });
     return button;
 }
 
+void entry_box::use_form(entry_form* form) {
+    form_ = form;
+    layout_->addWidget(form_, 2, 0, 1, 4);
+    connect(form_, &entry_form::confirmed, this, &entry_box::confirm);
+}
+
+void entry_box::make_form(const std::vector<entry_part>& parts) {
+    if (form_ && (form_ != made_form_ || made_form_->suits(parts))) return;
+    delete made_form_;
+    made_form_ = new parts_form(name_, parts, this);
+    use_form(made_form_);
+}
+
+// The editors first, then the buttons.
+void entry_box::chain_stops() {
+    std::vector<QWidget*> chain = form_->stops();
+    chain.insert(chain.end(), all_buttons_.begin(), all_buttons_.end());
+    for (std::size_t i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
+}
+
+void entry_box::open(const opening& shown) {
+    make_form(shown.parts);
+    form_->show_opening(shown);
+    chain_stops();
+    open_frame(qt(shown.caption), qt(shown.instruction));
+    form_->focus_stop(shown.focus)->setFocus();
+}
+
+void entry_box::confirm() {
+    if (!form_) return run(enter_);
+    if (form_->ready()) perform(enter_box_);
+}
+
+void entry_box::perform(const box_operation& action) {
+    QPointer<QWidget> focused = focusWidget();
+    const box_entry typed = form_ ? form_->entered() : box_entry{};
+    const outcome result = action({grid_.current_row(), grid_.current_column()}, typed);
+    if (result.closes) {
+        close_box();
+        if (result.next) emit led_to(*result.next);
+    } else if (isVisible()) {
+        for (const outcome::new_text& change : result.changes)
+            form_->show_text(change.part, change.text);
+        QWidget* stop =
+            result.focus == outcome::focus_stays ? focused.data() : form_->focus_stop(result.focus);
+        if (stop) stop->setFocus();
+    }
+}
+
 QPushButton* entry_box::add_clear(const operation& clear) {
-    return add_button("Clear &Cell", "clear", clear);
+    return add_plain_button("Clear &Cell", "clear", clear);
 }
 QPushButton* entry_box::add_erase(const operation& erase) {
-    return add_button("Erase &Row", "erase", erase);
+    return add_plain_button("Erase &Row", "erase", erase);
 }
 
 QLineEdit* entry_box::use_number_box() {
@@ -205,17 +242,21 @@ void entry_box::show_in_editor(const QString& caption, const QString& text) {
 }
 
 void entry_box::open(const QString& caption, const QString& instruction, const QString& text) {
+    show_in_editor(caption, text);
+    open_frame(caption, instruction);
+    editor()->setFocus();
+}
+
+void entry_box::open_frame(const QString& caption, const QString& instruction) {
     caption_->setText(caption);
     instruction_->setText(instruction);
     instruction_->setVisible(!instruction.isEmpty());
     grid_.set_locked(true);
     for (QWidget* control : *disabled_meanwhile_)
         control->setEnabled(false);
-    show_in_editor(caption, text);
     place_beside_cell();
     show();
     raise();
-    editor()->setFocus();
 }
 
 void entry_box::close_box() {
@@ -261,7 +302,7 @@ void entry_box::keyPressEvent(QKeyEvent* event) {
         if (button && button->hasFocus()) {
             button->click();
         } else {
-            run(enter_);
+            confirm();
         }
     } else {
         QFrame::keyPressEvent(event);

@@ -11,6 +11,9 @@
 #include <vector>
 
 #include "core/dates.h"
+#include "core/entry.h"
+#include "ui/widgets/date_editors.h"
+#include "ui/widgets/line_editor.h"
 
 class QAbstractButton;
 class QButtonGroup;
@@ -23,14 +26,9 @@ class QPushButton;
 namespace kel {
 
 class choice_list;
+class entry_form;
+class parts_form;
 class grid_view;
-
-/// A line edit that takes digits, backspace and one decimal point.
-QLineEdit* new_number_box(const QString& name, QWidget* parent);
-/// A line edit that takes digits and backspace only.
-QLineEdit* new_whole_number_box(const QString& name, QWidget* parent);
-/// A calendar with English names and Monday first, whatever the machine's locale is.
-QCalendarWidget* new_calendar(const QString& name, QWidget* parent);
 
 class entry_box : public QFrame {
     Q_OBJECT
@@ -53,6 +51,16 @@ class entry_box : public QFrame {
     /// Shown behind the number or text box.
     void show_unit(const QString& unit);
 
+    /// What a button does with the cell over which the box stands and with what was put into it.
+    using box_operation = std::function<outcome(grid_cell, const box_entry&)>;
+    void on_enter(box_operation enter) { enter_box_ = std::move(enter); }
+    QPushButton* add_button(const QString& caption, const QString& suffix, box_operation action);
+    QPushButton* enter_button() const { return enter_button_; }
+    /// Stands in the box from now on in place of editors made from the parts of its openings.
+    void use_form(entry_form* form);
+    /// Opens over the current cell.
+    void open(const opening& shown);
+
     using operation = std::function<bool()>;  // true: the box closes
     void on_enter(operation enter) { enter_ = std::move(enter); }
     QPushButton* add_clear(const operation& clear);
@@ -70,6 +78,8 @@ class entry_box : public QFrame {
 
   signals:
     void closed();
+    /// The box has closed, and this is to open in its place.
+    void led_to(const opening& next);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -77,10 +87,15 @@ class entry_box : public QFrame {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QPushButton* add_button(const QString& caption, const QString& suffix, const operation& action);
+    QPushButton* add_plain_button(const QString& caption, const QString& suffix, const operation& action);
+    void perform(const box_operation& action);
+    void confirm();
+    void make_form(const std::vector<entry_part>& parts);
+    void chain_stops();
     QWidget* editor() const;
     void show_in_editor(const QString& caption, const QString& text);
     void run(const operation& action);
+    void open_frame(const QString& caption, const QString& instruction);
     void place_beside_cell();
     QString name_;
     grid_view& grid_;
@@ -96,6 +111,10 @@ class entry_box : public QFrame {
     QPushButton* enter_button_;
     QPushButton* cancel_button_;
     operation enter_;
+    box_operation enter_box_;
+    entry_form* form_ = nullptr;
+    parts_form* made_form_ = nullptr;
+    std::vector<QPushButton*> all_buttons_;
     const std::vector<QWidget*>* disabled_meanwhile_ = nullptr;
     int buttons_ = 0;
 };

@@ -5,7 +5,9 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "ui/widgets/box_set.h"
 #include "ui/widgets/entry_box.h"
+#include "ui/widgets/grid_view.h"
 
 namespace kel {
 
@@ -51,6 +53,16 @@ entry_box* module_screen::new_box(const char* name, grid_view& grid) {
     auto* box = new entry_box(name, grid, this);
     adopt_box(box);
     return box;
+}
+
+box_set* module_screen::add_boxes(grid_view& grid, const click_operation& click,
+                                  const std::vector<box_row>& rows) {
+    auto* boxes = new box_set(grid, this);
+    for (const box_row& row : rows)
+        adopt_box(boxes->add(row));
+    connect(&grid, &grid_view::cell_chosen, boxes,
+            [boxes, click](int row, int column) { boxes->open(click(row, column)); });
+    return boxes;
 }
 
 void module_screen::adopt_box(entry_box* box) {

@@ -13,8 +13,11 @@ class QPushButton;
 
 namespace kel {
 
+class box_set;
 class entry_box;
 class grid_view;
+struct box_row;
+struct opening;
 
 class module_screen : public QWidget {
     Q_OBJECT
@@ -53,6 +56,9 @@ class module_screen : public QWidget {
     void add_missing_command(QBoxLayout* row, const QString& caption, const QString& name);
     /// An entry box over the grid, which refreshes this screen as it closes.
     entry_box* new_box(const char* name, grid_view& grid);
+    using click_operation = std::function<opening(int row, int column)>;
+    /// The boxes that a click in the grid opens.
+    box_set* add_boxes(grid_view& grid, const click_operation& click, const std::vector<box_row>& rows);
     /// Keeps this control, too, disabled while a box is open.
     void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
 

@@ -1,0 +1,76 @@
+// The entry boxes of a grid by their identities, as one table per grid: which box, what its controls are
+// named after, what Enter does and which buttons follow.
+#pragma once
+
+#include <QObject>
+#include <vector>
+
+#include "ui/widgets/entry_box.h"
+
+namespace kel {
+
+struct box_button {
+    QString caption;
+    const char* suffix;  // of its name
+    entry_box::box_operation action;
+};
+
+struct box_row {
+    box_id box;
+    const char* name;
+    entry_box::box_operation enter;
+    std::vector<box_button> buttons{};
+    const char* enter_name = nullptr;  // of the Enter button, where it is not the usual one
+};
+
+// The operations of a module as those of a box: on the cell's row or on the cell, with what was typed or
+// chosen.
+template <class Module>
+entry_box::box_operation runs(Module& module, outcome (Module::*run)(int)) {
+    return [&module, run](grid_cell at, const box_entry&) { return (module.*run)(at.row); };
+}
+template <class Module>
+entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, int)) {
+    return [&module, run](grid_cell at, const box_entry&) { return (module.*run)(at.row, at.column); };
+}
+template <class Module>
+entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, const std::string&)) {
+    return
+        [&module, run](grid_cell at, const box_entry& typed) { return (module.*run)(at.row, typed.text()); };
+}
+template <class Module>
+entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, int, const std::string&)) {
+    return [&module, run](grid_cell at, const box_entry& typed) {
+        return (module.*run)(at.row, at.column, typed.text());
+    };
+}
+template <class Module>
+entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, const box_entry&)) {
+    return [&module, run](grid_cell at, const box_entry& typed) { return (module.*run)(at.row, typed); };
+}
+
+box_button clear_button(entry_box::box_operation clear);
+box_button erase_button(entry_box::box_operation erase);
+
+class box_set : public QObject {
+    Q_OBJECT
+
+  public:
+    box_set(grid_view& grid, QWidget* screen);
+
+    entry_box* add(const box_row& row);
+    entry_box* box(box_id box) const;
+    /// Opens its box, and none for an opening without one.
+    void open(const opening& shown);
+
+  private:
+    struct member {
+        box_id id;
+        entry_box* box;
+    };
+    grid_view& grid_;
+    QWidget* screen_;
+    std::vector<member> boxes_;
+};
+
+}  // namespace kel
