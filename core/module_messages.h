@@ -10,10 +10,17 @@ namespace kel::module_messages {
 inline const message calculation{"Calculation", "This element is calculated automatically!",
                                  message_kind::information};
 inline const message cannot_delete{"Cannot Delete", "This row cannot be deleted!", message_kind::information};
-/// Step 1 speaks of "the module", the others of "this module".
 inline const message close_module{"Close Module",
                                   "Are you sure you wish to close this module, unsaved data will be lost?",
                                   message_kind::question, message_buttons::yes_no};
+/// Some modules speak of "the module".
+inline const message close_the_module{"Close Module",
+                                      "Are you sure you wish to close the module, unsaved data will be lost?",
+                                      message_kind::question, message_buttons::yes_no};
+inline const message no_field_id{"No Field ID", "No field ID has been entered!"};
+inline const message field_in_grid{"Field already in grid",
+                                   "That field has already been entered in the grid. Please select an "
+                                   "alternative field or click on Cancel."};
 
 /// A stored row whose field the farm profile no longer has.
 inline message field_does_not_exist(const std::string& name) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/module_messages.h"
 #include "core/prompts.h"
 #include "land/spreading_limits.h"
 
@@ -51,10 +52,9 @@ inline constexpr std::string_view number_instruction =
     "Enter the number of animals in this category in the box below.";
 
 // The boxes. A message is a warning with OK unless it says otherwise.
-inline const message no_field_id{"No Field ID", "No field ID has been entered!"};
-inline const message field_in_grid{"Field already in grid",
-                                   "That field has already been entered in the grid. Please select an "
-                                   "alternative field or click on Cancel."};
+using module_messages::field_in_grid;
+using module_messages::no_field_id;
+inline const message& close_module = module_messages::close_the_module;
 inline const message no_area{"No Area", "No area has been entered!"};
 inline const message area_adjusted{
     "Area adjustment",
@@ -67,9 +67,6 @@ inline const message figure_amended{"Figure amended",
                                     "adjusted accordingly. Please check the figures."};
 inline const message no_livestock{"No Livestock Selected", "No livestock category selected!"};
 inline const message no_livestock_number{"No Livestock Number", "No livestock number has been entered!"};
-inline const message close_module{"Close Module",
-                                  "Are you sure you wish to close the module, unsaved data will be lost?",
-                                  message_kind::question, message_buttons::yes_no};
 
 // The result.
 struct panel_line {
