@@ -10,6 +10,24 @@ void set_long_date(application_state& state) {
     state.long_date_format = "dd MMMM yyyy";
 }
 
+bool for_previous_year(manure_opener opener) {
+    return opener == manure_opener::old_crop || opener == manure_opener::old_grass;
+}
+
+screen_id screen_of(manure_opener opener) {
+    switch (opener) {
+        case manure_opener::new_crop:
+        case manure_opener::old_crop:
+            return screen_id::crops;
+        case manure_opener::new_grass:
+        case manure_opener::old_grass:
+            return screen_id::grass;
+        case manure_opener::front:
+            break;
+    }
+    return screen_id::front;
+}
+
 std::string dialog_folder(const application_state& state) {
     return state.last_dir.empty() ? state.places.user_files() : state.last_dir;
 }

@@ -7,6 +7,7 @@
 
 #include "core/dates.h"
 #include "core/installation.h"
+#include "core/screens.h"
 
 namespace kel {
 
@@ -23,6 +24,15 @@ enum class picker_module {
     record = 8,
     profile = 9,
 };
+
+/// Who opened the manure applications: the assessments screen, or the crops or the grassland module for the
+/// crop now grown or for the one before it.
+enum class manure_opener { front, new_crop, old_crop, new_grass, old_grass };
+
+/// Whether the applications are those of last year's file.
+bool for_previous_year(manure_opener opener);
+/// The screen that the manure applications close to.
+screen_id screen_of(manure_opener opener);
 
 struct application_state {
     installation places;
@@ -49,11 +59,10 @@ struct application_state {
     year_limits limits{};
 
     picker_module picker_caller = picker_module::front;
-    std::string viewer_back;         // screen to show again when the viewer closes
-    std::string last_report_path;    // last report shown in the viewer
-    std::string manure_caller;       // "front", "new crop" or "old crop"
-    bool manure_from_grass = false;  // the manure module was opened by the grassland module
-    std::string last_dir;            // last folder of a file dialog; not kept between runs
+    screen_id viewer_back = screen_id::front;  // screen to show again when the viewer closes
+    std::string last_report_path;              // last report shown in the viewer
+    manure_opener manure_caller = manure_opener::front;
+    std::string last_dir;  // last folder of a file dialog; not kept between runs
 
     std::string short_date_format;  // of calendars and date boxes, forced at start-up
     std::string long_date_format;

@@ -134,7 +134,8 @@ bool inorganic_module::close() {
 }
 
 void inorganic_module::report(report_desk& desk) {
-    generate_report(desk, inorganic_report_file, inorganic_report(applications_), "inorg", "inorg");
+    generate_report(desk, inorganic_report_file, inorganic_report(applications_), screen_id::inorganic,
+                    screen_id::inorganic);
 }
 
 }  // namespace kel

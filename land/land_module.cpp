@@ -228,7 +228,8 @@ bool land_module::close() {
 
 void land_module::report(report_desk& desk) {
     if (result_)
-        generate_report(desk, land_report_file, land_report(*result_, land_, animals_), "land", "land");
+        generate_report(desk, land_report_file, land_report(*result_, land_, animals_), screen_id::land,
+                        screen_id::land);
 }
 
 }  // namespace kel

@@ -79,8 +79,6 @@ class manure_module {
     bool save();
     /// Asks whether the module may close.
     bool close();
-    /// Where it leads back to, once close has said yes.
-    std::string_view back_tag() const { return back_tag_; }
     /// Shows the report of the results; does nothing while the table is in view.
     void report(report_desk& desk);
 
@@ -88,7 +86,7 @@ class manure_module {
     bool refuse(const message& reason);
     manure_opening opens_none(const message& reason);
     bool proceeds(const message& question) { return person_.ask(question) == answer::yes; }
-    bool for_previous_year() const { return state_.manure_caller == "old crop"; }
+    bool for_previous_year() const { return kel::for_previous_year(state_.manure_caller); }
     date_window window(const year_limits& limits) const;
     bool land_allows(const std::string& field, int month);
     void take_default_n_content(int row);
@@ -109,7 +107,6 @@ class manure_module {
     std::string warnings_;
     std::vector<std::string> over_limit_;      // fields, in the order of the results
     std::vector<std::string> closed_periods_;  // sentences, in row order
-    std::string_view back_tag_ = "front";
 
     // What the open module remembers from entry to entry.
     int working_code_ = no_manure_code;

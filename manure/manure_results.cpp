@@ -128,20 +128,15 @@ bool manure_module::save() {
 }
 
 bool manure_module::close() {
-    if (person_.ask(module_messages::close_module) == answer::no) return false;
-    if (std::exchange(state_.manure_from_grass, false))
-        back_tag_ = "grass";
-    else
-        back_tag_ = state_.manure_caller == "front" ? "front" : "crop";
-    return true;
+    return person_.ask(module_messages::close_module) != answer::no;
 }
 
 // Step 1 is the screen that is hidden; this one stays open behind the viewer.
 void manure_module::report(report_desk& desk) {
     if (!results_shown_) return;
     generate_report(desk, manure_report_file,
-                    manure_report(results_, applications_, over_limit_, closed_periods_), "land",
-                    "reduction");
+                    manure_report(results_, applications_, over_limit_, closed_periods_), screen_id::land,
+                    screen_id::manure);
 }
 
 }  // namespace kel

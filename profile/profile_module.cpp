@@ -200,7 +200,8 @@ void profile_module::cancel() {
 }
 
 void profile_module::report(report_desk& desk) const {
-    generate_report(desk, profile_report_file, profile_report(farm_, fields_), "profile", "profile");
+    generate_report(desk, profile_report_file, profile_report(farm_, fields_), screen_id::profile,
+                    screen_id::profile);
 }
 
 }  // namespace kel

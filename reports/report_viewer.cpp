@@ -20,7 +20,7 @@ class busy_cursor {
 }  // namespace
 
 void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
-                     std::string_view hidden_screen, std::string_view back_tag, viewer_request request) {
+                     screen_id hidden_screen, screen_id back, viewer_request request) {
     request.page = desk.state.places.report(file_name);
     {
         const busy_cursor busy(desk.viewer);
@@ -29,7 +29,7 @@ void generate_report(report_desk& desk, std::string_view file_name, const page_l
         desk.viewer.hide_screen(hidden_screen);
         desk.viewer.show(request);
     }
-    desk.state.viewer_back = back_tag;
+    desk.state.viewer_back = back;
 }
 
 }  // namespace kel

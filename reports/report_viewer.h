@@ -23,9 +23,8 @@ class report_viewer {
   public:
     virtual ~report_viewer() = default;
     virtual void wait_cursor(bool on) = 0;
-    /// Hides the screen of a tag as in viewer_back ("front", "profile", "land", ...), bringing it into being
-    /// if needed.
-    virtual void hide_screen(std::string_view tag) = 0;
+    /// Hides a screen, bringing it into being if needed.
+    virtual void hide_screen(screen_id id) = 0;
     virtual void show(const viewer_request& request) = 0;
 };
 
@@ -38,8 +37,8 @@ struct report_desk {
 };
 
 /// Wait cursor, write the framed page into the report folder, show it, remember it, hide `hidden_screen`, set
-/// viewer_back to `back_tag`. Throws file_error before anything is shown when the page cannot be written.
+/// viewer_back to `back`. Throws file_error before anything is shown when the page cannot be written.
 void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
-                     std::string_view hidden_screen, std::string_view back_tag, viewer_request request = {});
+                     screen_id hidden_screen, screen_id back, viewer_request request = {});
 
 }  // namespace kel

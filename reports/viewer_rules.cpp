@@ -46,7 +46,7 @@ void save_report(const application_state& state, prompts& person, std::string& r
     report_folder = folder_of(chosen);
     copy_over(state.last_report_path, chosen);
     copy_over(join_path(state.places.program_folder, logo_file), join_path(report_folder, logo_file));
-    if (state.viewer_back == "storage")
+    if (state.viewer_back == screen_id::storage)
         copy_over(state.places.report(storage_chart_file), join_path(report_folder, storage_chart_file));
 }
 

@@ -65,18 +65,18 @@ void assessments_module::new_farm() {
         path->clear();
     state_.slot_selected = 0;
     profile_.new_farm();
-    open_module("profile");
+    open_module(screen_id::profile);
 }
 
 void assessments_module::open_assessments() {
     state_.picker_caller = picker_module::front;
-    screens_.open("years");
+    screens_.open(screen_id::years);
 }
 
 void assessments_module::edit_profile() {
     if (state_.assess_file.empty()) return person_.tell(text::no_profile_to_edit);
     profile_.edit_existing();
-    open_module("profile");
+    open_module(screen_id::profile);
 }
 
 void assessments_module::save_as() {
@@ -106,24 +106,22 @@ answer assessments_module::ask_order(const message& question) {
 }
 
 // A module that cannot load its data throws out of open, and this screen then stays in view.
-void assessments_module::open_module(std::string_view tag) {
-    if (!screens_.exists(tag)) return;
-    screens_.open(tag);
-    desk_.viewer.hide_screen("front");
+void assessments_module::open_module(screen_id module) {
+    if (screens_.exists(module)) screens_.open_in_place_of(screen_id::front, module);
 }
 
-void assessments_module::open_if_assessment(std::string_view tag) {
-    if (assessment_is_open()) open_module(tag);
+void assessments_module::open_if_assessment(screen_id module) {
+    if (assessment_is_open()) open_module(module);
 }
 
 void assessments_module::step1() {
-    open_if_assessment("land");
+    open_if_assessment(screen_id::land);
 }
 
 void assessments_module::step2() {
     if (!assessment_is_open()) return;
     const answer done = ask_order(text::land_first);
-    if (done == answer::yes) open_module("storage");
+    if (done == answer::yes) open_module(screen_id::storage);
     if (done == answer::no) step1();
 }
 
@@ -131,8 +129,8 @@ void assessments_module::step3() {
     if (!assessment_is_open()) return;
     const answer done = ask_order(text::closed_periods_first);
     if (done == answer::yes) {
-        state_.manure_caller = "front";
-        open_module("reduction");
+        state_.manure_caller = manure_opener::front;
+        open_module(screen_id::manure);
     }
     if (done == answer::no) step2();
 }
@@ -140,56 +138,56 @@ void assessments_module::step3() {
 void assessments_module::step4() {
     if (!assessment_is_open()) return;
     const answer done = ask_order(text::closed_periods_first);
-    if (done == answer::yes) open_module("inorg");
+    if (done == answer::yes) open_module(screen_id::inorganic);
     if (done == answer::no) step2();
 }
 
 void assessments_module::crops() {
-    open_if_assessment("crop");
+    open_if_assessment(screen_id::crops);
 }
 void assessments_module::grassland() {
-    open_if_assessment("grass");
+    open_if_assessment(screen_id::grass);
 }
 void assessments_module::composting() {
-    open_if_assessment("straw");
+    open_if_assessment(screen_id::straw);
 }
 void assessments_module::field_record() {
-    open_if_assessment("record");
+    open_if_assessment(screen_id::record);
 }
 
 // This screen stays open behind the viewer; it is the Step 1 screen that is hidden.
 void assessments_module::view_reports() {
     if (!assessment_is_open()) return;
     const auto files = file_names_in(state_.places.written_folder);
-    generate_report(desk_, contents_file, contents_body(files), "land", "front",
+    generate_report(desk_, contents_file, contents_body(files), screen_id::land, screen_id::front,
                     {.page = {}, .caption = "Contents", .mode = 0});
 }
 
-void assessments_module::show_page(std::string_view title, const viewer_request& request,
-                                   std::string_view back_tag) {
+void assessments_module::show_page(std::string_view title, const viewer_request& request, screen_id back) {
     if (!is_there(request.page))
         return person_.tell(text::page_missing(title, file_name_of(request.page), folder_of(request.page)));
     desk_.viewer.show(request);
-    state_.viewer_back = back_tag;
+    state_.viewer_back = back;
 }
 
 void assessments_module::show_me() {
-    show_page("Show Me", {join_path(state_.places.install_root, guides_contents), "Contents", 1}, "front");
+    show_page("Show Me", {join_path(state_.places.install_root, guides_contents), "Contents", 1},
+              screen_id::front);
 }
 
 void assessments_module::guidelines() {
-    run_help(3, "TP", "kel_cont.htm", "front");
+    run_help(3, "TP", "kel_cont.htm", screen_id::front);
 }
 
 void assessments_module::whats_this() {
-    run_help(6, "TP", "kel_software_intro.htm", "front");
+    run_help(6, "TP", "kel_software_intro.htm", screen_id::front);
 }
 
 void assessments_module::run_help(int help_file, std::string_view /*window_type*/, std::string_view topic,
-                                  std::string_view back_tag) {
+                                  screen_id back) {
     const std::string_view folder = help_folders.at(static_cast<std::size_t>(help_file - 1));
     const std::string page = join_path(join_path(state_.places.install_root, folder), topic);
-    show_page("Help", {page, "Back", 0}, back_tag);
+    show_page("Help", {page, "Back", 0}, back);
 }
 
 // The store is left as it was last written.
@@ -202,14 +200,14 @@ void assessments_module::update() {
 }
 
 void assessments_module::about() {
-    screens_.open("splash");
+    screens_.open(screen_id::about);
 }
 
 void assessments_module::show_partner(const std::string& address) {
     desk_.viewer.wait_cursor(true);
     desk_.viewer.show({address, "Back", 0});
-    state_.viewer_back = "splash";
-    desk_.viewer.hide_screen("splash");
+    state_.viewer_back = screen_id::about;
+    desk_.viewer.hide_screen(screen_id::about);
     desk_.viewer.wait_cursor(false);
 }
 

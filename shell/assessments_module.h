@@ -9,7 +9,7 @@
 #include "core/prompts.h"
 #include "profile/profile_module.h"
 #include "reports/report_viewer.h"
-#include "shell/screens.h"
+#include "shell/desktop.h"
 
 namespace kel {
 
@@ -18,7 +18,7 @@ std::string program_version();
 
 class assessments_module {
   public:
-    assessments_module(application_state& state, prompts& person, profile_module& profile, screens& shown,
+    assessments_module(application_state& state, prompts& person, profile_module& profile, desktop& shown,
                        report_desk& desk)
         : state_(state), person_(person), profile_(profile), screens_(shown), desk_(desk) {}
 
@@ -50,10 +50,9 @@ class assessments_module {
     void show_me();
     void guidelines();
     void whats_this();
-    /// Shows a topic of help file 1 to 6 in the viewer, which returns to `back_tag`. The window type names a
+    /// Shows a topic of help file 1 to 6 in the viewer, which returns to `back`. The window type names a
     /// window of the help file; the viewer is the only one here.
-    void run_help(int help_file, std::string_view window_type, std::string_view topic,
-                  std::string_view back_tag);
+    void run_help(int help_file, std::string_view window_type, std::string_view topic, screen_id back);
     void update();
     void about();
     /// A logo of the About box: opens the partner's web address.
@@ -66,15 +65,15 @@ class assessments_module {
   private:
     bool assessment_is_open();
     answer ask_order(const message& question);
-    void open_module(std::string_view tag);
-    void open_if_assessment(std::string_view tag);
+    void open_module(screen_id module);
+    void open_if_assessment(screen_id module);
     void copy_to(const std::string& target);
-    void show_page(std::string_view title, const viewer_request& request, std::string_view back_tag);
+    void show_page(std::string_view title, const viewer_request& request, screen_id back);
 
     application_state& state_;
     prompts& person_;
     profile_module& profile_;
-    screens& screens_;
+    desktop& screens_;
     report_desk& desk_;
     std::string title_ = "KEL Calculator: Assessments";
 };

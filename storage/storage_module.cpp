@@ -151,7 +151,7 @@ void storage_module::storage_report(report_desk& desk) {
                                          .balance = plan_.balance(),
                                          .rain_mm = rain_mm_,
                                          .dirty_water = water_.answers()}),
-                    "storage", "storage");
+                    screen_id::storage, screen_id::storage);
 }
 
 }  // namespace kel

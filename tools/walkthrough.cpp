@@ -257,7 +257,7 @@ void walk::help() {
     drive::press(screen("front"), "cmdFront_show_me");
     picture("viewer", "guides");
     drive::press(screen("viewer"), "Command1");
-    program_.open("splash");
+    program_.open(screen_id::about);
     picture("splash", "about_box");
     screen("splash")->close();
 }

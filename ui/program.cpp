@@ -5,6 +5,8 @@
 #include <QWidget>
 #include <algorithm>
 #include <array>
+#include <stdexcept>
+#include <type_traits>
 
 #include "core/file_error.h"
 #include "ui/kel_application.h"
@@ -25,13 +27,6 @@ namespace kel {
 
 namespace {
 
-constexpr std::string_view front_tag = "front";
-constexpr std::string_view location_tag = "location";
-constexpr std::string_view viewer_tag = "viewer";
-
-constexpr std::array<std::string_view, 7> built_screens{"land",    "storage", "reduction", "inorg",
-                                                        "profile", "splash",  "years"};
-
 class waiting {
   public:
     waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -40,31 +35,36 @@ class waiting {
     waiting& operator=(const waiting&) = delete;
 };
 
-struct picker_tag {
-    picker_module caller;
-    std::string_view tag;
-};
-constexpr std::array<picker_tag, 4> picker_tags{{{picker_module::land, "land"},
-                                                 {picker_module::storage, "storage"},
-                                                 {picker_module::manure, "reduction"},
-                                                 {picker_module::inorganic, "inorg"}}};
-
-struct window_size {
-    std::string_view tag;
-    int width;
-    int height;
-};
-// Sizes at first view; each fits a screen of 1280 x 800.
-constexpr std::array<window_size, 8> first_sizes{{{"front", 900, 620},
-                                                  {"profile", 1000, 700},
-                                                  {"location", 1000, 760},
-                                                  {"land", 1220, 720},
-                                                  {"storage", 1260, 760},
-                                                  {"reduction", 1250, 720},
-                                                  {"inorg", 1220, 720},
-                                                  {"viewer", 1040, 740}}};
-
 }  // namespace
+
+struct program::screen_row {
+    screen_id id;
+    std::string_view text;  // by which files, tests and tools know it
+    picker_module caller;   // what the years dialog knows it by
+    int width;              // at first view; each fits a screen of 1280 x 800
+    int height;             // 0: as large as what is in it
+    QWidget* (program::*make)();
+};
+
+// Every screen of the program. A new one is a row here.
+std::span<const program::screen_row> program::screen_table() {
+    // clang-format off
+    static constexpr std::array<screen_row, 10> table{{
+        // identity             text          years dialog              width height  made by
+        {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
+        {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
+        {screen_id::location,   "location",   picker_module::front,      1000, 760,  &program::make_location},
+        {screen_id::land,       "land",       picker_module::land,       1220, 720,  &program::make_module<frmLand_new>},
+        {screen_id::storage,    "storage",    picker_module::storage,    1260, 760,  &program::make_module<frmStorage>},
+        {screen_id::manure,     "reduction",  picker_module::manure,     1250, 720,  &program::make_module<frmReductions>},
+        {screen_id::inorganic,  "inorg",      picker_module::inorganic,  1220, 720,  &program::make_module<frmInorganic>},
+        {screen_id::years,      "years",      picker_module::front,         0,   0,  &program::make_years},
+        {screen_id::about,      "splash",     picker_module::front,         0,   0,  &program::make_about},
+        {screen_id::viewer,     "viewer",     picker_module::front,      1040, 740,  &program::make_viewer},
+    }};
+    // clang-format on
+    return table;
+}
 
 program::program(const installation& places, prompts& person, std::function<date()> today)
     : person_(person),
@@ -78,164 +78,189 @@ program::program(const installation& places, prompts& person, std::function<date
 program::~program() = default;
 
 void program::start(const std::string& assessment) {
-    made(front_tag);
+    made(screen_id::front);
     front_.start_up();
     try {
         if (!assessment.empty()) years_.open_file(assessment);
     } catch (const file_error& failure) {
         person_.tell(stop_box(failure));
     }
-    show_screen(front_tag);
+    show_screen(screen_id::front);
 }
 
-QWidget* program::screen(std::string_view tag) const {
-    const auto found = screens_.find(tag);
+const program::screen_row& program::row_of(screen_id id) {
+    for (const screen_row& row : screen_table())
+        if (row.id == id) return row;
+    throw std::invalid_argument("This version has no screen " + std::to_string(static_cast<int>(id)) + ".");
+}
+
+QWidget* program::screen(screen_id id) const {
+    const auto found = screens_.find(id);
     return found == screens_.end() ? nullptr : found->second.get();
 }
 
-module_screen* program::make_module(std::string_view tag) {
-    if (tag == "land") return new frmLand_new(state_, person_, desk_);
-    if (tag == "storage") return new frmStorage(state_, person_, desk_);
-    if (tag == "reduction") return new frmReductions(state_, person_, desk_);
-    if (tag == "inorg") return new frmInorganic(state_, person_, desk_);
-    return nullptr;
+QWidget* program::screen(std::string_view text) const {
+    for (const screen_row& row : screen_table())
+        if (row.text == text) return screen(row.id);
+    throw std::invalid_argument("There is no screen \"" + std::string(text) + "\".");
+}
+
+module_screen* program::module_of(screen_id id) const {
+    return qobject_cast<module_screen*>(screen(id));
 }
 
 // A module that was loaded hidden shows what it loaded then, but never one file's rows over another file.
-void program::load_if_other_file(module_screen& module, std::string_view tag) {
-    if (!module.loaded_file().empty() && module.loaded_file() != state_.assess_file) load_anew(module, tag);
-    module.set_loaded_file(state_.assess_file);
+void program::load_if_other_file(screen_id id) {
+    module_screen* module = module_of(id);
+    if (!module) return;
+    if (!module->loaded_file().empty() && module->loaded_file() != state_.assess_file) load_anew(id);
+    module->set_loaded_file(state_.assess_file);
 }
 
 // A module that cannot load the assessment now open must not stay with the rows of the one before.
-void program::load_anew(module_screen& module, std::string_view tag) {
+void program::load_anew(screen_id id) {
     try {
-        module.reload_all();
-        module.set_loaded_file(state_.assess_file);
+        module_of(id)->reload_all();
+        module_of(id)->set_loaded_file(state_.assess_file);
     } catch (...) {
-        leave(tag, front_tag);
+        leave(id, screen_id::front);
         throw;
     }
+}
+
+QWidget* program::make_front() {
+    auto* front = new frmKEL_front(front_, state_, *this);
+    connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
+    return front;
 }
 
 QWidget* program::make_profile() {
     auto* profile = new frmProfile(profile_, desk_, state_);
     connect(profile, &frmProfile::left, this, [this, profile] {
-        show_screen(front_tag);
+        show_screen(screen_id::front);
         profile->hide();
         // Cancel reads the store back only after this.
         QMetaObject::invokeMethod(
             this, [this] { refresh_front(); }, Qt::QueuedConnection);
     });
-    connect(profile, &frmProfile::years_wanted, this, [this] { open("years"); });
-    connect(profile, &frmProfile::location_wanted, this, [this, profile] {
-        open(location_tag);
-        profile->hide();
-    });
+    connect(profile, &frmProfile::years_wanted, this, [this] { open(screen_id::years); });
+    connect(profile, &frmProfile::location_wanted, this,
+            [this] { open_in_place_of(screen_id::profile, screen_id::location); });
     return profile;
 }
 
-QWidget* program::make(std::string_view tag) {
-    const auto leaving_to = [this](auto* screen, auto left, std::string_view from, std::string_view to) {
-        // Queued: the screen that says it is left must not be deleted under its own feet.
-        connect(
-            screen, left, this, [this, from, to] { leave(from, to); }, Qt::QueuedConnection);
-    };
-    if (tag == front_tag) {
-        auto* front = new frmKEL_front(front_, state_, *this);
-        connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
-        return front;
-    }
-    if (tag == "profile") return make_profile();
-    if (tag == location_tag) {
-        auto* map = new Scotland(state_, person_, profile_);
-        leaving_to(map, &Scotland::closed, location_tag, "profile");
-        return map;
-    }
-    if (module_screen* module = make_module(tag)) {
-        connect(
-            module, &module_screen::left, this,
-            [this, module, left = std::string(tag)] { leave(left, module->back_tag()); },
-            Qt::QueuedConnection);
-        connect(module, &module_screen::years_wanted, this, [this] { open("years"); });
-        return module;
-    }
-    if (tag == "years") {
-        auto* years = new Year_Picker(years_);
-        leaving_to(years, &Year_Picker::closed, "years", {});
-        connect(years, &Year_Picker::changed, this, [this] {
-            load_modules_in_view();
-            refresh_front();
-        });
-        return years;
-    }
-    if (tag == "splash") {
-        auto* splash = new frmKEL_splash;
-        connect(splash, &frmKEL_splash::page_wanted, this,
-                [this](const QString& address) { front_.show_partner(from_qt(address)); });
-        return splash;
-    }
+// The screens that say they are left go in the next turn of the event loop: none is deleted under its own
+// feet.
+QWidget* program::make_location() {
+    auto* map = new Scotland(state_, person_, profile_);
+    connect(
+        map, &Scotland::closed, this, [this] { leave(screen_id::location, screen_id::profile); },
+        Qt::QueuedConnection);
+    return map;
+}
+
+template <class Screen>
+QWidget* program::make_module() {
+    module_screen* module = nullptr;
+    if constexpr (std::is_constructible_v<Screen, application_state&, prompts&, report_desk&, screens&>)
+        module = new Screen(state_, person_, desk_, *this);
+    else
+        module = new Screen(state_, person_, desk_);
+    connect(
+        module, &module_screen::left, this,
+        [this, module] {
+            for (const auto& [id, screen] : screens_)
+                if (screen.get() == module) return leave(id, module->closes_to());
+        },
+        Qt::QueuedConnection);
+    connect(module, &module_screen::years_wanted, this, [this] { open(screen_id::years); });
+    return module;
+}
+
+QWidget* program::make_years() {
+    auto* years = new Year_Picker(years_);
+    connect(
+        years, &Year_Picker::closed, this, [this] { leave(screen_id::years, std::nullopt); },
+        Qt::QueuedConnection);
+    connect(years, &Year_Picker::changed, this, [this] {
+        load_modules_in_view();
+        refresh_front();
+    });
+    return years;
+}
+
+QWidget* program::make_about() {
+    auto* about = new frmKEL_splash;
+    connect(about, &frmKEL_splash::page_wanted, this,
+            [this](const QString& address) { front_.show_partner(from_qt(address)); });
+    return about;
+}
+
+QWidget* program::make_viewer() {
     auto* viewer = new FullScreen(state_, person_, report_folder_);
     connect(
         viewer, &FullScreen::closed, this, [this] { close_viewer(); }, Qt::QueuedConnection);
     return viewer;
 }
 
-QWidget* program::made(std::string_view tag) {
-    if (QWidget* there = screen(tag)) return there;
-    QWidget* widget = make(tag);
-    screens_[std::string(tag)].reset(widget);
-    const auto kept = sizes_.find(tag);
-    const auto size = std::find_if(first_sizes.begin(), first_sizes.end(),
-                                   [&](const window_size& s) { return s.tag == tag; });
+QWidget* program::made(screen_id id) {
+    if (QWidget* there = screen(id)) return there;
+    const screen_row& row = row_of(id);
+    QWidget* widget = (this->*row.make)();
+    screens_[id].reset(widget);
+    const auto kept = sizes_.find(id);
     if (kept != sizes_.end())
         widget->restoreGeometry(kept->second);
-    else if (size != first_sizes.end())
-        widget->resize(size->width, size->height);
+    else if (row.width > 0)
+        widget->resize(row.width, row.height);
     return widget;
 }
 
-void program::show_screen(std::string_view tag) {
-    QWidget* widget = made(tag);
+void program::show_screen(screen_id id) {
+    QWidget* widget = made(id);
     widget->show();
     widget->raise();
     widget->activateWindow();
 }
 
-void program::leave(std::string_view tag, std::string_view back_tag) {
-    if (!back_tag.empty()) show_screen(back_tag);
-    const auto found = screens_.find(tag);
+void program::leave(screen_id id, std::optional<screen_id> back) {
+    if (back) show_screen(*back);
+    const auto found = screens_.find(id);
     if (found == screens_.end()) return;
-    sizes_[found->first] = found->second->saveGeometry();
+    sizes_[id] = found->second->saveGeometry();
     found->second.release()->deleteLater();
     screens_.erase(found);
     refresh_front();
-    if (tag == "years") load_modules_in_view();
+    if (id == screen_id::years) load_modules_in_view();
 }
 
 // The years dialog may have opened another assessment under a module, also by a Browse that was then
 // cancelled.
 void program::load_modules_in_view() {
-    for (const picker_tag& entry : picker_tags) {
-        auto* module = static_cast<module_screen*>(screen(entry.tag));
-        if (module && module->isVisible()) load_if_other_file(*module, entry.tag);
-    }
+    for (const screen_row& row : screen_table())
+        if (module_of(row.id) && module_of(row.id)->isVisible()) load_if_other_file(row.id);
 }
 
-void program::open(std::string_view tag) {
-    const bool there = screen(tag) != nullptr;
+void program::open(screen_id id) {
+    const bool there = screen(id) != nullptr;
     {
         const waiting busy;
-        made(tag);
-        if (auto* module = qobject_cast<module_screen*>(screen(tag))) load_if_other_file(*module, tag);
+        made(id);
+        load_if_other_file(id);
     }
-    if (tag == "years" && !(there && screen(tag)->isVisible()))
-        static_cast<Year_Picker*>(screen(tag))->open();
-    show_screen(tag);
+    if (id == screen_id::years && !(there && screen(id)->isVisible()))
+        static_cast<Year_Picker*>(screen(id))->open();
+    show_screen(id);
 }
 
-bool program::exists(std::string_view tag) const {
-    return std::find(built_screens.begin(), built_screens.end(), tag) != built_screens.end();
+void program::open_in_place_of(screen_id opener, screen_id id) {
+    open(id);
+    screen(opener)->hide();
+}
+
+bool program::exists(screen_id id) const {
+    const auto table = screen_table();
+    return std::any_of(table.begin(), table.end(), [&](const screen_row& row) { return row.id == id; });
 }
 
 bool program::start_updater(const std::string& path) {
@@ -243,7 +268,7 @@ bool program::start_updater(const std::string& path) {
 }
 
 void program::end() {
-    for (const auto& [tag, widget] : screens_)
+    for (const auto& [id, widget] : screens_)
         widget->hide();
     emit ended();
 }
@@ -255,31 +280,29 @@ void program::wait_cursor(bool on) {
         QApplication::restoreOverrideCursor();
 }
 
-void program::hide_screen(std::string_view tag) {
-    made(tag)->hide();
-    if (auto* module = qobject_cast<module_screen*>(screen(tag)))
+void program::hide_screen(screen_id id) {
+    made(id)->hide();
+    if (module_screen* module = module_of(id))
         if (module->loaded_file().empty()) module->set_loaded_file(state_.assess_file);
 }
 
 void program::show(const viewer_request& request) {
-    show_screen(viewer_tag);
-    static_cast<FullScreen*>(screen(viewer_tag))->show_page(request);
+    show_screen(screen_id::viewer);
+    static_cast<FullScreen*>(screen(screen_id::viewer))->show_page(request);
 }
 
 void program::close_viewer() {
-    leave(viewer_tag, screen(state_.viewer_back) ? std::string_view(state_.viewer_back) : front_tag);
+    leave(screen_id::viewer, screen(state_.viewer_back) ? state_.viewer_back : screen_id::front);
 }
 
 void program::reload(picker_module caller) {
-    const auto entry = std::find_if(picker_tags.begin(), picker_tags.end(),
-                                    [&](const picker_tag& p) { return p.caller == caller; });
-    if (entry == picker_tags.end()) return;
-    if (auto* module = static_cast<module_screen*>(screen(entry->tag))) load_anew(*module, entry->tag);
+    for (const screen_row& row : screen_table())
+        if (row.caller == caller && module_of(row.id)) return load_anew(row.id);
 }
 
 void program::refresh_front() {
-    if (auto* front = static_cast<frmKEL_front*>(screen(front_tag))) front->refresh();
-    if (auto* profile = static_cast<frmProfile*>(screen("profile"))) profile->refresh();
+    if (auto* front = static_cast<frmKEL_front*>(screen(screen_id::front))) front->refresh();
+    if (auto* profile = static_cast<frmProfile*>(screen(screen_id::profile))) profile->refresh();
 }
 
 }  // namespace kel

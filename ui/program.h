@@ -1,11 +1,13 @@
-// The running program: the application state, the modules and their screens. It brings screens to view by
-// their tags and is the viewer for the report generation; everything else is the modules' doing.
+// The running program: the application state, the modules and their screens. One table says which screens
+// there are and how each is made; everything else is the modules' doing.
 #pragma once
 
 #include <QByteArray>
 #include <QObject>
 #include <map>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
 
 #include "core/application_state.h"
@@ -13,7 +15,7 @@
 #include "profile/profile_module.h"
 #include "reports/report_viewer.h"
 #include "shell/assessments_module.h"
-#include "shell/screens.h"
+#include "shell/desktop.h"
 #include "shell/years_module.h"
 
 class QWidget;
@@ -22,7 +24,7 @@ namespace kel {
 
 class module_screen;
 
-class program : public QObject, public screens, public report_viewer {
+class program : public QObject, public desktop, public report_viewer {
     Q_OBJECT
 
   public:
@@ -34,32 +36,47 @@ class program : public QObject, public screens, public report_viewer {
     void start(const std::string& assessment = {});
 
     application_state& state() { return state_; }
-    /// The screen of a tag, or null while it is not in being.
-    QWidget* screen(std::string_view tag) const;
+    /// The screen, or null while it is not in being.
+    QWidget* screen(screen_id id) const;
+    /// The same by the text of the table; throws std::invalid_argument for one that the table lacks.
+    QWidget* screen(std::string_view text) const;
 
-    void open(std::string_view tag) override;
-    bool exists(std::string_view tag) const override;
+    void open(screen_id id) override;
+    void open_in_place_of(screen_id opener, screen_id id) override;
+    bool exists(screen_id id) const override;
     bool start_updater(const std::string& path) override;
     void end() override;
 
     void wait_cursor(bool on) override;
-    void hide_screen(std::string_view tag) override;
+    void hide_screen(screen_id id) override;
     void show(const viewer_request& request) override;
 
   signals:
     void ended();
 
   private:
-    module_screen* make_module(std::string_view tag);
-    void load_if_other_file(module_screen& module, std::string_view tag);
-    void load_modules_in_view();
-    void load_anew(module_screen& module, std::string_view tag);
+    struct screen_row;
+    static std::span<const screen_row> screen_table();
+    static const screen_row& row_of(screen_id id);
+
+    QWidget* make_front();
     QWidget* make_profile();
-    QWidget* make(std::string_view tag);
-    QWidget* made(std::string_view tag);
-    /// Shows another screen and does away with this one; its size is kept for the next time.
-    void leave(std::string_view tag, std::string_view back_tag);
-    void show_screen(std::string_view tag);
+    QWidget* make_location();
+    QWidget* make_years();
+    QWidget* make_about();
+    QWidget* make_viewer();
+    template <class Screen>
+    QWidget* make_module();
+
+    QWidget* made(screen_id id);
+    void show_screen(screen_id id);
+    /// Shows the screen `back`, if one is named, and does away with this one; its size is kept for the next
+    /// time.
+    void leave(screen_id id, std::optional<screen_id> back);
+    module_screen* module_of(screen_id id) const;
+    void load_if_other_file(screen_id id);
+    void load_modules_in_view();
+    void load_anew(screen_id id);
     void close_viewer();
     void reload(picker_module caller);
     void refresh_front();
@@ -70,8 +87,8 @@ class program : public QObject, public screens, public report_viewer {
     profile_module profile_;
     assessments_module front_;
     years_module years_;
-    std::map<std::string, std::unique_ptr<QWidget>, std::less<>> screens_;
-    std::map<std::string, QByteArray, std::less<>> sizes_;
+    std::map<screen_id, std::unique_ptr<QWidget>> screens_;
+    std::map<screen_id, QByteArray> sizes_;
     std::string report_folder_;  // of the viewer's last save
 };
 

@@ -57,7 +57,7 @@ class SampleFarm : public test::farm_test {
         state.kel_year_start = start;
         state.farm_zone = "Strathmore and Fife KEL";
         state.farm_town = "Kirriemuir";
-        state.manure_caller = "front";
+        state.manure_caller = manure_opener::front;
     }
     agreeing_person person;
 };

@@ -10,9 +10,9 @@ namespace {
 
 struct viewer_stub : report_viewer {
     void wait_cursor(bool /*on*/) override {}
-    void hide_screen(std::string_view tag) override { hidden = tag; }
+    void hide_screen(screen_id id) override { hidden = id; }
     void show(const viewer_request& request) override { shown = request; }
-    std::string hidden;
+    std::optional<screen_id> hidden;
     viewer_request shown;
 };
 
@@ -86,8 +86,8 @@ TEST_F(InorganicFile, ReportHasTheRowsWithoutTheEntryRow) {
     report_desk desk{state, viewer, [] { return make_date(15, 11, 2026); }, "somebody"};
     module.report(desk);
     EXPECT_EQ(viewer.shown.page, path("KEL_report_inorganic.htm"));
-    EXPECT_EQ(viewer.hidden, "inorg");
-    EXPECT_EQ(state.viewer_back, "inorg");
+    EXPECT_EQ(viewer.hidden, screen_id::inorganic);
+    EXPECT_EQ(state.viewer_back, screen_id::inorganic);
     const std::string page = file_text(viewer.shown.page);
     std::size_t at = 0;
     // clang-format off

@@ -117,20 +117,21 @@ TEST_F(ManureEntry, DateLiesInTheYearOfItsFile) {
     choose(0, covered_fym, "Over 24 hours");
     const auto this_year = says::invalid_date("The date entered is not within the KEL year being assessed!");
     const auto last_year = says::invalid_date("The date entered is not within the previous KEL year!");
+    using enum manure_opener;
     const struct {
-        std::string caller;
+        manure_opener opener;
         date day;
         bool taken;
     } cases[] = {
-        {"front", make_date(18, 12, 2024), false},    {"front", make_date(19, 12, 2024), true},
-        {"front", make_date(18, 12, 2025), true},     {"new crop", make_date(19, 12, 2025), false},
-        {"old crop", make_date(18, 12, 2023), false}, {"old crop", make_date(19, 12, 2023), true},
-        {"old crop", make_date(18, 12, 2024), true},  {"old crop", make_date(19, 12, 2024), false},
+        {front, make_date(18, 12, 2024), false},    {front, make_date(19, 12, 2024), true},
+        {front, make_date(18, 12, 2025), true},     {new_crop, make_date(19, 12, 2025), false},
+        {old_crop, make_date(18, 12, 2023), false}, {old_crop, make_date(19, 12, 2023), true},
+        {old_crop, make_date(18, 12, 2024), true},  {old_crop, make_date(19, 12, 2024), false},
     };
     for (const auto& c : cases) {
-        state.manure_caller = c.caller;
-        if (!c.taken) person.expect(c.caller == "old crop" ? last_year : this_year);
-        EXPECT_EQ(module.enter_date(0, c.day), c.taken) << c.caller << " " << short_date_text(c.day);
+        state.manure_caller = c.opener;
+        if (!c.taken) person.expect(c.opener == old_crop ? last_year : this_year);
+        EXPECT_EQ(module.enter_date(0, c.day), c.taken) << short_date_text(c.day);
     }
 }
 

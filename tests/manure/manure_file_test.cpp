@@ -64,11 +64,12 @@ TEST_F(ManureFile, CallersReadAndWriteTheirFile) {
     link();
     add_application(state.assess_file, "Long Rig", "2025-03-14", "1");
     add_application(state.prev1_file, "Long Rig", "2024-03-14", "2");
-    for (const std::string caller : {"front", "new crop", "old crop"}) {
-        state.manure_caller = caller;
+    for (const auto opener :
+         {manure_opener::front, manure_opener::new_crop, manure_opener::old_grass, manure_opener::old_crop}) {
+        state.manure_caller = opener;
         module.manure_load_stuff();
-        EXPECT_EQ(cell(0, manure_col::total_n), caller == "old crop" ? "2" : "1") << caller;
-        EXPECT_EQ(module.click(1, manure_col::date).text, "01/01/2025") << caller;
+        EXPECT_EQ(cell(0, manure_col::total_n), for_previous_year(opener) ? "2" : "1");
+        EXPECT_EQ(module.click(1, manure_col::date).text, "01/01/2025");
     }
     module.enter_manure(0, strainer);
     ASSERT_TRUE(module.save());
@@ -81,13 +82,13 @@ TEST_F(ManureFile, FilesThatCannotBeReadOrWrittenLeaveWhatWasThere) {
     add_application(state.assess_file, "Long Rig", "2025-03-14", "1");
     module.manure_load_stuff();
     const text_grid before = module.applications();
-    state.manure_caller = "old crop";
+    state.manure_caller = manure_opener::old_crop;
     state.prev1_file = path("vanished.kel");
     state.limits = {};
     EXPECT_THROW(module.manure_load_stuff(), file_error);
     EXPECT_EQ(module.applications(), before);
     EXPECT_EQ(state.limits, year_limits{});
-    state.manure_caller = "front";
+    state.manure_caller = manure_opener::front;
     SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE)
         .exec("ALTER TABLE [Manure_applic] DROP COLUMN [Month Applied]");
     EXPECT_THROW(module.save(), file_error);
@@ -106,7 +107,7 @@ TEST_F(ManureFile, SaveWithoutAFileAsksForOneThatIsNotTheOtherYears) {
     EXPECT_TRUE(module.save());
     EXPECT_EQ(state.assess_file, path("fresh.kel"));
 
-    state.manure_caller = "old crop";
+    state.manure_caller = manure_opener::old_crop;
     state.prev1_file.clear();
     person.expect_file("Save the assessment", state.assess_file).expect(says::this_years_file);
     EXPECT_FALSE(module.save());

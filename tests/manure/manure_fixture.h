@@ -22,7 +22,7 @@ inline const std::string layer = "Layer manure stored under cover";
 
 class manure_test : public farm_test {
   protected:
-    manure_test() { state.manure_caller = "front"; }
+    manure_test() { state.manure_caller = manure_opener::front; }
 
     void open(const std::vector<test_field>& fields) {
         open_farm(fields);

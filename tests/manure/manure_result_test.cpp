@@ -12,9 +12,9 @@ namespace result_col = manure_result_column;
 class viewer_stub : public report_viewer {
   public:
     void wait_cursor(bool /*on*/) override {}
-    void hide_screen(std::string_view tag) override { hidden = tag; }
+    void hide_screen(screen_id id) override { hidden = id; }
     void show(const viewer_request& request) override { shown = request; }
-    std::string hidden;
+    std::optional<screen_id> hidden;
     viewer_request shown;
 };
 
@@ -139,8 +139,8 @@ TEST_F(ManureResult, ReportHoldsItsPartsInOrder) {
     ASSERT_TRUE(calculated());
     module.report(desk);
     EXPECT_EQ(viewer.shown.page, path("KEL_report_manureN.htm"));
-    EXPECT_EQ(viewer.hidden, "land");
-    EXPECT_EQ(state.viewer_back, "reduction");
+    EXPECT_EQ(viewer.hidden, screen_id::land);
+    EXPECT_EQ(state.viewer_back, screen_id::manure);
     const std::string page = file_text(viewer.shown.page);
     std::size_t at = 0;
     // clang-format off
@@ -160,27 +160,13 @@ TEST_F(ManureResult, ReportHoldsItsPartsInOrder) {
     // clang-format on
 }
 
-TEST_F(ManureResult, CloseLeadsBackToTheCaller) {
-    const struct {
-        std::string caller;
-        bool from_grass;
-        std::string_view back;
-    } cases[] = {{"front", false, "front"},
-                 {"new crop", false, "crop"},
-                 {"old crop", false, "crop"},
-                 {"old crop", true, "grass"}};
-    for (const auto& c : cases) {
-        state.manure_caller = c.caller;
-        state.manure_from_grass = c.from_grass;
-        person.expect(module_messages::close_module, answer::no);
-        EXPECT_FALSE(module.close());
-        EXPECT_EQ(state.manure_from_grass, c.from_grass);
-        person.expect(module_messages::close_module, answer::yes);
-        EXPECT_TRUE(module.close());
-        EXPECT_EQ(module.back_tag(), c.back) << c.caller;
-        EXPECT_FALSE(state.manure_from_grass);
-        EXPECT_EQ(state.manure_caller, c.caller);
+TEST_F(ManureResult, CloseAsksAndKeepsItsCaller) {
+    state.manure_caller = manure_opener::old_grass;
+    for (const answer reply : {answer::no, answer::yes}) {
+        person.expect(module_messages::close_module, reply);
+        EXPECT_EQ(module.close(), reply == answer::yes);
     }
+    EXPECT_EQ(state.manure_caller, manure_opener::old_grass);
 }
 
 }  // namespace kel::test

@@ -33,7 +33,7 @@ class SaveReport : public test::farm_test {
         write_file(path("rep_chart1.bmp"), "chart");
         write_file(path("KEL_report_land.htm"), "page");
         state.last_report_path = path("KEL_report_land.htm");
-        state.viewer_back = "land";
+        state.viewer_back = screen_id::land;
     }
 
     void save_as(const std::string& name) {
@@ -49,7 +49,7 @@ TEST_F(SaveReport, TwoFoldersGetThePicturesEachAndOnlyTheStorageReportItsChart) 
     save_as("first/land.htm");
     EXPECT_FALSE(fs::exists(path("first/rep_chart1.bmp")));
     EXPECT_EQ(path("first"), report_folder);
-    state.viewer_back = "storage";
+    state.viewer_back = screen_id::storage;
     save_as("second/storage.htm");
     EXPECT_EQ("chart", file_text(path("second/rep_chart1.bmp")));
     for (const char* saved : {"first/land.htm", "second/storage.htm"}) {
@@ -75,7 +75,7 @@ TEST_F(SaveReport, FolderOfTheLastSaveCountsOnlyOnceAnyFolderIsRemembered) {
 }
 
 TEST_F(SaveReport, ReportSavedOverItselfStaysWhole) {
-    state.viewer_back = "storage";
+    state.viewer_back = screen_id::storage;
     state.places.program_folder = state.places.written_folder;
     write_file(path("tolmlogoscot.jpg"), "logo");
     save_as("KEL_report_land.htm");

@@ -15,12 +15,13 @@ using command = void (front_screen::*)();
 
 class AssessmentsScreen : public shell_test {
   protected:
-    texts run(command c) {
-        shown.events.clear();
+    events run(command c) {
+        shown.told.clear();
         (front.*c)();
         person.verify_done();
-        return shown.events;
+        return shown.told;
     }
+    static events opens(screen_id id) { return {{"open", id}, {"hide", screen_id::front}}; }
     void save_as(const std::string& chosen) {
         person.expect_file("Save Farm Assessment As...", chosen);
         front.save_as();
@@ -34,10 +35,10 @@ TEST_F(AssessmentsScreen, NothingOpensWithoutAnAssessment) {
                       &front_screen::crops, &front_screen::grassland, &front_screen::composting,
                       &front_screen::field_record, &front_screen::view_reports}) {
         person.expect(text::no_assessment_file);
-        EXPECT_EQ(run(c), texts{});
+        EXPECT_EQ(run(c), events{});
     }
     person.expect(text::no_profile_to_edit);
-    EXPECT_EQ(run(&front_screen::edit_profile), texts{});
+    EXPECT_EQ(run(&front_screen::edit_profile), events{});
 }
 
 TEST_F(AssessmentsScreen, StepsAskInOrderAndNoFallsBackToTheStepBefore) {
@@ -47,44 +48,44 @@ TEST_F(AssessmentsScreen, StepsAskInOrderAndNoFallsBackToTheStepBefore) {
     struct {
         command entry;
         std::vector<std::pair<message, answer>> asked;
-        std::string opened;
+        std::optional<screen_id> opened;
     } const cases[] = {
-        {&front_screen::step1, {}, "land"},
-        {&front_screen::step2, {{land, yes}}, "storage"},
-        {&front_screen::step2, {{land, no}}, "land"},
-        {&front_screen::step2, {{land, cancel}}, ""},
-        {&front_screen::step3, {{closed, yes}}, "reduction"},
-        {&front_screen::step3, {{closed, cancel}}, ""},
-        {&front_screen::step3, {{closed, no}, {land, yes}}, "storage"},
-        {&front_screen::step3, {{closed, no}, {land, no}}, "land"},
-        {&front_screen::step3, {{closed, no}, {land, cancel}}, ""},
-        {&front_screen::step4, {{closed, yes}}, "inorg"},
-        {&front_screen::step4, {{closed, cancel}}, ""},
-        {&front_screen::step4, {{closed, no}, {land, no}}, "land"},
+        {&front_screen::step1, {}, screen_id::land},
+        {&front_screen::step2, {{land, yes}}, screen_id::storage},
+        {&front_screen::step2, {{land, no}}, screen_id::land},
+        {&front_screen::step2, {{land, cancel}}, {}},
+        {&front_screen::step3, {{closed, yes}}, screen_id::manure},
+        {&front_screen::step3, {{closed, cancel}}, {}},
+        {&front_screen::step3, {{closed, no}, {land, yes}}, screen_id::storage},
+        {&front_screen::step3, {{closed, no}, {land, no}}, screen_id::land},
+        {&front_screen::step3, {{closed, no}, {land, cancel}}, {}},
+        {&front_screen::step4, {{closed, yes}}, screen_id::inorganic},
+        {&front_screen::step4, {{closed, cancel}}, {}},
+        {&front_screen::step4, {{closed, no}, {land, no}}, screen_id::land},
     };
     for (const auto& c : cases) {
         for (const auto& [box, reply] : c.asked)
             person.expect(box, reply);
-        EXPECT_EQ(run(c.entry), c.opened.empty() ? texts{} : texts({"open " + c.opened, "hide front"}));
-        EXPECT_EQ(state.manure_caller, c.opened == "reduction" ? "front" : "");
-        state.manure_caller.clear();
+        state.manure_caller = manure_opener::old_crop;
+        EXPECT_EQ(run(c.entry), c.opened ? opens(*c.opened) : events{});
+        EXPECT_EQ(state.manure_caller == manure_opener::front, c.opened == screen_id::manure);
     }
     state.no_related_prompt = 1;
-    for (const auto& [unasked, opened] : {std::pair(&front_screen::step2, "open storage"),
-                                          {&front_screen::step3, "open reduction"},
-                                          {&front_screen::step4, "open inorg"},
-                                          {&front_screen::crops, "open crop"},
-                                          {&front_screen::grassland, "open grass"},
-                                          {&front_screen::composting, "open straw"},
-                                          {&front_screen::field_record, "open record"}})
-        EXPECT_EQ(run(unasked).at(0), opened);
+    for (const auto& [unasked, opened] : {std::pair(&front_screen::step2, screen_id::storage),
+                                          {&front_screen::step3, screen_id::manure},
+                                          {&front_screen::step4, screen_id::inorganic},
+                                          {&front_screen::crops, screen_id::crops},
+                                          {&front_screen::grassland, screen_id::grass},
+                                          {&front_screen::composting, screen_id::straw},
+                                          {&front_screen::field_record, screen_id::record}})
+        EXPECT_EQ(run(unasked), opens(opened));
 }
 
 TEST_F(AssessmentsScreen, NewFarmEmptiesTheChainButNotTheStore) {
     open_farm({{"Long", "4"}});
     profile.load_profile();
     state.prev1_file = state.slot_prev1 = path("y2.kel");
-    EXPECT_EQ(run(&front_screen::new_farm), (texts{"open profile", "hide front"}));
+    EXPECT_EQ(run(&front_screen::new_farm), opens(screen_id::profile));
     EXPECT_TRUE(profile.year_list_enabled());
     EXPECT_EQ(working(), texts(3));
     EXPECT_EQ(slots(), texts(3));
@@ -130,37 +131,37 @@ TEST_F(AssessmentsScreen, GuidesAndHelpTopicsShowInTheViewerOrAreNamedAsMissing)
     for (const auto& [show, missing_title, expected] : cases) {
         const std::string folder = folder_of(expected.page);
         person.expect(text::page_missing(missing_title, file_name_of(expected.page), folder));
-        EXPECT_EQ(run(show), texts{});
+        EXPECT_EQ(run(show), events{});
         fs::create_directories(folder);
         write_file(expected.page, "<html>");
-        EXPECT_EQ(run(show), texts{"show"});
+        EXPECT_EQ(run(show), events{{"show"}});
         EXPECT_EQ(shown.shown, expected);
     }
-    EXPECT_EQ(state.viewer_back, "front");
+    EXPECT_EQ(state.viewer_back, screen_id::front);
 }
 
 TEST_F(AssessmentsScreen, UpdateEndsWithoutWritingTheStoreUnlessTheUpdaterIsMissing) {
     const std::string updater = path("updater1.exe");
     state.places.program_folder = folder_of(updater);
     person.expect(text::update_question, answer::no);
-    EXPECT_EQ(run(&front_screen::update), texts{});
+    EXPECT_EQ(run(&front_screen::update), events{});
     person.expect(text::update_question, answer::yes).expect(text::updater_missing(updater));
-    EXPECT_EQ(run(&front_screen::update), texts{});
+    EXPECT_EQ(run(&front_screen::update), events{});
     write_file(updater, "");
     person.expect(text::update_question, answer::yes);
-    EXPECT_EQ(run(&front_screen::update), (texts{"start", "end"}));
+    EXPECT_EQ(run(&front_screen::update), (events{{"start"}, {"end"}}));
     EXPECT_EQ(settings(), "");
 }
 
 TEST_F(AssessmentsScreen, ExitAsksTheCloseBoxDoesNotAndAFailedStoreKeepsNothingOpen) {
     person.expect(text::exit_question, answer::yes);
-    EXPECT_EQ(run(&front_screen::exit), texts{"end"});
+    EXPECT_EQ(run(&front_screen::exit), events{{"end"}});
     EXPECT_EQ(settings(), "0\n0\n0\nnone\nnone\nnone\n");
     state.places.written_folder = path("gone");
     person.expect(text::settings_not_saved(
         {state.places.settings_store(),
          "the settings could not be written. The folder may be read-only or the disc full."}));
-    EXPECT_EQ(run(&front_screen::close_window), texts{"end"});
+    EXPECT_EQ(run(&front_screen::close_window), events{{"end"}});
 }
 
 class StartUp : public AssessmentsScreen {
@@ -176,7 +177,7 @@ class StartUp : public AssessmentsScreen {
 TEST_F(StartUp, WithoutAUsableStoreNothingOpensAndNothingIsSaid) {
     start("1\n1\n1\n" + path("gone.kel") + "\n" + y3 + "\nnone\n");
     EXPECT_EQ(front.title(), "KEL Calculator (Version " + program_version() + ")");
-    EXPECT_EQ(shown.events, (texts{"wait", "ready"}));
+    EXPECT_EQ(shown.told, (events{{"wait"}, {"ready"}}));
     EXPECT_EQ(working(), texts(3));
     EXPECT_EQ(slots(), texts(3));
 }
@@ -201,7 +202,7 @@ TEST_F(StartUp, FileThatCannotBeLoadedIsNamedAndTheSlotsSurviveTheRun) {
         assessments_messages::cannot_open({y3, "the text \"next year\" in [Type].[Year] is not a date."}));
     start(store);
     EXPECT_EQ(working(), texts(3));
-    EXPECT_EQ(shown.events, (texts{"wait", "ready"}));
+    EXPECT_EQ(shown.told, (events{{"wait"}, {"ready"}}));
     front.close_window();
     EXPECT_EQ(settings(), store);
 }

@@ -1,6 +1,7 @@
-// A farm with the shell's modules around it; what the screens were told is kept in order as short texts.
+// A farm with the shell's modules around it; what the screens were told is kept in order.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -8,7 +9,7 @@
 #include "core/settings_store.h"
 #include "profile/profile_module.h"
 #include "reports/report_viewer.h"
-#include "shell/screens.h"
+#include "shell/desktop.h"
 #include "tests/support/farm_files.h"
 #include "tests/support/scripted_prompts.h"
 
@@ -16,16 +17,28 @@ namespace kel::test {
 
 using texts = std::vector<std::string>;
 
-struct recording_screens : screens, report_viewer {
-    void open(std::string_view tag) override { events.push_back("open " + std::string(tag)); }
-    bool exists(std::string_view) const override { return true; }
-    bool start_updater(const std::string&) override { return events.emplace_back("start"), updater_starts; }
-    void end() override { events.emplace_back("end"); }
-    void wait_cursor(bool on) override { events.emplace_back(on ? "wait" : "ready"); }
-    void hide_screen(std::string_view tag) override { events.push_back("hide " + std::string(tag)); }
-    void show(const viewer_request& request) override { events.emplace_back("show"), shown = request; }
+/// One thing that the screens were told; `text` stands for what names no screen.
+struct screen_event {
+    std::string text;
+    std::optional<screen_id> screen{};
+    bool operator==(const screen_event&) const = default;
+};
+using events = std::vector<screen_event>;
 
-    texts events;
+struct recording_screens : desktop, report_viewer {
+    void open(screen_id id) override { told.push_back({"open", id}); }
+    void open_in_place_of(screen_id opener, screen_id id) override {
+        open(id);
+        hide_screen(opener);
+    }
+    bool exists(screen_id) const override { return true; }
+    bool start_updater(const std::string&) override { return told.push_back({"start"}), updater_starts; }
+    void end() override { told.push_back({"end"}); }
+    void wait_cursor(bool on) override { told.push_back({on ? "wait" : "ready"}); }
+    void hide_screen(screen_id id) override { told.push_back({"hide", id}); }
+    void show(const viewer_request& request) override { told.push_back({"show"}), shown = request; }
+
+    events told;
     viewer_request shown;
     bool updater_starts = true;
 };

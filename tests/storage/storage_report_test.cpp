@@ -9,9 +9,9 @@ namespace {
 
 struct silent_viewer : report_viewer {
     void wait_cursor(bool) override {}
-    void hide_screen(std::string_view tag) override { hidden = tag; }
+    void hide_screen(screen_id id) override { hidden = id; }
     void show(const viewer_request&) override {}
-    std::string hidden;
+    std::optional<screen_id> hidden;
 };
 
 }  // namespace
@@ -73,8 +73,8 @@ TEST_F(StorageReport, SectionsComeInOrderWithTheirFigures) {
     EXPECT_EQ(row_of(report.substr(report.find("Pig Pen Washing")), "4"), (texts{"4", "0.072"}));
     EXPECT_EQ(row_of(report, "Home")[12], "Closed");  // October
     EXPECT_EQ(row_of(report, "Total Slurry Spread (cubic m)")[3], "125");
-    EXPECT_EQ(viewer.hidden, "storage");
-    EXPECT_EQ(state.viewer_back, "storage");
+    EXPECT_EQ(viewer.hidden, screen_id::storage);
+    EXPECT_EQ(state.viewer_back, screen_id::storage);
 }
 
 TEST_F(StorageReport, WithoutStoresOnlyTheSpreadingIsReported) {

@@ -23,14 +23,19 @@ TEST_F(Hub, OpensNothingWithoutAnAssessmentNorWhatThisVersionLacks) {
     press("front", "cmdFront_edit");
     for (const char* tag : {"land", "viewer", "profile"})
         EXPECT_FALSE(in_view(tag)) << tag;
-    const std::vector<std::pair<QString, std::string>> needs{
-        {"land", "land"},  {"storage", "storage"}, {"manure", "reduction"}, {"inorganic", "inorg"},
-        {"crops", "crop"}, {"grassland", "grass"}, {"composting", "straw"}, {"record", "record"}};
-    for (const auto& [command, tag] : needs) {
-        const bool built = run->exists(tag);
-        EXPECT_EQ(drive::control(screen("front"), "cmdFront_" + command)->isEnabled(), built) << tag;
-        EXPECT_EQ(screen("front")->findChild<QAction*>("mnuFront_" + command)->isEnabled(), built) << tag;
+    const std::vector<std::pair<QString, screen_id>> needs{
+        {"land", screen_id::land},           {"storage", screen_id::storage}, {"manure", screen_id::manure},
+        {"inorganic", screen_id::inorganic}, {"crops", screen_id::crops},     {"grassland", screen_id::grass},
+        {"composting", screen_id::straw},    {"record", screen_id::record}};
+    for (const auto& [command, id] : needs) {
+        const bool built = run->exists(id);
+        EXPECT_EQ(drive::control(screen("front"), "cmdFront_" + command)->isEnabled(), built)
+            << from_qt(command);
+        EXPECT_EQ(screen("front")->findChild<QAction*>("mnuFront_" + command)->isEnabled(), built);
+        if (built) continue;
+        EXPECT_THROW(run->open(id), std::invalid_argument);
     }
+    EXPECT_THROW(run->screen("viewr"), std::invalid_argument);
 }
 
 TEST_F(Hub, ExitAsksAndTheCloseBoxDoesNot) {

@@ -50,7 +50,7 @@ TEST_F(Viewer, WebAddressesAreHandedToTheDesktop) {
     QTextBrowser desktop;
     QDesktopServices::setUrlHandler("https", &desktop, "setSource");
     start();
-    run->open("splash");
+    run->open(screen_id::about);
     press("splash", "imgSplash_logo1");
     EXPECT_EQ(desktop.source().scheme(), "https");
     EXPECT_TRUE(page()->source().isEmpty());

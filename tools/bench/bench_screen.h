@@ -59,7 +59,7 @@ class bench_desktop {
     class no_viewer : public report_viewer {
       public:
         void wait_cursor(bool) override {}
-        void hide_screen(std::string_view) override {}
+        void hide_screen(screen_id) override {}
         void show(const viewer_request&) override {}
     };
 

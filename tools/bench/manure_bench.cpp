@@ -88,7 +88,7 @@ class spread_farm {
     explicit spread_farm(int fields) : farm_(fields, linked_years) {
         application_state& state = farm_.state;
         state.kel_year_start = read_assessment_year(state.assess_file);
-        state.manure_caller = "front";
+        state.manure_caller = manure_opener::front;
         for (const std::string& file : {state.assess_file, state.prev1_file})
             write_applications(file);
         bare_file_ = farm_.copy_of_file("bare.kel");

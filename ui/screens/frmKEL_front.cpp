@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "ui/widgets/qt_text.h"
@@ -26,7 +27,7 @@ struct command {
     const char* button;
     const char* menu;
     const char* entry;
-    const char* needs;
+    std::optional<screen_id> needs;
     const char* tip;
     void (*action)(front&);
 };
@@ -42,28 +43,30 @@ constexpr const char* reports_tip =
     "View the last reports generated (note may not relate to current farm if last report was produced for "
     "another farm)";
 
+constexpr std::nullopt_t none = std::nullopt;
+
 // clang-format off
 constexpr std::array<command, 19> commands{{
-    // name        button caption                                          menu            menu entry                                    needs        tool tip     action
-    {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                nullptr,     nullptr,     run<&front::new_farm>},
-    {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      "years",     open_tip,    run<&front::open_assessments>},
-    {"edit",       "&Edit Farm Profile",                                   "&File",        "&Edit/View Farm Profile",                    nullptr,     nullptr,     run<&front::edit_profile>},
-    {"save_as",    nullptr,                                                "&File",        "&Save Farm Assessment As...",                nullptr,     nullptr,     run<&front::save_as>},
-    {"exit",       "E&xit",                                                "&File",        "E&xit",                                      nullptr,     nullptr,     run<&front::exit>},
-    {"land",       "Step &1. Land available for spreading?",               "&Assessments", "&Land available for spreading?",             "land",      nullptr,     run<&front::step1>},
-    {"storage",    "Step &2. Enough slurry storage && closed periods?",    "&Assessments", "Enough &slurry storage && closed periods?",  "storage",   nullptr,     run<&front::step2>},
-    {"manure",     "Step &3. Slurry && manure applications?",              "&Assessments", "Slurry && &manure applications?",            "reduction", nullptr,     run<&front::step3>},
-    {"inorganic",  "Step &4. Inorganic N applications",                    "&Assessments", "&Inorganic N applications",                  "inorg",     nullptr,     run<&front::step4>},
-    {"crops",      "Nitrogen Requirement of &Crops",                       "&Assessments", "&Crops: assessment of N requirement",        "crop",      nullptr,     run<&front::crops>},
-    {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    "grass",     nullptr,     run<&front::grassland>},
-    {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", "straw",     nullptr,     run<&front::composting>},
-    {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              "record",    nullptr,     run<&front::field_record>},
-    {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   nullptr,     nullptr,     run<&front::show_me>},
-    {"guidelines", nullptr,                                                "&Help",        "KEL &guidelines",                            nullptr,     nullptr,     run<&front::guidelines>},
-    {"update",     nullptr,                                                "&Help",        "Update facility",                            nullptr,     nullptr,     run<&front::update>},
-    {"about",      nullptr,                                                "&Help",        "About this software",                        nullptr,     nullptr,     run<&front::about>},
-    {"whats_this", "&What's this?",                                        nullptr,        nullptr,                                      nullptr,     nullptr,     run<&front::whats_this>},
-    {"reports",    "View Re&ports",                                        nullptr,        nullptr,                                      nullptr,     reports_tip, run<&front::view_reports>},
+    // name        button caption                                          menu            menu entry                                    needs                 tool tip     action
+    {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                none,                 nullptr,     run<&front::new_farm>},
+    {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      screen_id::years,     open_tip,    run<&front::open_assessments>},
+    {"edit",       "&Edit Farm Profile",                                   "&File",        "&Edit/View Farm Profile",                    none,                 nullptr,     run<&front::edit_profile>},
+    {"save_as",    nullptr,                                                "&File",        "&Save Farm Assessment As...",                none,                 nullptr,     run<&front::save_as>},
+    {"exit",       "E&xit",                                                "&File",        "E&xit",                                      none,                 nullptr,     run<&front::exit>},
+    {"land",       "Step &1. Land available for spreading?",               "&Assessments", "&Land available for spreading?",             screen_id::land,      nullptr,     run<&front::step1>},
+    {"storage",    "Step &2. Enough slurry storage && closed periods?",    "&Assessments", "Enough &slurry storage && closed periods?",  screen_id::storage,   nullptr,     run<&front::step2>},
+    {"manure",     "Step &3. Slurry && manure applications?",              "&Assessments", "Slurry && &manure applications?",            screen_id::manure,    nullptr,     run<&front::step3>},
+    {"inorganic",  "Step &4. Inorganic N applications",                    "&Assessments", "&Inorganic N applications",                  screen_id::inorganic, nullptr,     run<&front::step4>},
+    {"crops",      "Nitrogen Requirement of &Crops",                       "&Assessments", "&Crops: assessment of N requirement",        screen_id::crops,     nullptr,     run<&front::crops>},
+    {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    screen_id::grass,     nullptr,     run<&front::grassland>},
+    {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", screen_id::straw,     nullptr,     run<&front::composting>},
+    {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              screen_id::record,    nullptr,     run<&front::field_record>},
+    {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   none,                 nullptr,     run<&front::show_me>},
+    {"guidelines", nullptr,                                                "&Help",        "KEL &guidelines",                            none,                 nullptr,     run<&front::guidelines>},
+    {"update",     nullptr,                                                "&Help",        "Update facility",                            none,                 nullptr,     run<&front::update>},
+    {"about",      nullptr,                                                "&Help",        "About this software",                        none,                 nullptr,     run<&front::about>},
+    {"whats_this", "&What's this?",                                        nullptr,        nullptr,                                      none,                 nullptr,     run<&front::whats_this>},
+    {"reports",    "View Re&ports",                                        nullptr,        nullptr,                                      none,                 reports_tip, run<&front::view_reports>},
 }};
 // clang-format on
 
@@ -131,7 +134,7 @@ QPushButton* frmKEL_front::button(const char* name) {
     auto* made = new QPushButton(tr(c.button), this);
     made->setObjectName(QString("cmdFront_") + c.name);
     made->setMinimumHeight(button_height_px);
-    const bool built = !c.needs || built_.exists(c.needs);
+    const bool built = !c.needs || built_.exists(*c.needs);
     made->setEnabled(built);
     made->setToolTip(built ? tr(c.tip ? c.tip : "") : tr("Not part of this version"));
     connect(made, &QPushButton::clicked, this, [this, action = c.action] {
@@ -170,7 +173,7 @@ void frmKEL_front::add_menus() {
         if (std::string_view(c.name) == "exit") menu->addSeparator();
         QAction* action = menu->addAction(c.entry);
         action->setObjectName(QString("mnuFront_") + c.name);
-        action->setEnabled(!c.needs || built_.exists(c.needs));
+        action->setEnabled(!c.needs || built_.exists(*c.needs));
         connect(action, &QAction::triggered, this, [this, act = c.action] {
             act(module_);
             refresh();

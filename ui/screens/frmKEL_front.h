@@ -5,8 +5,8 @@
 #include <QMainWindow>
 
 #include "core/application_state.h"
+#include "core/screens.h"
 #include "shell/assessments_module.h"
-#include "shell/screens.h"
 
 class QLabel;
 class QPushButton;

@@ -17,7 +17,7 @@ class frmReductions : public module_screen {
     frmReductions(application_state& state, prompts& person, report_desk& desk);
 
     void reload() override;
-    std::string_view back_tag() const override { return module_.back_tag(); }
+    screen_id closes_to() const override { return screen_of(state_.manure_caller); }
 
   protected:
     bool may_close() override { return module_.close(); }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/screens.h"
+
 class QBoxLayout;
 class QLabel;
 class QPushButton;
@@ -32,8 +34,8 @@ class module_screen : public QWidget {
     /// The assessment whose rows this screen holds.
     const std::string& loaded_file() const { return loaded_file_; }
     void set_loaded_file(const std::string& path) { loaded_file_ = path; }
-    /// Tag of the screen to show when this one closes.
-    virtual std::string_view back_tag() const { return "front"; }
+    /// The screen to show when this one closes.
+    virtual screen_id closes_to() const { return screen_id::front; }
 
   signals:
     /// The module was closed.

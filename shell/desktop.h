@@ -1,0 +1,18 @@
+// What the assessments screen asks of its surroundings besides the screens.
+#pragma once
+
+#include <string>
+
+#include "core/screens.h"
+
+namespace kel {
+
+class desktop : public screens {
+  public:
+    /// Starts a program in a normal window; false if it cannot be started.
+    virtual bool start_updater(const std::string& path) = 0;
+    /// Ends the process without any further question.
+    virtual void end() = 0;
+};
+
+}  // namespace kel
