@@ -12,11 +12,12 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
+#include "tests/support/farm_files.h"
 
 namespace kel {
 namespace {
 
-const std::string stage = KEL_STAGE_DIR;
+const std::string stage = test::stage_folder();
 const std::string blank = stage + "/kel_calc/dbases/blank.mdb";
 const std::string grass = stage + "/kel_calc/dbases/wren_grass.mdb";
 const std::string climate = stage + "/scdb/scdb.mdb";
@@ -35,7 +36,7 @@ using table_columns = std::map<std::string, std::map<std::string, std::string>>;
 /// "### [Table]" headings with their rows "| `column`, ... | type | unit | meaning |".
 table_columns documented_columns() {
     table_columns tables;
-    std::ifstream doc(std::string(KEL_TEST_SOURCE_DIR) + "/../docs/file_format.md");
+    std::ifstream doc(test::project_folder() + "/docs/file_format.md");
     std::string table;
     for (std::string line; std::getline(doc, line);) {
         if (line.starts_with("#")) table.clear();

@@ -25,7 +25,7 @@
 namespace kel {
 namespace {
 
-const std::string stage = KEL_STAGE_DIR;
+const std::string stage = test::stage_folder();
 
 struct sample_year {
     std::string path;

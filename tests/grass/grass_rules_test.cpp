@@ -50,7 +50,7 @@ TEST(SiteClass, RainOnABoundIsTheDrierLevel) {
 }
 
 TEST(SiteClass, SummerRainIsThatOfTheFirstTown) {
-    const database climate(std::string(KEL_STAGE_DIR) + "/scdb/scdb.mdb");
+    const database climate(stage_folder() + "/scdb/scdb.mdb");
     const recordset first = climate.open("KEL_rain");
     float sum = 0;
     for (const char* month : {"Apr", "May", "Jun", "Jul", "Aug", "Sep"})
@@ -85,7 +85,7 @@ TEST(SwardChoices, CloverAndUseSayWhatIsAsked) {
 }
 
 TEST(GrassRecommendation, ManuresAreTakenOffWithoutAFloor) {
-    const grass_tables tables(database(std::string(KEL_STAGE_DIR) + "/kel_calc/dbases/wren_grass.mdb"));
+    const grass_tables tables(database(stage_folder() + "/kel_calc/dbases/wren_grass.mdb"));
     // clover, class, group, use, applications, adjustment, manures of this and of earlier years
     const struct {
         grass_field field;

@@ -10,7 +10,7 @@
 namespace kel::test {
 
 namespace {
-const std::string built = std::string(KEL_STAGE_DIR) + "/kel_calc/dbases/wren_grass.mdb";
+const std::string built = stage_folder() + "/kel_calc/dbases/wren_grass.mdb";
 }
 
 TEST(GrassTables, AnswerByTheWholeKey) {

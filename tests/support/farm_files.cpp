@@ -12,13 +12,21 @@ namespace kel::test {
 
 namespace fs = std::filesystem;
 
+std::string stage_folder() {
+    return KEL_STAGE_DIR;
+}
+
+std::string project_folder() {
+    return KEL_PROJECT_DIR;
+}
+
 farm_test::farm_test() {
     const auto* info = testing::UnitTest::GetInstance()->current_test_info();
     const std::string name = std::string("kel-") + std::to_string(getpid()) + "-" + info->name();
     folder_ = (fs::temp_directory_path() / name).string();
     fs::create_directories(folder_ + "/User_files");
-    state.places.program_folder = std::string(KEL_STAGE_DIR) + "/kel_calc";
-    state.places.install_root = KEL_STAGE_DIR;
+    state.places.program_folder = stage_folder() + "/kel_calc";
+    state.places.install_root = stage_folder();
     state.places.written_folder = folder_;
     set_short_date(state);
     set_long_date(state);

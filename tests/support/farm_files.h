@@ -13,6 +13,10 @@
 
 namespace kel::test {
 
+/// The data tree as the build has it, and the folder of the sources.
+std::string stage_folder();
+std::string project_folder();
+
 struct test_field {
     std::string name;
     std::string size;
