@@ -31,4 +31,11 @@ inline message field_does_not_exist(const std::string& name) {
             "the analysis, the profile will need to be amended before continuing!"};
 }
 
+/// After the last box that one load shows.
+inline message more_messages(int count) {
+    const std::string messages =
+        count == 1 ? "There was 1 more message" : "There were " + std::to_string(count) + " more messages";
+    return {"Further messages", messages + " about the rows of this file."};
+}
+
 }  // namespace kel::module_messages

@@ -5,7 +5,7 @@
 #include "core/numbers.h"
 #include "crops/arable_requirements.h"
 #include "crops/vegetable_requirements.h"
-#include "rules/crop_lists.h"
+#include "rules/soils.h"
 
 namespace kel {
 

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "crops/base_requirement.h"
-#include "rules/crop_lists.h"
 #include "rules/rainfall.h"
+#include "rules/soils.h"
 
 namespace kel {
 

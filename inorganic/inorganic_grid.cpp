@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/assessment_files.h"
-#include "core/farm_fields.h"
+#include "core/grid_rows.h"
 #include "core/numbers.h"
 #include "inorganic/application_rules.h"
 
@@ -40,8 +40,7 @@ text_grid set_grid() {
 
 text_grid get_data(const database& db) {
     text_grid grid = set_grid();
-    for (recordset rows = db.open(table); !rows.eof(); rows.move_next())
-        load_grid_row(rows, grid, grid.add_row());
+    append_rows(db, table, grid);
     grid.add_row();
     return grid;
 }

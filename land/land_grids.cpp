@@ -122,32 +122,23 @@ text_grid fields_to_grid(const std::vector<farm_field>& fields) {
     return land;
 }
 
-text_grid load_land(const database& db, const std::vector<farm_field>& fields,
-                    std::vector<std::string>& unknown_fields) {
+text_grid load_land(const database& db, const std::vector<farm_field>& fields, load_messages& told) {
     const known_fields known(fields);
-    text_grid land(land_columns);
-    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
-        std::string name = rows.text("Field Area ID");
-        if (!known.contains(name)) {
-            unknown_fields.push_back(std::move(name));
-            continue;
-        }
-        const int row = land.add_row();
-        load_grid_row(rows, land, row);
+    const auto set_limit = [](text_grid& land, int row, const recordset&) {
         land.set_cell(row, land_column::field_limit,
                       shortest_text(field_limit(land.number(row, land_column::available))));
-    }
+    };
+    text_grid land(land_columns);
+    append_rows(db, "Land", land, {.fields = &known, .complete = set_limit}, told);
     land.add_row();
     return land;
 }
 
 text_grid load_stock(const database& db, float& working_constant) {
     text_grid animals(stock_columns);
-    for (recordset rows = db.open("Land_animals"); !rows.eof(); rows.move_next()) {
-        const int row = animals.add_row();
-        load_grid_row(rows, animals, row);
+    append_rows(db, "Land_animals", animals);
+    for (int row = 0; row < animals.row_count(); ++row)
         recalculate_stock_row(animals, row, working_constant);
-    }
     animals.add_row();
     return animals;
 }

@@ -6,6 +6,7 @@
 
 #include "core/assessment_store.h"
 #include "core/farm_fields.h"
+#include "core/grid_rows.h"
 #include "core/text_grid.h"
 
 namespace kel {
@@ -45,10 +46,8 @@ void recalculate_stock_row(text_grid& animals, int row, float& working_constant)
 /// One row per field of the profile with its soil and size; the areas are left to the user.
 text_grid fields_to_grid(const std::vector<farm_field>& fields);
 
-/// [Land] with the field limits, without the rows of fields that the profile lacks; their names are put into
-/// `unknown_fields`.
-text_grid load_land(const database& db, const std::vector<farm_field>& fields,
-                    std::vector<std::string>& unknown_fields);
+/// [Land] with the field limits, without the rows of fields that the profile lacks.
+text_grid load_land(const database& db, const std::vector<farm_field>& fields, load_messages& told);
 /// [Land_animals], recalculated, so that the program's constants replace those of the file.
 text_grid load_stock(const database& db, float& working_constant);
 

@@ -35,13 +35,13 @@ void land_module::load_land_stuff() {
     text_grid land = empty_land_grid();
     text_grid animals = empty_stock_grid();
     std::vector<std::string> names;
-    std::vector<std::string> unknown_fields;
+    load_messages told;
     float constant = working_constant_;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
         const std::vector<farm_field> fields = read_farm_fields(db);
         names = kel::field_names(fields);
-        land = load_land(db, fields, unknown_fields);
+        land = load_land(db, fields, told);
         if (land.data_row_count() == 0) land = fields_to_grid(fields);
         animals = load_stock(db, constant);
     }
@@ -50,8 +50,7 @@ void land_module::load_land_stuff() {
     field_names_ = std::move(names);
     working_constant_ = constant;
     result_.reset();
-    for (const std::string& name : unknown_fields)
-        person_.tell(module_messages::field_does_not_exist(name));
+    told.tell(person_);
 }
 
 opening land_module::click_land(int row, int column) {

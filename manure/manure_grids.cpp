@@ -4,7 +4,6 @@
 #include <unordered_map>
 
 #include "core/assessment_files.h"
-#include "core/module_messages.h"
 #include "core/numbers.h"
 
 namespace kel {
@@ -113,24 +112,17 @@ void write_rates(text_grid& table, int row) {
 }
 
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
-                            std::vector<message>& told) {
-    text_grid table(manure_columns);
-    recordset rows = db.open("Manure_applic");
-    const std::vector<int> stored = stored_columns(rows, table);
-    for (; !rows.eof(); rows.move_next()) {
-        const std::string field = rows.text(stored[col::field]);
-        if (!field.empty() && !fields.contains(field)) {
-            told.push_back(module_messages::field_does_not_exist(field));
-            continue;
-        }
-        const int row = table.add_row();
-        load_grid_row(rows, stored, table, row);
+                            load_messages& told) {
+    const auto check_date = [&](text_grid& table, int row, const recordset&) {
         const auto day = parse_date(table.cell(row, col::date));
-        if (day && window.contains(*day)) continue;
-        if (!table.cell(row, col::date).empty()) told.push_back({"", window.refusal});
+        if (day && window.contains(*day)) return;
+        if (!table.cell(row, col::date).empty()) told.add({"", window.refusal});
         for (const int c : {col::date, col::percentage, col::available, col::available_next, col::month})
             table.set_cell(row, c, "");
-    }
+    };
+    text_grid table(manure_columns);
+    append_rows(db, "Manure_applic", table,
+                {.fields = &fields, .nameless_rows_pass = true, .complete = check_date}, told);
     table.add_row();
     return table;
 }

@@ -8,6 +8,7 @@
 
 #include "core/assessment_store.h"
 #include "core/farm_fields.h"
+#include "core/grid_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "manure/field_limit_check.h"
@@ -64,7 +65,7 @@ struct date_window {
 /// [Manure_applic] as it is stored, without the rows of fields that the profile lacks. A date outside the
 /// window is left empty, with the cells that depend on it. What is to be said goes into `told`, in order.
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
-                            std::vector<message>& told);
+                            load_messages& told);
 /// Replaces the rows of [Manure_applic]. Call within a save_transaction.
 void save_applications(const database& db, const text_grid& table);
 

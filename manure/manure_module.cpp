@@ -38,7 +38,7 @@ void manure_module::manure_load_stuff() {
     const year_limits limits = state_.kel_year_start ? year_limits_of(*state_.kel_year_start) : state_.limits;
     text_grid applications = empty_manure_grid();
     std::vector<farm_field> fields;
-    std::vector<message> told;
+    load_messages told;
     const auto assessment = opened(state_.assess_file);
     if (assessment) fields = read_farm_fields(*assessment);
     // The profile is this year's, also for last year's applications.
@@ -49,8 +49,7 @@ void manure_module::manure_load_stuff() {
     applications_ = std::move(applications);
     field_names_ = kel::field_names(fields);
     back();
-    for (const message& box : told)
-        person_.tell(box);
+    told.tell(person_);
 }
 
 manure_opening manure_module::opens_none(const message& reason) {

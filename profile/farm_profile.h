@@ -41,16 +41,6 @@ inline constexpr std::array<grid_column, 5> field_columns{{
     {"Soil Type",       "Soil",       column_kind::entered, 20},
     {"Field Name 2",    "",           column_kind::carried,  0},
 }};
-
-// Soil types in the order of the list; the crop tables are keyed on these texts.
-inline constexpr std::array<std::string_view, 6> soil_types{
-    "Humose soils",
-    "Other mineral soils",
-    "Peaty soils",
-    "Sands",
-    "Sandy loams",
-    "Shallow soils",
-};
 // clang-format on
 
 /// Starts of the KEL years that can be assessed, "19/12/2000" to "19/12/2040".

@@ -5,23 +5,18 @@
 
 #include "core/numbers.h"
 #include "rules/manure_catalogue.h"
+#include "rules/soils.h"
 
 namespace kel {
 
 namespace {
 
 enum class month_group { aug_oct, nov_jan, feb_apr, may_jul };
-enum class soil_group { light, other };
 
 struct month_row {
     std::array<std::string_view, 3> months;
     month_group group;
     bool soil_matters;
-};
-
-struct soil_row {
-    std::string_view soil;
-    soil_group group;
 };
 
 struct availability_row {
@@ -41,16 +36,6 @@ constexpr std::array<month_row, 4> month_groups{{
     {{"November", "December",  "January"}, month_group::nov_jan, true},
     {{"February", "March",     "April"},   month_group::feb_apr, false},
     {{"May",      "June",      "July"},    month_group::may_jul, false},
-}};
-
-// Soils of the farm profile. A text in no row is no soil.
-constexpr std::array<soil_row, 6> soil_groups{{
-    {"Shallow soils",       soil_group::light},
-    {"Sands",               soil_group::light},
-    {"Sandy loams",         soil_group::light},
-    {"Other mineral soils", soil_group::other},
-    {"Humose soils",        soil_group::other},
-    {"Peaty soils",         soil_group::other},
 }};
 
 // Available nitrogen, % of the total N applied, by manure code, season and soil. Source: the available
@@ -118,14 +103,7 @@ const month_row* group_of_month(std::string_view month) {
     return nullptr;
 }
 
-std::optional<soil_group> group_of_soil(std::string_view soil) {
-    for (const soil_row& row : soil_groups)
-        if (row.soil == soil) return row.group;
-    return std::nullopt;
-}
-
-int percentage_of(const availability_row& row, month_group months, soil_group soil) {
-    const bool light = soil == soil_group::light;
+int percentage_of(const availability_row& row, month_group months, bool light) {
     switch (months) {
         case month_group::aug_oct:
             return light ? row.aug_oct_light_pct : row.aug_oct_other_pct;
@@ -150,11 +128,11 @@ percentage_result available_percentage(const application_texts& row, int working
     const month_row* months = group_of_month(row.month);
     if (!months) return {percentage_outcome::invalid_month, 0, working_code};
     const int code = resolve_code(row.manure, row.incorporation, working_code);
-    const auto soil = months->soil_matters ? group_of_soil(row.soil) : soil_group::other;
-    if (!soil) return {percentage_outcome::invalid_soil, 0, code};
+    const auto soil = find_soil(row.soil);
+    if (months->soil_matters && !soil) return {percentage_outcome::invalid_soil, 0, code};
     if (!in_table(code)) return {percentage_outcome::unchanged, 0, code};
     const availability_row& found = available_nitrogen[static_cast<std::size_t>(code - 1)];
-    return {percentage_outcome::found, percentage_of(found, months->group, *soil), code};
+    return {percentage_outcome::found, percentage_of(found, months->group, soil && soil->light), code};
 }
 
 std::optional<float> application_rate(float amount, float area_ha) {

@@ -1,9 +1,9 @@
 #include "rules/closed_periods.h"
 
-#include <algorithm>
 #include <array>
 
 #include "rules/crop_catalogue.h"
+#include "rules/soils.h"
 
 namespace kel {
 
@@ -19,14 +19,8 @@ constexpr std::array<field_use, 3> uses{{
     {"Other",                               crop_types::other},
 }};
 
-// Soils on which months are closed. Source: the closed periods for slurry of the KEL rules.
-constexpr std::array<std::string_view, 3> sensitive_soils{
-    "Shallow soils",
-    "Sands",
-    "Sandy loams",
-};
-
-// Closed months of sensitive soils by second crop. Source as above; a crop in no row closes none.
+// Closed months of light soils by second crop. Source: the closed periods for slurry of the KEL rules; a crop
+// in no row closes none.
 constexpr std::array<int, 1> october{10};
 constexpr std::array<int, 3> august_to_october{8, 9, 10};
 
@@ -85,7 +79,8 @@ std::optional<std::string_view> shown_crop_type(std::string_view stored) {
 }
 
 bool sensitive_soil(std::string_view soil) {
-    return std::find(sensitive_soils.begin(), sensitive_soils.end(), soil) != sensitive_soils.end();
+    const auto found = find_soil(soil);
+    return found && found->light;
 }
 
 std::span<const int> closed_months(std::string_view soil, std::string_view second_crop) {

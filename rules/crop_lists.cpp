@@ -120,20 +120,6 @@ constexpr std::array<potato_type, 4> potatoes{{
     {"Seed",         "SPOT"},
     {"Ware",         "WPOT"},
 }};
-
-struct soil_class {
-    std::string_view soil;
-    std::string_view code;
-};
-
-constexpr std::array<soil_class, 6> soil_classes{{
-    {"Shallow soils",       "SS"},
-    {"Sands",               "S"},
-    {"Sandy loams",         "SL"},
-    {"Other mineral soils", "OMS"},
-    {"Humose soils",        "HS"},
-    {"Peaty soils",         "PS"},
-}};
 // clang-format on
 
 template <std::size_t size>
@@ -172,12 +158,6 @@ std::span<const potato_type> potato_types() {
 std::optional<std::string_view> potato_code(std::string_view type_name) {
     for (const potato_type& type : potatoes)
         if (type.name == type_name) return type.code;
-    return std::nullopt;
-}
-
-std::optional<std::string_view> soil_code(std::string_view soil) {
-    for (const soil_class& row : soil_classes)
-        if (row.soil == soil) return row.code;
     return std::nullopt;
 }
 

@@ -1,5 +1,5 @@
 // What a person picks from in the crops module, in the order shown, and the short codes behind it: planned
-// crops, previous crops, kinds of potato and soils.
+// crops, previous crops and kinds of potato.
 #pragma once
 
 #include <optional>
@@ -24,9 +24,5 @@ struct potato_type {
 };
 std::span<const potato_type> potato_types();
 std::optional<std::string_view> potato_code(std::string_view type_name);
-
-/// Code of a soil of the farm profile, on which the rainfall rules work. Nothing for any other text: the
-/// caller keeps the code that it had.
-std::optional<std::string_view> soil_code(std::string_view soil);
 
 }  // namespace kel

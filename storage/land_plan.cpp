@@ -111,21 +111,14 @@ land_plan empty_land_plan() {
     return plan;
 }
 
-land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields,
-                         std::vector<std::string>& unknown_fields) {
+land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told) {
     const known_fields known(fields);
     land_plan plan{text_grid(land_columns), text_grid(spreading_columns)};
-    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
-        std::string name = rows.text("Field Area ID");
-        if (!known.contains(name)) {
-            unknown_fields.push_back(std::move(name));
-            continue;
-        }
-        const int row = plan.land.add_row();
-        load_grid_row(rows, plan.land, row);
-        fill_empty_months(plan.land, row);
-        load_grid_row(rows, plan.spreading, plan.spreading.add_row());
-    }
+    const auto complete = [&](text_grid& land, int row, const recordset& source) {
+        fill_empty_months(land, row);
+        load_grid_row(source, plan.spreading, plan.spreading.add_row());
+    };
+    append_rows(db, "Land", plan.land, {.fields = &known, .complete = complete}, told);
     add_last_rows(plan);
     return plan;
 }

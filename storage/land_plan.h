@@ -9,6 +9,7 @@
 
 #include "core/assessment_store.h"
 #include "core/farm_fields.h"
+#include "core/grid_rows.h"
 #include "core/text_grid.h"
 #include "rules/closed_periods.h"
 #include "rules/months.h"
@@ -34,10 +35,8 @@ struct land_plan {
 /// Without a field.
 land_plan empty_land_plan();
 
-/// [Land], without the rows of fields that the profile lacks; their names are put into `unknown_fields`. An
-/// empty month takes the available area.
-land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields,
-                         std::vector<std::string>& unknown_fields);
+/// [Land], without the rows of fields that the profile lacks. An empty month takes the available area.
+land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told);
 /// Writes the cells that are not empty into the fields' rows of [Land]. Call it within a save_transaction.
 void save_land_plan(const database& db, const land_plan& plan);
 

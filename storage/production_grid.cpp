@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/assessment_files.h"
+#include "core/grid_rows.h"
 #include "core/numbers.h"
 #include "storage/slurry_production.h"
 
@@ -121,8 +122,7 @@ monthly_values production_totals(const text_grid& production) {
 text_grid load_production(const database& db) {
     text_grid production(columns);
     production.add_row();
-    for (recordset rows = db.open("Slurry_animals"); !rows.eof(); rows.move_next())
-        load_grid_row(rows, production, production.add_row());
+    append_rows(db, "Slurry_animals", production);
     production.set_row_count(production.row_count() + 2);
     set_labels(production);
     return production;

@@ -93,26 +93,23 @@ bool storage_module::storage_cont2() {
         if (person_.ask(storage_messages::no_stores) != answer::yes) return false;
         person_.tell(storage_messages::capacity_not_assessed);
     }
-    std::vector<std::string> unknown_fields;
-    if (!state_.assess_file.empty()) unknown_fields = fill_plan();
+    load_messages told;
+    if (!state_.assess_file.empty()) fill_plan(told);
     plan_.begin(totals, monthly_dirty_water(water_.answers()));
     page_ = storage_page::plan;
-    for (const std::string& name : unknown_fields)
-        person_.tell(module_messages::field_does_not_exist(name));
+    told.tell(person_);
     return true;
 }
 
 // Entries that are not saved yet are kept: a step back to the stores must not lose them.
-std::vector<std::string> storage_module::fill_plan() {
-    std::vector<std::string> unknown_fields;
+void storage_module::fill_plan(load_messages& told) {
     const database db(state_.assess_file);
     save_transaction transaction(db);
     save_stores(db, stores_.stores());
     transaction.commit();
-    if (plan_.changed()) return unknown_fields;
-    land_plan plan = load_land_plan(db, read_farm_fields(db), unknown_fields);
+    if (plan_.changed()) return;
+    land_plan plan = load_land_plan(db, read_farm_fields(db), told);
     plan_.take(load_production(db), std::move(plan));
-    return unknown_fields;
 }
 
 void storage_module::back() {

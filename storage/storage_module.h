@@ -56,7 +56,7 @@ class storage_module {
 
   private:
     void write_first_page();
-    std::vector<std::string> fill_plan();
+    void fill_plan(load_messages& told);
 
     application_state& state_;
     prompts& person_;

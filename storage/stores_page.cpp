@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/assessment_files.h"
+#include "core/grid_rows.h"
 #include "core/numbers.h"
 #include "rules/rainfall.h"
 #include "storage/storage_messages.h"
@@ -151,12 +152,10 @@ text_grid empty_stores() {
 
 text_grid load_stores(const database& db, const std::optional<std::string>& percent_full) {
     text_grid stores(columns);
-    for (recordset rows = db.open("Slurry_store"); !rows.eof(); rows.move_next()) {
-        const int row = stores.add_row();
-        load_grid_row(rows, stores, row);
-        if (percent_full && !stores.cell(row, store_column::percent).empty())
+    append_rows(db, "Slurry_store", stores);
+    for (int row = 0; percent_full && row < stores.row_count(); ++row)
+        if (!stores.cell(row, store_column::percent).empty())
             stores.set_cell(row, store_column::percent, *percent_full);
-    }
     stores.add_row();
     return stores;
 }

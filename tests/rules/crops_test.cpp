@@ -9,6 +9,7 @@
 
 #include "rules/crop_lists.h"
 #include "rules/residue_groups.h"
+#include "rules/soils.h"
 
 namespace kel {
 
@@ -37,6 +38,16 @@ TEST(CropCatalogue, PreviousCropCodeFollowsTheColumnsOfThePreviousCrop) {
     // Known to the catalogue, but not offered as a previous crop; an empty cell is none either.
     for (const auto name : {"Set-aside", "Potatoes", "Potatoes (ware)", "Grass", ""})
         EXPECT_FALSE(previous_crop_code(name)) << name;
+}
+
+TEST(Soils, CodesAreThoseOfTheRainfallRulesAndOtherTextsHaveNone) {
+    std::string codes;
+    for (const soil_class& soil : soils())
+        codes.append(soil.code).append(soil.light ? "+ " : " ");
+    EXPECT_EQ(codes, "HS OMS PS S+ SL+ SS+ ");
+    EXPECT_EQ(soil_code("Sandy loams"), "SL");
+    for (const auto name : {"sands", "Sand", "SL", ""})
+        EXPECT_FALSE(soil_code(name)) << name;
 }
 
 TEST(CropCatalogue, LongNameIsThePlannedNameOfTheCode) {

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
+#include "rules/soils.h"
 #include "ui/widgets/choice_list.h"
 #include "ui/widgets/entry_box.h"
 #include "ui/widgets/grid_view.h"
@@ -179,10 +180,10 @@ void frmProfile::add_boxes() {
     });
 
     soil_box_ = new entry_box("Profile_soil", *grid_, this);
-    QStringList soils;
-    for (const std::string_view soil : soil_types)
-        soils << qt(soil);
-    soil_box_->use_list(soils);
+    QStringList names;
+    for (const soil_class& soil : soils())
+        names << qt(soil.name);
+    soil_box_->use_list(names);
     soil_box_->on_enter([this] {
         const auto rows = grid_->selected_rows();
         const auto soil = soil_box_->chosen();
