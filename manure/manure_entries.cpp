@@ -30,23 +30,24 @@ void manure_module::recalculate_share(int row) {
     write_rates(applications_, row);
 }
 
-bool manure_module::entered(int row) {
+outcome manure_module::entered(int row) {
     recalculate_share(row);
     applications_.keep_entry_row(row);
-    return true;
+    return box_closes();
 }
 
-bool manure_module::recalculate_rate(int row) {
+outcome manure_module::recalculate_rate(int row) {
     write_application_rate(applications_, row);
     write_total_n(applications_, row);
     return entered(row);
 }
 
-bool manure_module::enter_field(int row, const std::string& name) {
-    if (name.empty()) return refuse(text::no_field_id);
+outcome manure_module::enter_field(int row, const std::string& name) {
+    if (name.empty()) return refuse(person_, text::no_field_id);
     // Read before the first cell is written: a file that cannot be read must leave the row as it was.
     const database db(state_.assess_file);
-    if (land_cell_in_month(db, name, 1) == field_not_assessed && !proceeds(text::not_assessed)) return true;
+    if (land_cell_in_month(db, name, 1) == field_not_assessed && !proceeds(text::not_assessed))
+        return box_closes();
     const bool area_wanted = applications_.cell(row, col::area).empty();
     const bool land_assessed = !area_wanted || !db.open("Land").eof();
     auto area = area_wanted ? available_area(db, name) : std::nullopt;
@@ -65,28 +66,25 @@ void manure_module::take_default_n_content(int row) {
     recalculate_share(row);
 }
 
-manure_choice manure_module::enter_manure(int row, const std::string& type) {
+outcome manure_module::enter_manure(int row, const std::string& type) {
     const auto found = find_manure(type);
-    if (!found) {
-        person_.tell(text::unknown_manure);
-        return manure_choice::stay;
-    }
+    if (!found) return refuse(person_, text::unknown_manure);
     listed_manure_ = type;
     working_code_ = found->code_early;
-    if (found->incorporation != no_choice) return manure_choice::ask_incorporation;
+    if (found->incorporation != no_choice) return leads_to(incorporation_box(row, found->incorporation));
     take_default_n_content(row);
     applications_.set_cell(row, col::incorporation, std::string(surface_or_rapid_incorporation));
     applications_.keep_entry_row(row);
-    return manure_choice::close;
+    return box_closes();
 }
 
 // The percentage is worked out with the earlier incorporation text; the new one counts from the row's next
 // recalculation on.
-bool manure_module::enter_incorporation(int row, const std::optional<std::string>& chosen) {
+outcome manure_module::enter_incorporation(int row, const std::string& chosen) {
     take_default_n_content(row);
-    if (chosen) applications_.set_cell(row, col::incorporation, *chosen);
+    if (!chosen.empty()) applications_.set_cell(row, col::incorporation, chosen);
     applications_.keep_entry_row(row);
-    return true;
+    return box_closes();
 }
 
 // Asks where the month is closed or without land. The manure chosen in the list last decides whether the
@@ -101,35 +99,35 @@ bool manure_module::land_allows(const std::string& field, int month) {
     return area_ha != 0 || proceeds(text::no_land_available);
 }
 
-bool manure_module::enter_date(int row, date day) {
+outcome manure_module::enter_date(int row, date day) {
     const date_window year = window(state_.limits);
-    if (!year.contains(day)) return refuse(text::invalid_date(year.refusal));
-    if (!land_allows(applications_.cell(row, col::field), month_of(day))) return false;
+    if (!year.contains(day)) return refuse(person_, text::invalid_date(year.refusal));
+    if (!land_allows(applications_.cell(row, col::field), month_of(day))) return box_stays();
     applications_.set_cell(row, col::date, short_date_text(day));
     applications_.set_cell(row, col::month, std::string(month_name(month_of(day))));
     calendar_ = day;
     return entered(row);
 }
 
-bool manure_module::enter_area(int row, const std::string& entry) {
-    if (!holds_number(entry)) return refuse(text::no_area);
+outcome manure_module::enter_area(int row, const std::string& typed) {
+    if (!holds_number(typed)) return refuse(person_, text::no_area);
     const std::string& field = applications_.cell(row, col::field);
     const auto available = available_area(database(state_.assess_file), field);
-    if (!available) return refuse(text::field_without_land(field));
-    if (leading_single(entry) > leading_single(*available)) return refuse(text::area_too_large);
-    applications_.set_cell(row, col::area, entry);
+    if (!available) return refuse(person_, text::field_without_land(field));
+    if (leading_single(typed) > leading_single(*available)) return refuse(person_, text::area_too_large);
+    applications_.set_cell(row, col::area, typed);
     return recalculate_rate(row);
 }
 
-bool manure_module::enter_amount(int row, const std::string& entry) {
-    if (!holds_number(entry)) return refuse(text::no_amount);
-    applications_.set_cell(row, col::amount, entry);
+outcome manure_module::enter_amount(int row, const std::string& typed) {
+    if (!holds_number(typed)) return refuse(person_, text::no_amount);
+    applications_.set_cell(row, col::amount, typed);
     return recalculate_rate(row);
 }
 
-bool manure_module::enter_n_content(int row, const std::string& entry) {
-    if (!holds_number(entry)) return refuse(text::no_n_content);
-    applications_.set_cell(row, col::n_content, entry);
+outcome manure_module::enter_n_content(int row, const std::string& typed) {
+    if (!holds_number(typed)) return refuse(person_, text::no_n_content);
+    applications_.set_cell(row, col::n_content, typed);
     write_total_n_of_analysis(applications_, row);
     return entered(row);
 }

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "core/module_messages.h"
 #include "core/numbers.h"
 #include "manure/manure_messages.h"
 
@@ -52,80 +51,80 @@ void manure_module::manure_load_stuff() {
     told.tell(person_);
 }
 
-manure_opening manure_module::opens_none(const message& reason) {
-    person_.tell(reason);
-    return {};
-}
-
-manure_opening manure_module::click(int row, int column) {
+opening manure_module::click(int row, int column) {
     const bool has_field = !applications_.cell(row, col::field).empty();
     const bool has_manure = !applications_.cell(row, col::manure).empty();
     switch (column) {
         case col::field:
-            return opening(manure_box::field, row);
+            return list_box(manure_box::field, row);
         case col::incorporation:
         case col::manure:
-            return opening(manure_box::manure, row);
+            return list_box(manure_box::manure, row);
         case col::date:
-            return opening(manure_box::day, row);
+            return date_box(row);
         case col::area:
-            return has_field ? opening(manure_box::area, row) : opens_none(text::no_field_area_id);
+            return has_field ? number_box(manure_box::area, row)
+                             : opens_none(person_, text::no_field_area_id);
         case col::amount:
-            return has_manure ? opening(manure_box::amount, row) : opens_none(text::no_manure);
+            return has_manure ? number_box(manure_box::amount, row) : opens_none(person_, text::no_manure);
         case col::n_content:
-            return has_manure ? opening(manure_box::n_content, row) : opens_none(text::no_manure);
+            return has_manure ? number_box(manure_box::n_content, row) : opens_none(person_, text::no_manure);
         case col::month:
             return {};
         default:
-            return opens_none(text::calculation);
+            return opens_none(person_, text::calculation);
     }
 }
 
-manure_opening manure_module::opening(manure_box box, int row) const {
-    using namespace manure_messages;
-    const auto cell = [&](int column) { return applications_.cell(row, column); };
-    switch (box) {
-        case manure_box::field:
-            return {box, field_caption, field_instruction, {}, cell(col::field)};
-        case manure_box::manure:
-            return {box, manure_caption, manure_instruction, {}, cell(col::manure)};
-        case manure_box::incorporation:
-            return {box, incorporation_caption, incorporation_instruction, {}, cell(col::incorporation)};
-        case manure_box::day: {
-            const std::string day = cell(col::date);
-            return {box, date_caption, date_instruction, {}, day.empty() ? short_date_text(calendar_) : day};
-        }
-        case manure_box::area:
-            return {box, area_caption, area_instruction, area_unit, cell(col::area)};
-        case manure_box::amount: {
-            const auto unit = working_code_ <= last_solid_code ? tonne : cubic_metre;
-            return {box, amount_caption, amount_instruction, unit, cell(col::amount)};
-        }
-        case manure_box::n_content: {
-            const bool by_tonne = leading_number(cell(col::manure)) <= last_tonne_number;
-            const auto unit = by_tonne ? kg_per_tonne : kg_per_cubic_metre;
-            return {box, n_content_caption, n_content_instruction, unit, cell(col::n_content)};
-        }
-        case manure_box::none:
-            break;
+opening manure_module::list_box(manure_box box, int row) const {
+    if (box == manure_box::field)
+        return {box,
+                text::field_caption,
+                text::field_instruction,
+                {{part_kind::list, applications_.cell(row, col::field), field_names_}}};
+    opening manures(box, text::manure_caption, text::manure_instruction,
+                    {{part_kind::list, applications_.cell(row, col::manure),
+                      choices_of(manure_catalogue(), &manure_type::name)}});
+    manures.column = col::manure;
+    return manures;
+}
+
+opening manure_module::number_box(manure_box box, int row) const {
+    const auto opens = [&](std::string_view caption, std::string_view instruction, int column,
+                           std::string_view unit) {
+        const std::string& shown = applications_.cell(row, column);
+        return opening(box, caption, instruction, {{part_kind::number, shown, {}, std::string(unit)}});
+    };
+    if (box == manure_box::area)
+        return opens(text::area_caption, text::area_instruction, col::area, text::area_unit);
+    if (box == manure_box::amount) {
+        const auto unit = working_code_ <= last_solid_code ? text::tonne : text::cubic_metre;
+        return opens(text::amount_caption, text::amount_instruction, col::amount, unit);
     }
-    return {};
+    const bool by_tonne = leading_number(applications_.cell(row, col::manure)) <= last_tonne_number;
+    const auto unit = by_tonne ? text::kg_per_tonne : text::kg_per_cubic_metre;
+    return opens(text::n_content_caption, text::n_content_instruction, col::n_content, unit);
 }
 
-incorporation_choices manure_module::choices() const {
-    const auto type = find_manure(listed_manure_);
-    return type ? type->incorporation : no_choice;
+opening manure_module::date_box(int row) const {
+    const std::string& day = applications_.cell(row, col::date);
+    return {manure_box::day,
+            text::date_caption,
+            text::date_instruction,
+            {{part_kind::calendar, day.empty() ? short_date_text(calendar_) : day}}};
 }
 
-bool manure_module::erase_row(int row) {
-    if (row == applications_.row_count() - 1) return refuse(module_messages::cannot_delete);
-    applications_.erase_row(row);
-    return true;
+opening manure_module::incorporation_box(int row, const incorporation_choices& choices) const {
+    return {manure_box::incorporation,
+            text::incorporation_caption,
+            text::incorporation_instruction,
+            {{part_kind::options,
+              applications_.cell(row, col::incorporation),
+              {std::string(choices.early), std::string(choices.late)}}}};
 }
 
-bool manure_module::refuse(const message& reason) {
-    person_.tell(reason);
-    return false;
+outcome manure_module::erase_row(int row) {
+    return erase_data_row(person_, applications_, row);
 }
 
 }  // namespace kel

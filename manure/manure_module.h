@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/entry.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "manure/manure_grids.h"
@@ -19,18 +20,6 @@
 namespace kel {
 
 enum class manure_box { none, field, manure, incorporation, day, area, amount, n_content };
-
-/// What a click or the choice of a manure opens; none after a message.
-struct manure_opening {
-    manure_box box = manure_box::none;
-    std::string_view caption;
-    std::string_view instruction;
-    std::string_view unit;
-    std::string text;  // in the box as it opens
-    bool operator==(const manure_opening&) const = default;
-};
-
-enum class manure_choice { stay, close, ask_incorporation };
 
 class manure_module {
   public:
@@ -48,25 +37,20 @@ class manure_module {
     /// of the state. Throws file_error and leaves everything as it was when a file cannot be read.
     void manure_load_stuff();
 
-    manure_opening click(int row, int column);
-    /// What a box shows as it opens; the incorporation box is the second step of the manure box.
-    manure_opening opening(manure_box box, int row) const;
-    /// The incorporation times of the manure chosen last.
-    incorporation_choices choices() const;
+    opening click(int row, int column);
 
     // The entry boxes: what the person chose or typed goes into the cell, with the cells that follow from it.
-    // True: the box closes.
-    bool enter_field(int row, const std::string& name);
-    manure_choice enter_manure(int row, const std::string& type);
+    outcome enter_field(int row, const std::string& name);
+    /// Most manures lead to the question for their incorporation.
+    outcome enter_manure(int row, const std::string& type);
     /// Nothing chosen leaves the incorporation cell.
-    bool enter_incorporation(int row, const std::optional<std::string>& chosen);
-    bool enter_date(int row, date day);
-    bool enter_area(int row, const std::string& text);
-    bool enter_amount(int row, const std::string& text);
-    bool enter_n_content(int row, const std::string& text);
+    outcome enter_incorporation(int row, const std::string& chosen);
+    outcome enter_date(int row, date day);
+    outcome enter_area(int row, const std::string& text);
+    outcome enter_amount(int row, const std::string& text);
+    outcome enter_n_content(int row, const std::string& text);
 
-    /// False, after a message, for the entry row.
-    bool erase_row(int row);
+    outcome erase_row(int row);
 
     /// Sums the fields and tests limit and closed periods. False, after a message, leaves the table in view.
     /// Each file is read once; throws file_error before anything has changed.
@@ -83,16 +67,18 @@ class manure_module {
     void report(report_desk& desk);
 
   private:
-    bool refuse(const message& reason);
-    manure_opening opens_none(const message& reason);
+    opening list_box(manure_box box, int row) const;
+    opening number_box(manure_box box, int row) const;
+    opening date_box(int row) const;
+    opening incorporation_box(int row, const incorporation_choices& choices) const;
     bool proceeds(const message& question) { return person_.ask(question) == answer::yes; }
     bool for_previous_year() const { return kel::for_previous_year(state_.manure_caller); }
     date_window window(const year_limits& limits) const;
     bool land_allows(const std::string& field, int month);
     void take_default_n_content(int row);
     void recalculate_share(int row);
-    bool recalculate_rate(int row);
-    bool entered(int row);
+    outcome recalculate_rate(int row);
+    outcome entered(int row);
     bool have_file();
     void mark_over_limit(const std::optional<std::vector<dated_rate>>& last_year);
     void fm_closed_rep(const std::vector<int>& closed_rows);

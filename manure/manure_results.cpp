@@ -66,9 +66,9 @@ files_read read_files(const application_state& state, const text_grid& table) {
 bool manure_module::calculate() {
     const files_read files = read_files(state_, applications_);
     instructions_ = text::result_instruction();
-    if (files.fields.empty()) return refuse(text::no_fields);
+    if (files.fields.empty()) return person_.tell(text::no_fields), false;
     auto sums = sum_by_field(files.fields, applications_);
-    if (!sums) return refuse(text::missing_data);
+    if (!sums) return person_.tell(text::missing_data), false;
     results_ = *std::move(sums);
     warnings_ = text::warnings_heading;
     // With last year's file in the table its stored applications count beside those of the table.
@@ -112,7 +112,7 @@ bool manure_module::have_file() {
     if (!state_.prev1_file.empty()) return true;
     const std::string chosen = choose_file_to_save(state_, person_, "Save the assessment");
     if (chosen.empty()) return false;
-    if (same_file(chosen, state_.assess_file)) return refuse(text::this_years_file);
+    if (same_file(chosen, state_.assess_file)) return person_.tell(text::this_years_file), false;
     copy_whole_file(state_.places.blank_assessment(), chosen);
     state_.prev1_file = chosen;
     return true;

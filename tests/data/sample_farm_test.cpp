@@ -150,14 +150,14 @@ TEST_F(SampleFarm, ManureRowsAreAsStep3WritesThemAfterAskingForTwo) {
         ASSERT_GT(before.data_row_count(), 0);
         for (int row = 0; row < before.data_row_count(); ++row) {
             const auto cell = [&](int column) { return before.cell(row, column); };
-            EXPECT_TRUE(module.enter_field(row, cell(field)));
-            const bool asks = module.enter_manure(row, cell(manure)) == manure_choice::ask_incorporation;
-            EXPECT_TRUE(!asks || module.enter_incorporation(row, cell(incorporation)));
-            EXPECT_TRUE(module.enter_date(row, parse_date(cell(manure_column::date)).value()));
-            EXPECT_TRUE(module.enter_area(row, cell(area)));
-            EXPECT_TRUE(module.enter_amount(row, cell(amount)));
+            EXPECT_TRUE(module.enter_field(row, cell(field)).closes);
+            const bool asks = module.enter_manure(row, cell(manure)).next.has_value();
+            EXPECT_TRUE(!asks || module.enter_incorporation(row, cell(incorporation)).closes);
+            EXPECT_TRUE(module.enter_date(row, parse_date(cell(manure_column::date)).value()).closes);
+            EXPECT_TRUE(module.enter_area(row, cell(area)).closes);
+            EXPECT_TRUE(module.enter_amount(row, cell(amount)).closes);
             const bool analysis = module.applications().cell(row, n_content) != cell(n_content);
-            EXPECT_TRUE(!analysis || module.enter_n_content(row, cell(n_content)));
+            EXPECT_TRUE(!analysis || module.enter_n_content(row, cell(n_content)).closes);
         }
         EXPECT_EQ(module.applications(), before) << year.path;
     }

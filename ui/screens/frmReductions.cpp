@@ -1,7 +1,5 @@
 #include "ui/screens/frmReductions.h"
 
-#include <QCalendarWidget>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -10,8 +8,7 @@
 #include <algorithm>
 
 #include "manure/manure_messages.h"
-#include "ui/widgets/choice_list.h"
-#include "ui/widgets/entry_box.h"
+#include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
 
@@ -47,10 +44,7 @@ frmReductions::frmReductions(application_state& state, prompts& person, report_d
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(instructions_);
     layout->addWidget(views_, 1);
-    add_list_boxes();
-    add_number_boxes();
-    connect(table_, &grid_view::cell_chosen, this,
-            [this](int row, int column) { open_box(module_.click(row, column)); });
+    add_entry_boxes();
     show_view();
 }
 
@@ -108,96 +102,20 @@ QWidget* frmReductions::result_page() {
     return page;
 }
 
-entry_box* frmReductions::new_entry_box(const char* name) {
-    entry_box* box = new_box(name, *table_);
-    box->add_erase([this] { return module_.erase_row(table_->current_row()); });
-    return box;
-}
-
-void frmReductions::add_list_boxes() {
-    const auto row = [this] { return table_->current_row(); };
-    field_box_ = new_entry_box("Reductions_fieldID");
-    field_box_->use_list({});
-    field_box_->on_enter(
-        [this, row] { return module_.enter_field(row(), field_box_->chosen().value_or("")); });
-    manure_box_ = new_entry_box("Reductions_manure");
-    QStringList types;
-    for (const manure_type& type : manure_catalogue())
-        types << qt(type.name);
-    manure_box_->use_list(types);
-    manure_box_->on_enter([this] { return enter_manure(); });
-    incorporation_box_ = new_entry_box("Reductions_incorporation");
-    incorporation_box_->use_choices({});
-    incorporation_box_->on_enter(
-        [this, row] { return module_.enter_incorporation(row(), incorporation_box_->chosen()); });
-    date_box_ = new_entry_box("Reductions_date");
-    date_box_->use_calendar();
-    date_box_->on_enter([this, row] { return module_.enter_date(row(), date_box_->chosen_date()); });
-}
-
-void frmReductions::add_number_boxes() {
-    area_box_ = new_number_entry_box("Reductions_area", &manure_module::enter_area);
-    amount_box_ = new_number_entry_box("Reductions_amount", &manure_module::enter_amount);
-    n_content_box_ = new_number_entry_box("Reductions_N", &manure_module::enter_n_content);
-}
-
-entry_box* frmReductions::new_number_entry_box(const char* name,
-                                               bool (manure_module::*enter)(int, const std::string&)) {
-    entry_box* box = new_entry_box(name);
-    box->use_number_box();
-    box->on_enter(
-        [this, box, enter] { return (module_.*enter)(table_->current_row(), box->entered_text()); });
-    return box;
-}
-
-entry_box* frmReductions::box_of(manure_box box) const {
-    switch (box) {
-        case manure_box::field:
-            return field_box_;
-        case manure_box::manure:
-            return manure_box_;
-        case manure_box::incorporation:
-            return incorporation_box_;
-        case manure_box::day:
-            return date_box_;
-        case manure_box::area:
-            return area_box_;
-        case manure_box::amount:
-            return amount_box_;
-        case manure_box::n_content:
-            return n_content_box_;
-        case manure_box::none:
-            break;
-    }
-    return nullptr;
-}
-
-void frmReductions::open_box(const manure_opening& opening) {
-    entry_box* box = box_of(opening.box);
-    if (!box) return;
-    if (box == field_box_) {
-        QStringList names;
-        for (const std::string& name : module_.field_names())
-            names << qt(name);
-        field_box_->use_list(names);
-    }
-    if (box == manure_box_)
-        table_->setCurrentIndex(table_->model()->index(table_->current_row(), manure_column::manure));
-    if (box == incorporation_box_)
-        box->use_choices({qt(module_.choices().early), qt(module_.choices().late)});
-    if (!opening.unit.empty()) box->show_unit(qt(opening.unit));
-    box->open(qt(opening.caption), qt(opening.instruction), qt(opening.text));
-}
-
-// The second step opens over the same cell once the first has closed.
-bool frmReductions::enter_manure() {
-    const int row = table_->current_row();
-    const manure_choice choice = module_.enter_manure(row, manure_box_->chosen().value_or(""));
-    if (choice == manure_choice::ask_incorporation) {
-        manure_box_->close_box();
-        open_box(module_.opening(manure_box::incorporation, row));
-    }
-    return choice != manure_choice::stay;
+void frmReductions::add_entry_boxes() {
+    using module = manure_module;
+    const std::vector buttons{erase_button(runs(module_, &module::erase_row))};
+    // clang-format off
+    add_boxes(*table_, [this](int row, int column) { return module_.click(row, column); }, {
+        {manure_box::field, "Reductions_fieldID", runs(module_, &module::enter_field), buttons},
+        {manure_box::manure, "Reductions_manure", runs(module_, &module::enter_manure), buttons},
+        {manure_box::incorporation, "Reductions_incorporation", runs(module_, &module::enter_incorporation), buttons},
+        {manure_box::day, "Reductions_date", runs(module_, &module::enter_date), buttons},
+        {manure_box::area, "Reductions_area", runs(module_, &module::enter_area), buttons},
+        {manure_box::amount, "Reductions_amount", runs(module_, &module::enter_amount), buttons},
+        {manure_box::n_content, "Reductions_N", runs(module_, &module::enter_n_content), buttons},
+    });
+    // clang-format on
 }
 
 void frmReductions::refresh() {

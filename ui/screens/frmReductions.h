@@ -28,13 +28,7 @@ class frmReductions : public module_screen {
     QWidget* table_page();
     QWidget* result_page();
     QPlainTextEdit* new_passage(const char* name, const QString& accessible_name);
-    void add_list_boxes();
-    void add_number_boxes();
-    entry_box* new_entry_box(const char* name);
-    entry_box* new_number_entry_box(const char* name, bool (manure_module::*enter)(int, const std::string&));
-    entry_box* box_of(manure_box box) const;
-    void open_box(const manure_opening& opening);
-    bool enter_manure();
+    void add_entry_boxes();
     void show_view();
     void fit_passages();
 
@@ -46,13 +40,6 @@ class frmReductions : public module_screen {
     grid_view* table_;
     grid_view* results_;
     QPlainTextEdit* warnings_;
-    entry_box* field_box_;
-    entry_box* manure_box_;
-    entry_box* incorporation_box_;
-    entry_box* date_box_;
-    entry_box* area_box_;
-    entry_box* amount_box_;
-    entry_box* n_content_box_;
 };
 
 }  // namespace kel

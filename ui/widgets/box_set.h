@@ -45,6 +45,12 @@ entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, int, c
     };
 }
 template <class Module>
+entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, date)) {
+    return [&module, run](grid_cell at, const box_entry& typed) {
+        return (module.*run)(at.row, typed.day().value());
+    };
+}
+template <class Module>
 entry_box::box_operation runs(Module& module, outcome (Module::*run)(int, const box_entry&)) {
     return [&module, run](grid_cell at, const box_entry& typed) { return (module.*run)(at.row, typed); };
 }
