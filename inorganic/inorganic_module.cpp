@@ -12,6 +12,32 @@
 
 namespace kel {
 
+namespace {
+
+// The dialog opens with the focus where the table was clicked.
+int part_of(int column) {
+    switch (column) {
+        case inorganic_column::type:
+            return application_part::type;
+        case inorganic_column::amount:
+            return application_part::amount;
+        case inorganic_column::content:
+            return application_part::content;
+        case inorganic_column::comments:
+            return application_part::comments;
+        default:
+            return application_part::day;
+    }
+}
+
+// The calendar goes to this day instead; to none for an empty text.
+outcome refuse_day(prompts& person, std::string day) {
+    return refuse(person, inorganic_messages::date_outside_calendar, outcome::focus_stays,
+                  {{application_part::day, std::move(day)}});
+}
+
+}  // namespace
+
 inorganic_module::inorganic_module(application_state& state, prompts& person)
     : state_(state), person_(person), applications_(inorganic_table::set_grid()) {
     applications_.add_row();
@@ -36,84 +62,71 @@ std::optional<int> inorganic_module::calendar_year() const {
     return year_of(*state_.kel_year_start) + 1;
 }
 
-inorganic_box inorganic_module::click(int row, int column) {
-    if (column == inorganic_column::field) return inorganic_box::field;
-    if (applications_.cell(row, inorganic_column::field).empty()) {
-        person_.tell(inorganic_messages::no_field_selected);
-        return inorganic_box::none;
-    }
-    return inorganic_box::application;
+opening inorganic_module::click(int row, int column) {
+    using namespace inorganic_messages;
+    const std::string& field = applications_.cell(row, inorganic_column::field);
+    if (column == inorganic_column::field)
+        return {inorganic_box::field, field_caption, {}, {{part_kind::list, field, field_names_}}};
+    if (field.empty()) return opens_none(person_, no_field_selected);
+    return application_of(row, part_of(column));
 }
 
-fertiliser_application inorganic_module::application_of(int row) const {
-    return {
-        .day = parse_date(applications_.cell(row, inorganic_column::day)),
-        .type = applications_.cell(row, inorganic_column::type),
-        .amount = applications_.cell(row, inorganic_column::amount),
-        .content = applications_.cell(row, inorganic_column::content),
-        .comments = applications_.cell(row, inorganic_column::comments),
-    };
+opening inorganic_module::application_of(int row, int focus) const {
+    const auto cell = [&](int column) { return applications_.cell(row, column); };
+    opening shown(inorganic_box::application, inorganic_messages::application_caption, {},
+                  {{part_kind::calendar, cell(inorganic_column::day)},
+                   {part_kind::text, cell(inorganic_column::type)},
+                   {part_kind::number, cell(inorganic_column::amount)},
+                   {part_kind::number, cell(inorganic_column::content)},
+                   {part_kind::text, cell(inorganic_column::comments)}});
+    shown.focus = focus;
+    return shown;
 }
 
-bool inorganic_module::enter_field(int row, const std::string& name) {
-    if (name.empty()) {
-        person_.tell(inorganic_messages::no_field_id);
-        return false;
-    }
+outcome inorganic_module::enter_field(int row, const std::string& name) {
+    if (name.empty()) return refuse(person_, inorganic_messages::no_field_id);
     applications_.set_cell(row, inorganic_column::field, name);
     applications_.keep_entry_row(row);
-    return true;
+    return box_closes();
 }
 
-date_pick inorganic_module::pick_date(int row, date picked) {
+outcome inorganic_module::pick_date(int row, date picked) {
+    using namespace inorganic_messages;
     // Without a year no date lies within it.
-    if (!state_.kel_year_start) {
-        person_.tell(inorganic_messages::date_outside_calendar);
-        return {};
-    }
+    if (!state_.kel_year_start) return refuse_day(person_, "");
     const calendar_window window = calendar_window_of(*state_.kel_year_start);
-    if (picked < window.first || picked > window.last) {
-        person_.tell(inorganic_messages::date_outside_calendar);
-        return {.day = picked < window.first ? window.first : window.last, .comments = {}};
-    }
+    if (picked < window.first) return refuse_day(person_, short_date_text(window.first));
+    if (picked > window.last) return refuse_day(person_, short_date_text(window.last));
+    std::vector<outcome::new_text> changes{{application_part::day, short_date_text(picked)}};
     const std::string& field = applications_.cell(row, inorganic_column::field);
-    switch (closed_for_inorganic(state_.assess_file, field, picked, state_)) {
-        case closed_answer::field_unknown:
-            person_.tell(inorganic_messages::field_not_assessed);
-            break;
-        case closed_answer::closed:
-            person_.tell(inorganic_messages::closed_period);
-            return {.day = picked, .comments = std::string(inorganic_messages::closed_period_comment)};
-        case closed_answer::open:
-            break;
+    const closed_answer answer = closed_for_inorganic(state_.assess_file, field, picked, state_);
+    if (answer == closed_answer::field_unknown) person_.tell(inorganic_messages::field_not_assessed);
+    if (answer == closed_answer::closed) {
+        person_.tell(closed_period);
+        changes.push_back({application_part::comments, std::string(closed_period_comment)});
     }
-    return {.day = picked, .comments = {}};
+    return box_stays(outcome::focus_stays, std::move(changes));
 }
 
 bool inorganic_module::in_year_assessed(date day) const {
     return state_.kel_year_start && day >= state_.limits.year_start && day <= state_.limits.year_end;
 }
 
-application_entry inorganic_module::refuse(const message& reason, application_part focus) {
-    person_.tell(reason);
-    return {.closes = false, .focus = focus};
-}
-
-application_entry inorganic_module::enter_application(int row, const fertiliser_application& entered) {
+outcome inorganic_module::enter_application(int row, const box_entry& entered) {
     using namespace inorganic_messages;
-    using part = application_part;
-    if (!entered.day) return refuse(no_date, part::day);
-    if (!in_year_assessed(*entered.day)) return refuse(date_outside_year, part::none);
-    if (entered.type.empty()) return refuse(no_type, part::type);
-    if (!holds_number(entered.amount)) return refuse(no_amount, part::amount);
-    if (!holds_number(entered.content)) return refuse(no_content, part::content);
-    applications_.set_cell(row, inorganic_column::day, short_date_text(*entered.day));
-    applications_.set_cell(row, inorganic_column::type, entered.type);
-    applications_.set_cell(row, inorganic_column::amount, entered.amount);
-    applications_.set_cell(row, inorganic_column::content, entered.content);
-    applications_.set_cell(row, inorganic_column::comments, entered.comments);
+    using namespace application_part;
+    if (!entered.day(day)) return refuse(person_, no_date, day);
+    if (!in_year_assessed(*entered.day(day))) return refuse(person_, date_outside_year, outcome::focus_stays);
+    if (entered.text(type).empty()) return refuse(person_, no_type, type);
+    if (!holds_number(entered.text(amount))) return refuse(person_, no_amount, amount);
+    if (!holds_number(entered.text(content))) return refuse(person_, no_content, content);
+    applications_.set_cell(row, inorganic_column::day, short_date_text(*entered.day(day)));
+    applications_.set_cell(row, inorganic_column::type, entered.text(type));
+    applications_.set_cell(row, inorganic_column::amount, entered.text(amount));
+    applications_.set_cell(row, inorganic_column::content, entered.text(content));
+    applications_.set_cell(row, inorganic_column::comments, entered.text(comments));
     inorganic_table::recalculate(applications_, row);
-    return {.closes = true};
+    return box_closes();
 }
 
 void inorganic_module::delete_row(int row) {

@@ -8,6 +8,7 @@
 
 #include "core/application_state.h"
 #include "core/dates.h"
+#include "core/entry.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "inorganic/inorganic_grid.h"
@@ -17,32 +18,10 @@ namespace kel {
 
 enum class inorganic_box { none, field, application };
 
-/// The boxes of the application dialog.
-enum class application_part { none, day, type, amount, content, comments };
-
-/// What the application dialog holds; no day while none is chosen in the calendar.
-struct fertiliser_application {
-    std::optional<date> day;
-    std::string type;
-    std::string amount;
-    std::string content;
-    std::string comments;
-    bool operator==(const fertiliser_application&) const = default;
-};
-
-/// What a pick in the calendar leads to.
-struct date_pick {
-    std::optional<date> day;              // the date to set in the calendar; nothing: none
-    std::optional<std::string> comments;  // what the comments are overwritten with; nothing: they stay
-    bool operator==(const date_pick&) const = default;
-};
-
-/// Whether the application dialog closes, and otherwise where the focus goes; none: it stays.
-struct application_entry {
-    bool closes = false;
-    application_part focus = application_part::none;
-    bool operator==(const application_entry&) const = default;
-};
+namespace application_part {
+/// The parts of the application dialog, in their order.
+enum : int { day, type, amount, content, comments };
+}  // namespace application_part
 
 class inorganic_module {
   public:
@@ -57,15 +36,12 @@ class inorganic_module {
     /// stands. Throws file_error and leaves everything as it was when the file cannot be read.
     void inorganic_load_stuff();
 
-    inorganic_box click(int row, int column);
-    /// What the application dialog opens with.
-    fertiliser_application application_of(int row) const;
-
-    /// True: the dialog closes.
-    bool enter_field(int row, const std::string& name);
-    /// The tests of a date picked for the row's field. Only this tests closed periods. Throws file_error.
-    date_pick pick_date(int row, date picked);
-    application_entry enter_application(int row, const fertiliser_application& entered);
+    opening click(int row, int column);
+    outcome enter_field(int row, const std::string& name);
+    /// The tests of a date picked for the row's field: what the calendar and the comments show instead. Only
+    /// this tests closed periods. Throws file_error.
+    outcome pick_date(int row, date picked);
+    outcome enter_application(int row, const box_entry& entered);
 
     /// Does nothing for the entry row and without a row (-1).
     void delete_row(int row);
@@ -78,7 +54,7 @@ class inorganic_module {
     void report(report_desk& desk);
 
   private:
-    application_entry refuse(const message& reason, application_part focus);
+    opening application_of(int row, int focus) const;
     bool in_year_assessed(date day) const;
 
     application_state& state_;

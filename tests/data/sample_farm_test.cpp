@@ -173,10 +173,13 @@ TEST_F(SampleFarm, InorganicRowsAreAsStep4WritesThem) {
         const text_grid before = module.applications();
         ASSERT_GT(before.data_row_count(), 0);
         for (int row = 0; row < before.data_row_count(); ++row) {
-            const fertiliser_application entered = module.application_of(row);
-            const auto comment = module.pick_date(row, entered.day.value()).comments;
-            EXPECT_EQ(comment.has_value(),
-                      entered.comments.starts_with("Reason for application during closed"));
+            box_entry entered;
+            for (const entry_part& part : module.click(row, inorganic_column::type).parts)
+                entered.parts.push_back({.text = part.text, .day = parse_date(part.text)});
+            const auto changes = module.pick_date(row, entered.day().value()).changes;
+            const bool commented =
+                entered.text(application_part::comments).starts_with("Reason for application during closed");
+            EXPECT_EQ(changes.size(), commented ? 2U : 1U);
             EXPECT_TRUE(module.enter_application(row, entered).closes);
         }
         EXPECT_EQ(module.applications(), before) << year.path;

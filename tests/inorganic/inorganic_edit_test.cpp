@@ -7,8 +7,7 @@ namespace kel::test {
 class InorganicEdit : public inorganic_test {};
 class CalendarPick : public inorganic_test {};
 
-const fertiliser_application spring_nitrogen{make_date(20, 3, 2005), "Ammonium nitrate", "100", "34.5",
-                                             "dry"};
+const application spring_nitrogen{make_date(20, 3, 2005), "Ammonium nitrate", "100", "34.5", "dry"};
 
 TEST(ApplicationRules, TotalNitrogenIsRoundedToOneDecimal) {
     struct {
@@ -32,13 +31,14 @@ TEST(ApplicationRules, ContentStaysWithinOneHundredAndANegativeQuantityEmptiesIt
 TEST_F(InorganicEdit, DetailsNeedAFieldAndEveryOtherCellOpensTheApplication) {
     open();
     person.expect(says::no_field_selected).expect(says::no_field_id);
-    EXPECT_EQ(module.click(0, col::comments), inorganic_box::none);
-    EXPECT_EQ(module.click(0, col::field), inorganic_box::field);
-    EXPECT_FALSE(module.enter_field(0, ""));
-    EXPECT_TRUE(module.enter_field(0, "East Muir"));
-    EXPECT_TRUE(module.enter_field(0, "Long Rig"));  // no longer the last row
+    EXPECT_TRUE(module.click(0, col::comments).box.none());
+    EXPECT_EQ(module.click(0, col::field).box, inorganic_box::field);
+    EXPECT_FALSE(module.enter_field(0, "").closes);
+    EXPECT_TRUE(module.enter_field(0, "East Muir").closes);
+    EXPECT_TRUE(module.enter_field(0, "Long Rig").closes);  // no longer the last row
     EXPECT_EQ(module.applications().row_count(), 2);
-    EXPECT_EQ(module.click(0, col::total_n), inorganic_box::application);
+    EXPECT_EQ(module.click(0, col::total_n).box, inorganic_box::application);
+    EXPECT_EQ(module.click(0, col::amount).focus, application_part::amount);
     for (const int row : {1, -1, 0, 0})  // the entry row stays
         module.delete_row(row);
     EXPECT_EQ(module.applications().row_count(), 1);
@@ -48,17 +48,17 @@ TEST_F(InorganicEdit, DetailsNeedAFieldAndEveryOtherCellOpensTheApplication) {
 TEST_F(InorganicEdit, EnterTestsInOrderAndWritesNothingBeforeTheLast) {
     open();
     module.enter_field(0, "Long Rig");
-    fertiliser_application entered;
+    application entered;
     entered.comments = "kept";
-    const auto refused = [&](const message& reason, application_part focus) {
+    const auto refused = [&](const message& reason, int focus) {
         person.expect(reason);
-        EXPECT_EQ(module.enter_application(0, entered), (application_entry{false, focus})) << reason.text;
+        EXPECT_EQ(module.enter_application(0, entered), box_stays(focus)) << reason.text;
         EXPECT_EQ(row(0), (texts{"Long Rig", "", "", "", "", "", ""}));
     };
     refused(says::no_date, application_part::day);
     for (const date outside : {make_date(18, 12, 2004), make_date(19, 12, 2005)}) {
         entered.day = outside;
-        refused(says::date_outside_year, application_part::none);
+        refused(says::date_outside_year, outcome::focus_stays);
     }
     entered.day = make_date(18, 12, 2005);
     refused(says::no_type, application_part::type);
@@ -69,9 +69,9 @@ TEST_F(InorganicEdit, EnterTestsInOrderAndWritesNothingBeforeTheLast) {
     entered.amount = "33";
     refused(says::no_content, application_part::content);
     entered.content = "27";
-    EXPECT_EQ(module.enter_application(0, entered), (application_entry{.closes = true}));
+    EXPECT_EQ(module.enter_application(0, entered), box_closes());
     EXPECT_EQ(row(0), (texts{"Long Rig", "18/12/2005", "Urea", "33", "27", "8.9", "kept"}));
-    EXPECT_EQ(module.application_of(0), entered);
+    EXPECT_EQ(shown(0), (texts{"18/12/2005", "Urea", "33", "27", "kept"}));
     entered.day = make_date(19, 12, 2004);
     EXPECT_TRUE(module.enter_application(0, entered).closes);
 }
@@ -86,9 +86,9 @@ TEST_F(CalendarPick, ClosedDaysOverwriteTheCommentByZoneAndSecondCrop) {
     module.enter_field(2, "Sold Field");
     const auto comment_of = [&](int row, date day, bool closed) {
         if (closed) person.expect(says::closed_period);
-        const date_pick pick = module.pick_date(row, day);
-        EXPECT_EQ(pick.day, day);
-        return pick.comments.value_or("kept");
+        const auto changes = module.pick_date(row, day).changes;
+        EXPECT_EQ(changes.at(0), (outcome::new_text{application_part::day, short_date_text(day)}));
+        return changes.size() == 1 ? "kept" : changes.at(1).text;
     };
     const std::string reason = "Reason for application during closed period: ";
     EXPECT_EQ(comment_of(0, make_date(19, 12, 2004), true), reason);
@@ -112,20 +112,20 @@ TEST_F(CalendarPick, DaysOutsideTheYearOfTheAssessmentSetItsEnds) {
     module.inorganic_load_stuff();
     module.enter_field(0, "Long Rig");
     person.expect(says::date_outside_calendar).expect(says::date_outside_calendar);
-    EXPECT_EQ(module.pick_date(0, make_date(28, 2, 2005)), (date_pick{make_date(1, 3, 2005), {}}));
-    EXPECT_EQ(module.pick_date(0, make_date(2, 3, 2006)), (date_pick{make_date(1, 3, 2006), {}}));
+    EXPECT_EQ(picked(make_date(28, 2, 2005)), "01/03/2005");
+    EXPECT_EQ(picked(make_date(2, 3, 2006)), "01/03/2006");
     person.expect(says::closed_period).expect(says::date_outside_year);
-    EXPECT_EQ(module.pick_date(0, make_date(1, 3, 2005)).day, make_date(1, 3, 2005));  // before 15 Feb 2006
-    EXPECT_FALSE(module.enter_application(0, spring_nitrogen).closes);                 // before 19 Dec 2005
+    EXPECT_EQ(picked(make_date(1, 3, 2005)), "01/03/2005");             // before 15 Feb 2006
+    EXPECT_FALSE(module.enter_application(0, spring_nitrogen).closes);  // before 19 Dec 2005
 }
 
 TEST_F(CalendarPick, AYearThatStartsOnALeapDayOrNotAtAllHarmsNothing) {
     open();
     state.kel_year_start = make_date(29, 2, 2004);
     person.expect(says::date_outside_calendar).expect(says::date_outside_calendar);
-    EXPECT_EQ(module.pick_date(0, make_date(1, 3, 2005)).day, make_date(28, 2, 2005));
+    EXPECT_EQ(picked(make_date(1, 3, 2005)), "28/02/2005");
     state.kel_year_start.reset();
-    EXPECT_EQ(module.pick_date(0, make_date(20, 3, 2005)).day, std::nullopt);
+    EXPECT_EQ(picked(make_date(20, 3, 2005)), "");
     person.expect(says::date_outside_year);
     EXPECT_FALSE(module.enter_application(0, spring_nitrogen).closes);
 }

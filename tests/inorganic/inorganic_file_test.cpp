@@ -36,7 +36,8 @@ TEST_F(InorganicFile, EveryRowLoadsAsItStands) {
     EXPECT_EQ(row(0), (texts{"Sold Field", "07/03/2005", "", "100", "", "1.23", ""}));
     EXPECT_EQ(row(1), (texts{"", "in spring", "", "100", "", "", ""}));
     EXPECT_EQ(row(2), texts(7));
-    EXPECT_EQ(module.application_of(1).day, std::nullopt);
+    person.expect(says::no_field_selected);
+    EXPECT_TRUE(module.click(1, col::day).box.none());
     EXPECT_EQ(module.calendar_year(), 2005);
     EXPECT_EQ(state.limits, year_limits_of(make_date(19, 12, 2004)));
     ASSERT_TRUE(module.save());
@@ -47,7 +48,8 @@ TEST_F(InorganicFile, SaveReplacesTheRowsAndKeepsDatesAsDates) {
     open();
     add_application("Long Rig", "2005-04-02", "");
     module.enter_field(0, "East Muir");
-    module.enter_application(0, {make_date(7, 3, 2005), "Urea \"46\"", "50", "34.5", "Reason: it's <cold>"});
+    module.enter_application(
+        0, application{make_date(7, 3, 2005), "Urea \"46\"", "50", "34.5", "Reason: it's <cold>"});
     module.enter_field(1, "Long Rig");  // a field alone is a row, too
     EXPECT_EQ(stored("Field Area ID"), texts{"Long Rig"});
     ASSERT_TRUE(module.save());
@@ -81,7 +83,7 @@ TEST_F(InorganicFile, AFileThatFailsLosesNothing) {
 TEST_F(InorganicFile, ReportHasTheRowsWithoutTheEntryRow) {
     open();
     module.enter_field(0, "East Muir");
-    module.enter_application(0, {make_date(7, 3, 2005), "Urea", "33", "27", ""});
+    module.enter_application(0, application{make_date(7, 3, 2005), "Urea", "33", "27", ""});
     viewer_stub viewer;
     report_desk desk{state, viewer, [] { return make_date(15, 11, 2026); }, "somebody"};
     module.report(desk);

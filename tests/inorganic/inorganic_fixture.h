@@ -15,6 +15,18 @@ namespace says = inorganic_messages;
 namespace col = inorganic_column;
 using texts = std::vector<std::string>;
 
+/// What a person puts into the application dialog.
+struct application {
+    std::optional<date> day;
+    std::string type;
+    std::string amount;
+    std::string content;
+    std::string comments;
+    operator box_entry() const {
+        return {{{.day = day}, {.text = type}, {.text = amount}, {.text = content}, {.text = comments}}};
+    }
+};
+
 class inorganic_test : public farm_test {
   protected:
     /// Opens a farm of two fields in the KEL year from 19 December 2004.
@@ -32,6 +44,15 @@ class inorganic_test : public farm_test {
             found.push_back(module.applications().cell(r, c));
         return found;
     }
+    /// What the application dialog of a row opens with.
+    texts shown(int r) {
+        texts found;
+        for (const entry_part& part : module.click(r, inorganic_column::type).parts)
+            found.push_back(part.text);
+        return found;
+    }
+    /// The day on which the calendar stands once this one was picked for the first row.
+    std::string picked(date day) { return module.pick_date(0, day).changes.at(0).text; }
     texts stored(const std::string& column) const {
         return column_of(state.assess_file, "Inorganic N", column);
     }

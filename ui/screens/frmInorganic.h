@@ -6,7 +6,7 @@
 
 namespace kel {
 
-class application_box;
+class application_form;
 
 class frmInorganic : public module_screen {
     Q_OBJECT
@@ -23,17 +23,14 @@ class frmInorganic : public module_screen {
 
   private:
     void add_commands(QBoxLayout* layout);
-    void add_field_box();
-    void add_application_box();
-    void open_box(int row, int column);
+    void add_entry_boxes();
     void set_calendar_year();
 
     inorganic_module module_;
     application_state& state_;
     report_desk& desk_;
     grid_view* grid_;
-    entry_box* field_box_;
-    application_box* application_box_;
+    application_form* application_;
 };
 
 }  // namespace kel

@@ -319,8 +319,8 @@ bool entry_box::event(QEvent* event) {
 void entry_box::place_beside_cell() {
     // Word-wrapped labels settle their height only once the width is given.
     layout_->activate();
-    const int height = std::max(heightForWidth(box_width_px), layout_->totalMinimumSize().height());
-    resize(box_width_px, std::max(height, sizeHint().height()));
+    const int height = std::max(heightForWidth(minimumWidth()), layout_->totalMinimumSize().height());
+    resize(minimumWidth(), std::max(height, sizeHint().height()));
     const QRect cell = grid_.visualRect(grid_.currentIndex());
     const QPoint below = grid_.viewport()->mapTo(parentWidget(), cell.bottomLeft());
     const QPoint above = grid_.viewport()->mapTo(parentWidget(), cell.topLeft());

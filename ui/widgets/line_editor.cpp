@@ -12,24 +12,24 @@ namespace kel {
 
 namespace {
 
-QLineEdit* new_line(const QString& name, QWidget* parent) {
-    auto* line = new QLineEdit(parent);
-    line->setObjectName(name);
-    return line;
-}
-
 QLineEdit* new_filtered_line(const QString& name, const char* pattern, QWidget* parent) {
-    QLineEdit* line = new_line(name, parent);
+    QLineEdit* line = new_text_box(name, parent);
     line->setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), line));
     return line;
 }
 
 QLineEdit* line_of_kind(part_kind kind, const QString& name, QWidget* parent) {
     if (kind == part_kind::number) return new_number_box(name, parent);
-    return kind == part_kind::digits ? new_whole_number_box(name, parent) : new_line(name, parent);
+    return kind == part_kind::digits ? new_whole_number_box(name, parent) : new_text_box(name, parent);
 }
 
 }  // namespace
+
+QLineEdit* new_text_box(const QString& name, QWidget* parent) {
+    auto* line = new QLineEdit(parent);
+    line->setObjectName(name);
+    return line;
+}
 
 QLineEdit* new_number_box(const QString& name, QWidget* parent) {
     return new_filtered_line(name, "[0-9]*\\.?[0-9]*", parent);

@@ -9,6 +9,7 @@ class QLineEdit;
 
 namespace kel {
 
+QLineEdit* new_text_box(const QString& name, QWidget* parent);
 /// A line edit that takes digits, backspace and one decimal point.
 QLineEdit* new_number_box(const QString& name, QWidget* parent);
 /// A line edit that takes digits and backspace only.
