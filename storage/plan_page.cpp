@@ -12,6 +12,10 @@ namespace kel {
 
 namespace {
 
+// The month in which most crops of the zones are off the field: what the harvest date starts from.
+constexpr int usual_harvest_day = 31;
+constexpr int usual_harvest_month = 8;
+
 std::string shown_or_empty(std::string_view stored) {
     return std::string(shown_crop_type(stored).value_or(""));
 }
@@ -24,16 +28,6 @@ int land_month_of(int column) {
 
 plan_page::plan_page(application_state& state, prompts& person)
     : state_(state), person_(person), production_(empty_production_grid()), plan_(empty_land_plan()) {}
-
-bool plan_page::refuse(const message& reason) {
-    person_.tell(reason);
-    return false;
-}
-
-storage_opening plan_page::refused(const message& reason) {
-    person_.tell(reason);
-    return {};
-}
 
 void plan_page::take(text_grid production, land_plan plan) {
     production_ = std::move(production);
@@ -63,9 +57,10 @@ void plan_page::rebuild() {
     balance_ = build_balance(stores_, production_totals(production_), monthly_spreading(plan_));
 }
 
-void plan_page::entered() {
+outcome plan_page::entered() {
     changed_ = true;
     rebuild();
+    return box_closes();
 }
 
 plan_tab plan_page::turn_to(plan_tab wanted) {
@@ -76,93 +71,126 @@ plan_tab plan_page::turn_to(plan_tab wanted) {
     return tab_;
 }
 
-storage_opening plan_page::click_production(int row, int column) {
+opening plan_page::click_production(int row, int column) {
     using namespace storage_messages;
-    if (row == inputs_row || row == production_totals_row(production_)) return refused(protected_row);
+    if (row == inputs_row || row == production_totals_row(production_))
+        return opens_none(person_, protected_row);
+    const std::string& shown = production_.cell(row, column);
     switch (column) {
         case production_column::stock:
-            return {storage_box::stock, stock_caption, stock_instruction};
+            return {storage_box::stock,
+                    stock_caption,
+                    stock_instruction,
+                    {{part_kind::list, shown, choices_of(slurry_units(), &slurry_unit::name)}}};
         case production_column::number:
-            return {storage_box::number, number_caption, number_instruction};
+            return {storage_box::number, number_caption, number_instruction, {{part_kind::number, shown}}};
         case production_column::percent:
-            return {storage_box::percent, percent_caption, percent_instruction};
+            return {storage_box::percent,
+                    percent_caption,
+                    percent_instruction,
+                    {{part_kind::number, shown, {}, "%"}}};
         case production_column::unit_volume:
         case production_column::total_volume:
-            return refused(calculation);
+            return opens_none(person_, calculation);
         default:
-            if (production_.number(row, production_column::total_volume) == 0) return refused(no_production);
-            return {storage_box::month, month_caption, month_instruction};
+            if (production_.number(row, production_column::total_volume) == 0)
+                return opens_none(person_, no_production);
+            return {storage_box::month,
+                    month_caption,
+                    month_instruction,
+                    {{part_kind::options,
+                      shown,
+                      {std::string(on_slurry_system), std::string(not_on_slurry_system)}}}};
     }
 }
 
-bool plan_page::set_stock_cell(int row, int column, const std::string& text) {
+outcome plan_page::set_stock_cell(int row, int column, const std::string& text) {
     production_.set_cell(row, column, text);
     recalculate_stock_line(production_, row);
-    entered();
-    return true;
+    return entered();
 }
 
-bool plan_page::enter_stock(int row, const std::string& unit) {
-    if (unit.empty()) return refuse(storage_messages::no_livestock);
+outcome plan_page::enter_stock(int row, const std::string& unit) {
+    if (unit.empty()) return refuse(person_, storage_messages::no_livestock);
     return set_stock_cell(row, production_column::stock, unit);
 }
 
-bool plan_page::enter_number(int row, const std::string& text) {
-    if (!holds_number(text)) return refuse(storage_messages::no_livestock_number);
+outcome plan_page::enter_number(int row, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, storage_messages::no_livestock_number);
     return set_stock_cell(row, production_column::number, text);
 }
 
-bool plan_page::enter_percent(int row, const std::string& text) {
-    if (!holds_number(text)) return refuse(storage_messages::no_percentage);
+outcome plan_page::enter_percent(int row, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, storage_messages::no_percentage);
     const double percent = leading_number(text);
-    if (percent > 100 || percent < 0) return refuse(storage_messages::invalid_percentage);
+    if (percent > 100 || percent < 0) return refuse(person_, storage_messages::invalid_percentage);
     return set_stock_cell(row, production_column::percent, text);
 }
 
-bool plan_page::enter_month(int row, int column, std::string_view text) {
-    production_.set_cell(row, column, std::string(text));
-    entered();
-    return true;
+outcome plan_page::enter_month(int row, int column, const std::string& text) {
+    production_.set_cell(row, column, text);
+    return entered();
 }
 
-bool plan_page::erase_line(int row) {
-    if (row == empty_stock_row(production_)) return refuse(storage_messages::cannot_delete);
+outcome plan_page::erase_line(int row) {
+    if (row == empty_stock_row(production_)) return refuse(person_, storage_messages::cannot_delete);
     erase_stock_line(production_, row);
-    entered();
-    return true;
+    return entered();
 }
 
-storage_opening plan_page::click_land(int row, int column) {
+opening plan_page::click_land(int row, int column) {
     using namespace storage_messages;
-    if (row >= plan_.fields()) return refused(protected_row);
+    if (row >= plan_.fields()) return opens_none(person_, protected_row);
     switch (column) {
         case plan_column::field:
         case plan_column::soil:
-            return refused(profile_cell);
+            return opens_none(person_, profile_cell);
         case plan_column::crop:
-            return {storage_box::field_use, field_use_caption, field_use_instruction};
+            return field_use_box(row);
         case plan_column::available:
-            return refused(available_area_cell);
+            return opens_none(person_, available_area_cell);
         default:
-            if (plan_.land.cell(row, column) == closed_month) return refused(closed_period);
-            return {storage_box::land_month, land_month_caption, land_month_instruction};
+            if (plan_.land.cell(row, column) == closed_month) return opens_none(person_, closed_period);
+            return {storage_box::land_month,
+                    land_month_caption,
+                    land_month_instruction,
+                    {{part_kind::number, plan_.land.cell(row, column), {}, "ha"}}};
     }
 }
 
-bool plan_page::enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
-                                date harvest) {
+// The date that the person sets stays from field to field, until the year is another one.
+opening plan_page::field_use_box(int row) {
+    using namespace storage_messages;
+    const int year = year_of(state_.limits.year_end);
+    std::string harvest;
+    if (std::exchange(harvest_year_, year) != year)
+        harvest = short_date_text(make_date(usual_harvest_day, usual_harvest_month, year));
+    const crop_pair use = shown_field_use(row);
+    const auto crops = [](std::string_view label, const char* name, const std::string& crop) {
+        return entry_part{part_kind::list,    crop, choices_of(field_uses(), &field_use::shown), {},
+                          std::string(label), name};
+    };
+    return {storage_box::field_use,
+            field_use_caption,
+            field_use_instruction,
+            {crops(first_crop_label, "first", use.first),
+             crops(second_crop_label, "second", use.second),
+             {part_kind::day, harvest, {}, {}, std::string(harvest_label), "harvest"}}};
+}
+
+outcome plan_page::enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
+                                   date harvest) {
     const auto first = stored_crop_type(first_crop);
     const auto second = stored_crop_type(second_crop);
-    if (!first) return refuse(storage_messages::no_first_crop);
-    if (!second) return refuse(storage_messages::no_second_crop);
+    if (!first) return refuse(person_, storage_messages::no_first_crop);
+    if (!second) return refuse(person_, storage_messages::no_second_crop);
     if (harvest < state_.limits.year_start || harvest > state_.limits.year_end)
-        return refuse(storage_messages::invalid_harvest_date);
+        return refuse(person_, storage_messages::invalid_harvest_date);
     const other_uses others = read_other_uses(state_, plan_.land.cell(row, plan_column::field));
-    if (!goes_with_last_year(others, *first, person_)) return false;
-    if (!goes_with_calculated_crop(others, *first, person_)) return false;
+    if (!goes_with_last_year(others, *first, person_)) return box_stays();
+    if (!goes_with_calculated_crop(others, *first, person_)) return box_stays();
     set_field_use(plan_, row, {std::string(*first), std::string(*second)}, month_of(harvest));
-    entered();
-    return true;
+    return entered();
 }
 
 crop_pair plan_page::shown_field_use(int row) const {
@@ -171,32 +199,33 @@ crop_pair plan_page::shown_field_use(int row) const {
     return {shown_or_empty(use->first), shown_or_empty(use->second)};
 }
 
-bool plan_page::enter_land_month(int row, int column, const std::string& text) {
-    if (!holds_number(text)) return refuse(storage_messages::no_land_availability);
+outcome plan_page::enter_land_month(int row, int column, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, storage_messages::no_land_availability);
     if (plan_.land.number(row, plan_column::available) - leading_single(text) < 0)
-        return refuse(storage_messages::more_than_available);
+        return refuse(person_, storage_messages::more_than_available);
     plan_.land.set_cell(row, column, text);
-    entered();
-    return true;
+    return entered();
 }
 
-storage_opening plan_page::click_spreading(int row, int column) {
+opening plan_page::click_spreading(int row, int column) {
     using namespace storage_messages;
-    if (row >= plan_.fields()) return refused(protected_row);
-    if (column == spreading_column::field) return refused(profile_cell);
-    if (plan_.spreading.cell(row, column) == closed_month) return refused(closed_period);
-    if (plan_.land.number(row, land_month_of(column)) == 0) return refused(no_land_in_month);
-    return {storage_box::slurry_applic, slurry_applic_caption, slurry_applic_instruction};
+    if (row >= plan_.fields()) return opens_none(person_, protected_row);
+    if (column == spreading_column::field) return opens_none(person_, profile_cell);
+    if (plan_.spreading.cell(row, column) == closed_month) return opens_none(person_, closed_period);
+    if (plan_.land.number(row, land_month_of(column)) == 0) return opens_none(person_, no_land_in_month);
+    return {storage_box::slurry_applic,
+            slurry_applic_caption,
+            slurry_applic_instruction,
+            {{part_kind::number, plan_.spreading.cell(row, column), {}, "cubic m/ha"}}};
 }
 
-bool plan_page::enter_slurry_applic(int row, int column, const std::string& text) {
-    if (!holds_number(text)) return refuse(storage_messages::no_application_rate);
+outcome plan_page::enter_slurry_applic(int row, int column, const std::string& text) {
+    if (!holds_number(text)) return refuse(person_, storage_messages::no_application_rate);
     if (plan_.land.cell(row, land_month_of(column)) == closed_month)
         person_.tell(storage_messages::no_slurry_at_this_time);
     else
         plan_.spreading.set_cell(row, column, text);
-    entered();
-    return true;
+    return entered();
 }
 
 void plan_page::get_slurry_data() {

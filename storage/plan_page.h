@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/entry.h"
 #include "core/prompts.h"
 #include "storage/land_plan.h"
 #include "storage/production_grid.h"
@@ -28,14 +29,6 @@ enum class storage_box {
     slurry_applic  // number box, cubic metres per hectare
 };
 
-/// What a click opens; none after a message.
-struct storage_opening {
-    storage_box box = storage_box::none;
-    std::string_view caption;
-    std::string_view instruction;
-    bool operator==(const storage_opening&) const = default;
-};
-
 class plan_page {
   public:
     plan_page(application_state& state, prompts& person);
@@ -54,28 +47,28 @@ class plan_page {
     plan_tab turn_to(plan_tab wanted);
 
     // Which box a click on a cell opens.
-    storage_opening click_production(int row, int column);
-    storage_opening click_land(int row, int column);
-    storage_opening click_spreading(int row, int column);
+    opening click_production(int row, int column);
+    opening click_land(int row, int column);
+    opening click_spreading(int row, int column);
 
-    // The entry boxes. True: the box closes.
-    bool enter_stock(int row, const std::string& unit);
-    bool enter_number(int row, const std::string& text);
-    bool enter_percent(int row, const std::string& text);
+    // The entry boxes.
+    outcome enter_stock(int row, const std::string& unit);
+    outcome enter_number(int row, const std::string& text);
+    outcome enter_percent(int row, const std::string& text);
     /// `text` is on_slurry_system or not_on_slurry_system.
-    bool enter_month(int row, int column, std::string_view text);
-    /// The erase button of the boxes of stock, number and percentage. False, after a message, for the empty
-    /// line.
-    bool erase_line(int row);
+    outcome enter_month(int row, int column, const std::string& text);
+    /// The erase button of the boxes of stock, number and percentage. The empty line cannot be erased, and
+    /// says so.
+    outcome erase_line(int row);
     /// cmdStorage_crop: both crops as shown in the lists, empty when none is selected. Throws file_error.
-    bool enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
-                         date harvest);
+    outcome enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
+                            date harvest);
     /// The field's use as shown in the lists; empty texts for a field not assessed.
     crop_pair shown_field_use(int row) const;
     /// cmdStorage_land_month.
-    bool enter_land_month(int row, int column, const std::string& text);
+    outcome enter_land_month(int row, int column, const std::string& text);
     /// cmdStorage_slurry_applic.
-    bool enter_slurry_applic(int row, int column, const std::string& text);
+    outcome enter_slurry_applic(int row, int column, const std::string& text);
     /// Command10, "Get Slurry Data": the slurries of Step 3 in place of the rates. Throws file_error.
     void get_slurry_data();
 
@@ -91,10 +84,9 @@ class plan_page {
     void clear();
 
   private:
-    bool refuse(const message& reason);
-    storage_opening refused(const message& reason);
-    bool set_stock_cell(int row, int column, const std::string& text);
-    void entered();
+    opening field_use_box(int row);
+    outcome set_stock_cell(int row, int column, const std::string& text);
+    outcome entered();
     void rebuild();
 
     application_state& state_;
@@ -105,6 +97,7 @@ class plan_page {
     std::optional<storage_balance> balance_;
     plan_tab tab_ = plan_tab::production;
     bool changed_ = false;
+    int harvest_year_ = 0;  // of the date that the box of a field's use offered first
 };
 
 }  // namespace kel

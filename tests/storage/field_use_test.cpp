@@ -10,7 +10,7 @@ class FieldUse : public storage_test {
     static constexpr const char* other = "Other";
 
     bool enter(const char* first, const char* second, date harvest = make_date(10, 8, 2025)) {
-        return plan.enter_field_use(0, first, second, harvest);
+        return plan.enter_field_use(0, first, second, harvest).closes;
     }
     void set_last_year(const std::string& pair) {
         link_last_year({{"Home", "10"}});
@@ -47,7 +47,7 @@ TEST_F(FieldUse, LandIsFreeAfterTheHarvestAndSensitiveSoilsCloseMonths) {
 
 TEST_F(FieldUse, EnteredAgainOpensTheMonthsClosedBeforeAlsoInTheFile) {
     open_plan("Sandy loams");
-    ASSERT_TRUE(plan.enter_slurry_applic(0, spreading_column::january, "20"));
+    ASSERT_TRUE(plan.enter_slurry_applic(0, spreading_column::january, "20").closes);
     ASSERT_TRUE(enter(other, other, make_date(31, 1, 2025)));
     ASSERT_TRUE(module.save_storage());
     EXPECT_EQ(stored("Land", "Applic_August"), texts{"Closed"});
@@ -59,7 +59,18 @@ TEST_F(FieldUse, EnteredAgainOpensTheMonthsClosedBeforeAlsoInTheFile) {
     EXPECT_EQ(stored("Land", "August"), texts{"10"});
     EXPECT_EQ(stored("Land", "Applic_August"), texts{""});
     EXPECT_EQ(stored("Land", "Applic_October"), texts{"Closed"});
-    EXPECT_EQ(plan.shown_field_use(0), (crop_pair{other, grass}));
+    const opening shown = plan.click_land(0, plan_column::crop);
+    EXPECT_EQ(shown.parts.at(0).text, other);
+    EXPECT_EQ(shown.parts.at(1).text, grass);
+}
+
+TEST_F(FieldUse, HarvestIsOfferedOnceAYearAndThenStaysAsItStands) {
+    open_plan("Sands");
+    const auto offered = [this] { return plan.click_land(0, plan_column::crop).parts.at(2).text; };
+    EXPECT_EQ(offered(), "31/08/2025");
+    EXPECT_EQ(offered(), "");
+    state.limits = year_limits_of(make_date(19, 12, 2025));
+    EXPECT_EQ(offered(), "31/08/2026");
 }
 
 TEST_F(FieldUse, CropsAndHarvestAreTestedFirst) {

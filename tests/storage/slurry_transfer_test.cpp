@@ -24,7 +24,7 @@ TEST_F(SlurryTransfer, DatedSlurriesAddUpByMonthAndOtherFieldsKeepTheirRates) {
     apply("Moor", solid, "2025-04-02", "40");
     walk_to_plan();
     for (const int row : {0, 1, 2})
-        ASSERT_TRUE(plan.enter_slurry_applic(row, spreading_column::december, "7"));
+        ASSERT_TRUE(plan.enter_slurry_applic(row, spreading_column::december, "7").closes);
     person.expect(says::overwrite_data, answer::yes);
     plan.get_slurry_data();
     EXPECT_EQ(spreading_months(0), (texts{"0", "0", "32.5", "0", "0", "0", "0", "0", "0", "0", "0", "0"}));

@@ -119,8 +119,8 @@ TEST_F(StorageFlow, WithoutStoresOnlyTheLandTableIsOffered) {
 TEST_F(StorageFlow, BackToTheStoresKeepsWhatIsNotSavedAndTakesTheNewCapacity) {
     open_plan();
     EXPECT_EQ(plan.tab(), plan_tab::production);
-    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)"));
-    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january, "4"));
+    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)").closes);
+    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january, "4").closes);
     module.back();
     EXPECT_EQ(module.instruction(), says::stores_again_instruction);
     store_form second = module.stores().edit_store(0).value();
@@ -135,7 +135,7 @@ TEST_F(StorageFlow, BackToTheStoresKeepsWhatIsNotSavedAndTakesTheNewCapacity) {
 
 TEST_F(StorageFlow, YearsDialogWalksOnToThePageThatShowed) {
     open_plan();
-    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january, "4"));
+    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january, "4").closes);
     module.reload();
     EXPECT_EQ(module.page(), storage_page::plan);
     EXPECT_EQ(plan.land().cell(0, plan_column::january), "10");
@@ -148,9 +148,9 @@ TEST_F(StorageFlow, YearsDialogWalksOnToThePageThatShowed) {
 TEST_F(StorageFlow, SaveWritesTheTablesAndDecember) {
     open({{"Home", "10"}, {"Brae", "5"}});
     walk_to_plan();
-    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)"));
-    ASSERT_TRUE(plan.enter_land_month(1, plan_column::january, "4"));
-    ASSERT_TRUE(plan.enter_slurry_applic(1, spreading_column::january, "25"));
+    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)").closes);
+    ASSERT_TRUE(plan.enter_land_month(1, plan_column::january, "4").closes);
+    ASSERT_TRUE(plan.enter_slurry_applic(1, spreading_column::january, "25").closes);
     EXPECT_EQ(stored("Land", "January"), (texts{"", ""}));
     EXPECT_TRUE(module.save_storage());
     EXPECT_EQ(stored("Slurry_animals", "Stock Unit"), texts{"1 dairy cow (650 kg)"});
@@ -170,7 +170,7 @@ TEST_F(StorageFlow, RowsOfOneFieldAndOfUnknownFieldsKeepTheirOwnFigures) {
     person.expect(module_messages::field_does_not_exist("Gone"));
     walk_to_plan();
     EXPECT_EQ(plan.fields().fields(), 2);
-    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january + 4, "9"));
+    ASSERT_TRUE(plan.enter_land_month(0, plan_column::january + 4, "9").closes);
     ASSERT_TRUE(module.save_storage());
     EXPECT_EQ(stored("Land", "May"), (texts{"9", "2", "1"}));
     EXPECT_EQ(stored("Land", "June"), (texts{"10", "", "6"}));

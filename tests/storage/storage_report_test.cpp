@@ -46,12 +46,12 @@ TEST_F(StorageReport, SectionsComeInOrderWithTheirFigures) {
     module.water().set_pig_pens("4");
     ASSERT_TRUE(module.storage_cont1());
     ASSERT_TRUE(module.storage_cont2());
-    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)"));
-    ASSERT_TRUE(plan.enter_number(1, "100"));
-    ASSERT_TRUE(plan.enter_percent(1, "50"));
-    ASSERT_TRUE(plan.enter_month(1, production_column::january, "Not Slurry"));
-    ASSERT_TRUE(plan.enter_field_use(0, "In grass", "In grass", make_date(1, 6, 2025)));
-    ASSERT_TRUE(plan.enter_slurry_applic(0, spreading_column::january + 2, "12.5"));
+    ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)").closes);
+    ASSERT_TRUE(plan.enter_number(1, "100").closes);
+    ASSERT_TRUE(plan.enter_percent(1, "50").closes);
+    ASSERT_TRUE(plan.enter_month(1, production_column::january, "Not Slurry").closes);
+    ASSERT_TRUE(plan.enter_field_use(0, "In grass", "In grass", make_date(1, 6, 2025)).closes);
+    ASSERT_TRUE(plan.enter_slurry_applic(0, spreading_column::january + 2, "12.5").closes);
     const std::string report = page();
     std::size_t at = 0;
     for (const char* part :

@@ -25,9 +25,9 @@ class frmStorage : public module_screen {
     void reload() override;
 
     // The pages build their controls with these.
+    using module_screen::add_boxes;
     using module_screen::add_command;
     using module_screen::disable_meanwhile;
-    using module_screen::new_box;
     using module_screen::new_text;
 
   protected:

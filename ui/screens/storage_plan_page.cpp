@@ -2,8 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -14,10 +12,9 @@
 
 #include "storage/slurry_production.h"
 #include "storage/storage_messages.h"
-#include "ui/screens/field_use_form.h"
 #include "ui/screens/frmStorage.h"
 #include "ui/screens/storage_chart.h"
-#include "ui/widgets/entry_box.h"
+#include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/month_table.h"
 #include "ui/widgets/qt_text.h"
@@ -25,19 +22,6 @@
 namespace kel {
 
 namespace text = storage_messages;
-
-namespace {
-
-// The month in which most crops of the zones are off the field: what the harvest date starts from.
-constexpr int usual_harvest_day = 31;
-constexpr int usual_harvest_month = 8;
-
-void name_enter_button(entry_box* box, const char* name) {
-    const QString given = box->objectName().replace(0, 3, "cmd") + "_enter";
-    box->findChild<QPushButton*>(given)->setObjectName(name);
-}
-
-}  // namespace
 
 storage_plan_page::storage_plan_page(frmStorage& screen, const application_state& state, plan_page& page)
     : QWidget(&screen), state_(state), page_(page) {
@@ -48,15 +32,8 @@ storage_plan_page::storage_plan_page(frmStorage& screen, const application_state
     chart_ = new storage_chart(this);
     layout->addWidget(chart_, 3);
     layout->addWidget(warning_panel(screen));
-    add_production_boxes(screen);
-    add_field_boxes(screen);
+    add_entry_boxes(screen);
     connect(tabs_, &QTabWidget::currentChanged, this, &storage_plan_page::turn_to);
-    connect(production_, &grid_view::cell_chosen, this,
-            [this](int row, int column) { open_box(page_.click_production(row, column), *production_); });
-    connect(land_, &grid_view::cell_chosen, this,
-            [this](int row, int column) { open_box(page_.click_land(row, column), *land_); });
-    connect(spreading_, &grid_view::cell_chosen, this,
-            [this](int row, int column) { open_box(page_.click_spreading(row, column), *spreading_); });
 }
 
 QWidget* storage_plan_page::tabs(frmStorage& screen) {
@@ -120,53 +97,29 @@ QWidget* storage_plan_page::warning_panel(frmStorage& screen) {
     return panel;
 }
 
-void storage_plan_page::add_production_boxes(frmStorage& screen) {
-    const auto row = [this] { return production_->current_row(); };
-    const auto erase = [this, row] { return page_.erase_line(row()); };
-    stock_box_ = screen.new_box("Storage_stock", *production_);
-    QStringList units;
-    for (const slurry_unit& unit : slurry_units())
-        units << qt(unit.name);
-    stock_box_->use_list(units);
-    stock_box_->on_enter([this, row] { return page_.enter_stock(row(), stock_box_->chosen().value_or("")); });
-    stock_box_->add_erase(erase);
-    number_box_ = screen.new_box("Storage_number", *production_);
-    number_box_->use_number_box();
-    number_box_->on_enter([this, row] { return page_.enter_number(row(), number_box_->entered_text()); });
-    number_box_->add_erase(erase);
-    percent_box_ = screen.new_box("Storage_percent", *production_);
-    percent_box_->use_number_box();
-    percent_box_->show_unit("%");
-    percent_box_->on_enter([this, row] { return page_.enter_percent(row(), percent_box_->entered_text()); });
-    percent_box_->add_erase(erase);
-    month_box_ = screen.new_box("Storage_month", *production_);
-    month_box_->use_choices({qt(on_slurry_system), qt(not_on_slurry_system)});
-    month_box_->on_enter([this, row] {
-        return page_.enter_month(row(), production_->current_column(), month_box_->chosen().value_or(""));
+void storage_plan_page::add_entry_boxes(frmStorage& screen) {
+    using page = plan_page;
+    const std::vector erase{erase_button(runs(page_, &page::erase_line))};
+    const auto enter_field_use = [this](grid_cell at, const box_entry& typed) {
+        return page_.enter_field_use(at.row, typed.text(0), typed.text(1), typed.day(2).value());
+    };
+    // clang-format off
+    screen.add_boxes(*production_, [this](int row, int column) { return page_.click_production(row, column); }, {
+        {storage_box::stock, "Storage_stock", runs(page_, &page::enter_stock), erase},
+        {storage_box::number, "Storage_number", runs(page_, &page::enter_number), erase},
+        {storage_box::percent, "Storage_percent", runs(page_, &page::enter_percent), erase},
+        {storage_box::month, "Storage_month", runs(page_, &page::enter_month)},
     });
-}
-
-void storage_plan_page::add_field_boxes(frmStorage& screen) {
-    field_use_box_ = screen.new_box("Storage_crop", *land_);
-    field_use_ = new field_use_form("Storage_crop", *field_use_box_, state_.short_date_format);
-    field_use_box_->on_enter([this] { return enter_field_use(); });
-    name_enter_button(field_use_box_, "cmdStorage_crop");
-    land_month_box_ = screen.new_box("Storage_land_month", *land_);
-    land_month_box_->use_number_box();
-    land_month_box_->show_unit(tr("ha"));
-    land_month_box_->on_enter([this] {
-        return page_.enter_land_month(land_->current_row(), land_->current_column(),
-                                      land_month_box_->entered_text());
+    screen.add_boxes(*land_, [this](int row, int column) { return page_.click_land(row, column); }, {
+        {storage_box::field_use, "Storage_crop", enter_field_use, {}, "cmdStorage_crop"},
+        {storage_box::land_month, "Storage_land_month", runs(page_, &page::enter_land_month), {},
+            "cmdStorage_land_month"},
     });
-    name_enter_button(land_month_box_, "cmdStorage_land_month");
-    slurry_applic_box_ = screen.new_box("Storage_slurry_applic", *spreading_);
-    slurry_applic_box_->use_number_box();
-    slurry_applic_box_->show_unit(tr("cubic m/ha"));
-    slurry_applic_box_->on_enter([this] {
-        return page_.enter_slurry_applic(spreading_->current_row(), spreading_->current_column(),
-                                         slurry_applic_box_->entered_text());
+    screen.add_boxes(*spreading_, [this](int row, int column) { return page_.click_spreading(row, column); }, {
+        {storage_box::slurry_applic, "Storage_slurry_applic", runs(page_, &page::enter_slurry_applic), {},
+            "cmdStorage_slurry_applic"},
     });
-    name_enter_button(slurry_applic_box_, "cmdStorage_slurry_applic");
+    // clang-format on
 }
 
 // The tab turned to comes to the front only once the page agrees.
@@ -187,48 +140,6 @@ grid_view* storage_plan_page::front_grid() const {
 
 void storage_plan_page::take_focus() {
     front_grid()->setFocus();
-}
-
-entry_box* storage_plan_page::box_of(storage_box box) const {
-    switch (box) {
-        case storage_box::stock:
-            return stock_box_;
-        case storage_box::number:
-            return number_box_;
-        case storage_box::percent:
-            return percent_box_;
-        case storage_box::month:
-            return month_box_;
-        case storage_box::land_month:
-            return land_month_box_;
-        case storage_box::slurry_applic:
-            return slurry_applic_box_;
-        case storage_box::field_use:
-        case storage_box::none:
-            break;
-    }
-    return nullptr;
-}
-
-void storage_plan_page::open_box(const storage_opening& opening, grid_view& grid) {
-    if (opening.box == storage_box::field_use) return open_field_use(opening);
-    if (entry_box* box = box_of(opening.box))
-        box->open(qt(opening.caption), qt(opening.instruction), grid.currentIndex().data().toString());
-}
-
-void storage_plan_page::open_field_use(const storage_opening& opening) {
-    const date year_end = state_.limits.year_end;
-    if (year_of(year_end) != harvest_year_) {
-        harvest_year_ = year_of(year_end);
-        field_use_->set_harvest(make_date(usual_harvest_day, usual_harvest_month, harvest_year_));
-    }
-    field_use_->open(qt(opening.caption), qt(opening.instruction),
-                     page_.shown_field_use(land_->current_row()));
-}
-
-bool storage_plan_page::enter_field_use() {
-    const field_use_entry use = field_use_->entered();
-    return page_.enter_field_use(land_->current_row(), use.shown.first, use.shown.second, use.harvest);
 }
 
 void storage_plan_page::refresh() {

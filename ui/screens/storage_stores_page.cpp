@@ -9,8 +9,8 @@
 
 #include "ui/screens/frmStorage.h"
 #include "ui/widgets/choice_list.h"
-#include "ui/widgets/entry_box.h"
 #include "ui/widgets/grid_view.h"
+#include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {

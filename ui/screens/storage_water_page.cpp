@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/screens/frmStorage.h"
-#include "ui/widgets/entry_box.h"
+#include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
