@@ -9,11 +9,12 @@
 #include <utility>
 #include <variant>
 
+#include "core/strangers_file.h"
+
 namespace kel {
 
 namespace {
 
-constexpr int longest_value_bytes = 16'000'000;
 constexpr int busy_timeout_ms = 2000;
 
 std::string trouble_of(const SQLite::Exception& e) {
@@ -40,12 +41,21 @@ std::string trouble_of(const SQLite::Exception& e) {
     }
 }
 
+// An empty file and another program's are databases too.
+std::string missing_table(const SQLite::Exception& e) {
+    const std::string_view what = e.what();
+    if (what.rfind("no such table: ", 0) != 0) return {};
+    const auto table = what.substr(what.find('.') + 1);
+    return "it is no assessment: it has no table [" + std::string(table) + "].";
+}
+
 template <class F>
 auto guarded(const std::string& path, F&& work) {
     try {
         return work();
     } catch (const SQLite::Exception& e) {
-        throw file_error(path, trouble_of(e));
+        const std::string missing = missing_table(e);
+        throw file_error(path, missing.empty() ? trouble_of(e) : missing);
     }
 }
 
@@ -63,21 +73,17 @@ bool same_name(std::string_view a, std::string_view b) {
                                 [](char x, char y) { return lower(x) == lower(y); });
 }
 
-// An assessment from a stranger is data: nothing in it may run.
-void harden(sqlite3* handle) {
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0, nullptr);
-    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longest_value_bytes);
-}
-
 }  // namespace
 
 struct database::connection {
     explicit connection(const std::string& path) : sqlite(path, SQLite::OPEN_READWRITE, busy_timeout_ms) {
         harden(sqlite.getHandle());
+        check_layout(sqlite, "main", path);
+    }
+
+    static std::shared_ptr<connection> opened(const std::string& path) {
+        check_file_size(path);
+        return std::make_shared<connection>(path);
     }
 
     // Prepared once per connection and text; the caller binds and runs it to its end.
@@ -99,9 +105,7 @@ struct database::connection {
 };
 
 database::database(const std::string& path)
-    : shared_(guarded(path, [&] { return std::make_shared<connection>(path); })),
-      schema_("main"),
-      path_(path) {}
+    : shared_(guarded(path, [&] { return connection::opened(path); })), schema_("main"), path_(path) {}
 
 database::database(std::shared_ptr<connection> shared, std::string schema, std::string path)
     : shared_(std::move(shared)), schema_(std::move(schema)), path_(std::move(path)) {}
@@ -117,9 +121,11 @@ std::string database::quoted(std::string_view table) const {
 database database::attach(const std::string& path) const {
     std::string schema = "linked" + std::to_string(++shared_->attached);
     guarded(path, [&] {
+        check_file_size(path);
         SQLite::Statement statement(shared_->sqlite, "ATTACH DATABASE ? AS " + schema);
         statement.bindNoCopy(1, path);
         statement.exec();
+        check_layout(shared_->sqlite, schema, path);
     });
     return {shared_, std::move(schema), path};
 }
@@ -196,6 +202,7 @@ struct recordset::rows {
     std::vector<std::string> names;
     mutable std::size_t last_found = 0;
     bool has_row = false;
+    int walked = 0;
     enum class edit_mode { none, adding, editing } mode = edit_mode::none;
     std::vector<value> pending;
     // Prepared for the row before and owned by the connection; most rows set the columns that it set.
@@ -274,6 +281,7 @@ bool recordset::eof() const {
 
 void recordset::move_next() {
     guarded(rows_->db.path(), [&] { rows_->has_row = rows_->select.executeStep(); });
+    check_row_count(++rows_->walked, rows_->db.path(), rows_->table);
 }
 
 int recordset::record_count() const {
