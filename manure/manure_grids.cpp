@@ -83,7 +83,7 @@ void write_application_rate(text_grid& table, int row) {
 
 void write_total_n(text_grid& table, int row) {
     const float total = total_n_rate(table.number(row, col::n_content), table.number(row, col::rate));
-    table.set_cell(row, col::total_n, shortest_text(total));
+    table.set_cell(row, col::total_n, default_text(total));
 }
 
 void write_total_n_of_analysis(text_grid& table, int row) {
@@ -107,8 +107,8 @@ percentage_outcome write_percentage(text_grid& table, int row, int& working_code
 void write_rates(text_grid& table, int row) {
     const float total = table.number(row, col::total_n);
     table.set_cell(row, col::available,
-                   shortest_text(available_n_rate(total, table.number(row, col::percentage))));
-    table.set_cell(row, col::available_next, shortest_text(available_n_rate_next(total)));
+                   default_text(available_n_rate(total, table.number(row, col::percentage))));
+    table.set_cell(row, col::available_next, default_text(available_n_rate_next(total)));
 }
 
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,

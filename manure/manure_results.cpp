@@ -50,28 +50,29 @@ std::vector<int> rows_in_closed_periods(const closed_calendar& calendar, const t
     return rows;
 }
 
-files_read read_files(const application_state& state, const text_grid& table) {
+files_read read_files(const application_state& state, const text_grid& table, bool with_last_year) {
     files_read files;
     if (!state.assess_file.empty()) {
         const database db(state.assess_file);
         files.fields = read_farm_fields(db);
         files.closed_rows = rows_in_closed_periods(read_closed_months(db), table);
     }
-    if (!state.prev1_file.empty()) files.last_year = dated_rates(database(state.prev1_file));
+    // The table of last year's applications holds those of that file: none counts twice.
+    if (with_last_year && !state.prev1_file.empty())
+        files.last_year = dated_rates(database(state.prev1_file));
     return files;
 }
 
 }  // namespace
 
 bool manure_module::calculate() {
-    const files_read files = read_files(state_, applications_);
+    const files_read files = read_files(state_, applications_, !for_previous_year());
     instructions_ = text::result_instruction();
     if (files.fields.empty()) return person_.tell(text::no_fields), false;
     auto sums = sum_by_field(files.fields, applications_);
     if (!sums) return person_.tell(text::missing_data), false;
     results_ = *std::move(sums);
     warnings_ = text::warnings_heading;
-    // With last year's file in the table its stored applications count beside those of the table.
     mark_over_limit(files.last_year);
     fm_closed_rep(files.closed_rows);
     results_shown_ = true;

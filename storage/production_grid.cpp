@@ -53,8 +53,8 @@ void add_empty_line(text_grid& production) {
     production.add_row();
 }
 
-float month_total(const text_grid& production, int column) {
-    float total = production.number(inputs_row, column);
+// The stock lines of a month added to `total`.
+float with_stock_lines(float total, const text_grid& production, int column) {
     for (int row = first_stock_row; row < empty_stock_row(production); ++row)
         if (production.cell(row, column) == on_slurry_system)
             total += production.number(row, production_column::total_volume);
@@ -107,8 +107,9 @@ void set_inputs(text_grid& production, const monthly_values& inputs) {
 void set_production_totals(text_grid& production) {
     set_labels(production);
     for (int column = production_column::january; column < all_months_end; ++column)
-        production.set_cell(production_totals_row(production), column,
-                            shortest_text(month_total(production, column)));
+        production.set_cell(
+            production_totals_row(production), column,
+            shortest_text(with_stock_lines(production.number(inputs_row, column), production, column)));
 }
 
 monthly_values production_totals(const text_grid& production) {
@@ -116,6 +117,14 @@ monthly_values production_totals(const text_grid& production) {
     int column = production_column::january;
     for (float& total : totals)
         total = production.number(production_totals_row(production), column++);
+    return totals;
+}
+
+monthly_values stock_totals(const text_grid& production) {
+    monthly_values totals{};
+    int column = production_column::january;
+    for (float& total : totals)
+        total = with_stock_lines(0, production, column++);
     return totals;
 }
 

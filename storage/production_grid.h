@@ -35,6 +35,8 @@ void set_inputs(text_grid& production, const monthly_values& inputs);
 /// Row of totals: inputs as shown, and the lines that are on the slurry system in the month.
 void set_production_totals(text_grid& production);
 monthly_values production_totals(const text_grid& production);
+/// Cubic metres of the lines alone.
+monthly_values stock_totals(const text_grid& production);
 
 /// [Slurry_animals] between an empty row of inputs and an empty line.
 text_grid load_production(const database& db);

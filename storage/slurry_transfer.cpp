@@ -11,18 +11,18 @@ int spreading_column_of(std::size_t month) {
     return spreading_column::january + static_cast<int>(month);
 }
 
-void add_application(monthly_values& rates, const recordset& row) {
+void add_application(monthly_sums& rates, const recordset& row) {
     if (!slurry_test(row.text("Manure Type"))) return;
     const auto day = row.date_value("Date");
     if (!day) return;
-    rates[static_cast<std::size_t>(month_of(*day) - 1)] += leading_single(row.text("Applic Rate"));
+    rates[static_cast<std::size_t>(month_of(*day) - 1)] += leading_number(row.text("Applic Rate"));
 }
 
-void put_rates(text_grid& spreading, int row, const monthly_values& rates, transfer_result& result) {
+void put_rates(text_grid& spreading, int row, const monthly_sums& rates, transfer_result& result) {
     for (std::size_t month = 0; month < rates.size(); ++month) {
         const int column = spreading_column_of(month);
         if (spreading.cell(row, column) != closed_month)
-            spreading.set_cell(row, column, shortest_text(rates[month]));
+            spreading.set_cell(row, column, shortest_text(static_cast<float>(rates[month])));
         else if (rates[month] != 0)
             result.into_closed_month = true;
     }

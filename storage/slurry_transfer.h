@@ -1,6 +1,7 @@
 // The slurry applications of Step 3 as monthly rates of the spreading table.
 #pragma once
 
+#include <array>
 #include <map>
 #include <string>
 
@@ -10,8 +11,9 @@
 namespace kel {
 
 /// Rates per month of each field that has applications, in cubic metres per hectare: slurries with a date are
-/// added up, solid manures count nothing.
-using slurry_rates = std::map<std::string, monthly_values, std::less<>>;
+/// added up, solid manures count nothing. The sums are not rounded before they are put into the table.
+using monthly_sums = std::array<double, months_in_year>;
+using slurry_rates = std::map<std::string, monthly_sums, std::less<>>;
 
 /// [Manure_applic] in one pass; empty without an application. Throws file_error for a date that is none.
 slurry_rates read_slurry_rates(const database& db);

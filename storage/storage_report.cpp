@@ -101,14 +101,6 @@ texts stock_line(const text_grid& production, int row) {
     return shown;
 }
 
-monthly_values stock_totals(const text_grid& production) {
-    monthly_values totals = production_totals(production);
-    int column = production_column::january;
-    for (float& total : totals)
-        total -= production.number(inputs_row, column++);
-    return totals;
-}
-
 page_lines production_table(const text_grid& production) {
     report_table table;
     table.add_heading_row({cell("Stock Type", 1, 2), cell("Number", 1, 2),

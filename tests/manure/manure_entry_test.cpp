@@ -75,7 +75,7 @@ TEST_F(ManureEntry, RowIsWorkedOutFromItsEntries) {
     EXPECT_EQ(cell(0, manure_col::total_n), "78.3987456");  // more places than a single holds
     EXPECT_TRUE(module.enter_area(0, "3").closes);
     EXPECT_EQ(cell(0, manure_col::rate), "83.67");
-    EXPECT_EQ(cell(0, manure_col::total_n), "261.33957");
+    EXPECT_EQ(cell(0, manure_col::total_n), "261.3396");
     EXPECT_TRUE(module.enter_field(0, "Long Rig").closes);
     EXPECT_EQ(cell(0, manure_col::area), "3");  // not the default again
     EXPECT_TRUE(module.enter_area(0, "0").closes);

@@ -110,6 +110,40 @@ TEST_F(ManureResult, LinkedYearCountsAndIsReadBeforeAnythingChanges) {
     EXPECT_FALSE(module.results_shown());
 }
 
+TEST_F(ManureResult, ARecordOfLastYearCountsOnceWhenLastYearIsInTheTable) {
+    open_fields();
+    state.prev1_file = make_farm("last.kel", {{"Long Rig", "15"}}, 2023);
+    state.manure_caller = manure_opener::old_crop;
+    add_application(state.prev1_file, "Long Rig", "2024-03-02", "130");
+    ASSERT_TRUE(calculated());
+    EXPECT_EQ(module.results().cell(0, result_col::warnings), "No");
+    add_application(state.prev1_file, "Long Rig", "2024-04-02", "130");
+    ASSERT_TRUE(calculated());
+    EXPECT_EQ(module.results().cell(0, result_col::warnings), "Yes");
+}
+
+TEST_F(ManureResult, FiguresOfARowAreShownSummedAndSavedWithoutTheNoiseBehindThem) {
+    open_farm({{"Long Rig", "15"}});
+    add_land("Long Rig");
+    module.manure_load_stuff();
+    const std::string pig = "Pig slurry - high dry matter (6%)";  // 5 kg N per cubic m
+    for (const auto& [row, amount] : {std::pair{0, "122.6"}, std::pair{1, "377.4"}}) {
+        module.enter_field(row, "Long Rig");
+        module.enter_manure(row, pig);
+        module.enter_incorporation(row, "Over 6 hours");
+        module.enter_date(row, make_date(1, 3, 2025));
+        module.enter_area(row, "10");
+        module.enter_amount(row, amount);
+    }
+    EXPECT_EQ(cell(0, manure_col::total_n), "61.3");  // 61.300003 as the single reads back
+    EXPECT_EQ(cell(1, manure_col::total_n), "188.7");
+    EXPECT_EQ(cell(0, manure_col::available_next), "6.13");
+    ASSERT_TRUE(module.calculate());
+    EXPECT_EQ(module.results().cell(0, result_col::warnings), "No") << "exactly 250 kg";
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Total N Applic Rate"), (texts{"61.3", "188.7"}));
+}
+
 TEST_F(ManureResult, ClosedPeriodMarksTheResultsRowOfTheApplicationsNumber) {
     open_fields();
     apply("Long Rig", "2025-03-01", "10");

@@ -19,6 +19,8 @@ TEST_F(SlurryTransfer, DatedSlurriesAddUpByMonthAndOtherFieldsKeepTheirRates) {
     open({{"Home", "10"}, {"Brae", "5"}, {"Moor", "4"}});
     apply("Home", slurry, "2025-03-01", "20");
     apply("Home", slurry, "2025-03-31", "12.5");
+    apply("Home", slurry, "2025-06-01", "1.1");  // as singles they would add up to 3.3000002
+    apply("Home", slurry, "2025-06-02", "2.2");
     apply("Home", solid, "2025-04-02", "40");
     apply("Home", slurry, "", "99");
     apply("Moor", solid, "2025-04-02", "40");
@@ -27,7 +29,7 @@ TEST_F(SlurryTransfer, DatedSlurriesAddUpByMonthAndOtherFieldsKeepTheirRates) {
         ASSERT_TRUE(plan.enter_slurry_applic(row, spreading_column::december, "7").closes);
     person.expect(says::overwrite_data, answer::yes);
     plan.get_slurry_data();
-    EXPECT_EQ(spreading_months(0), (texts{"0", "0", "32.5", "0", "0", "0", "0", "0", "0", "0", "0", "0"}));
+    EXPECT_EQ(spreading_months(0), (texts{"0", "0", "32.5", "0", "0", "3.3", "0", "0", "0", "0", "0", "0"}));
     EXPECT_EQ(spreading_months(1)[11], "7");
     EXPECT_EQ(spreading_months(1)[2], "");
     EXPECT_EQ(spreading_months(2)[11], "0");
