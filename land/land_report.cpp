@@ -11,16 +11,6 @@ namespace kel {
 
 namespace {
 
-void add_grid_rows(report_table& table, const text_grid& grid, const std::vector<int>& columns) {
-    for (int row = 0; row < grid.data_row_count(); ++row) {
-        std::vector<std::string> texts;
-        texts.reserve(columns.size());
-        for (const int column : columns)
-            texts.push_back(grid.cell(row, column));
-        table.add_row(texts);
-    }
-}
-
 report_cell heading(std::string text, int columns = 1, int rows = 1) {
     return {.text = std::move(text), .columns = columns, .rows = rows, .width = {}, .align = {}};
 }
@@ -30,13 +20,11 @@ report_cell over_two_rows(std::string text) {
 }
 
 page_lines summary(const spreading_result& result) {
-    report_table table;
-    table.add_row({"Total N production as organic manures:", result.production});
-    table.add_row({"Grassland limit:", result.grassland_limit});
-    table.add_row({"Non-Grassland limit:", result.other_land_limit});
-    table.add_row(
-        {"Overall limit on spreading organic manures (incl. grazing deposition):", result.farm_limit});
-    page_lines lines = table.lines();
+    page_lines lines = label_table(
+        {{"Total N production as organic manures:", result.production},
+         {"Grassland limit:", result.grassland_limit},
+         {"Non-Grassland limit:", result.other_land_limit},
+         {"Overall limit on spreading organic manures (incl. grazing deposition):", result.farm_limit}});
     append(lines, report_paragraph(land_messages::comment(result)));
     if (const std::string note = land_messages::note(result); !note.empty())
         append(lines, report_paragraph(note));
@@ -45,11 +33,11 @@ page_lines summary(const spreading_result& result) {
 
 page_lines stock_table(const text_grid& animals) {
     report_table table;
-    table.add_heading_row({heading("Stock Unit"), heading("Number Of Stock Units"),
-                           heading("Total N Excreted By One Stock Unit (kg/yr)"),
-                           heading("Total N Excreted By All These Animals (kg/yr)")});
-    add_grid_rows(table, animals,
-                  {stock_column::stock, stock_column::number, stock_column::unit_n, stock_column::total_n});
+    table.add_heading_row(std::vector<std::string>{"Stock Unit", "Number Of Stock Units",
+                                                   "Total N Excreted By One Stock Unit (kg/yr)",
+                                                   "Total N Excreted By All These Animals (kg/yr)"});
+    table.add_grid(animals, animals.data_row_count(),
+                   {stock_column::stock, stock_column::number, stock_column::unit_n, stock_column::total_n});
     return table.lines();
 }
 
@@ -62,8 +50,8 @@ page_lines field_table(const text_grid& land) {
          over_two_rows("Field Spreading Limit (Excl. grazing deposition)<br>(kg organic N)")});
     table.add_heading_row(
         {heading("Buffer Areas (ha)"), heading("Slope Areas (ha)"), heading("Other Areas (ha)")});
-    add_grid_rows(
-        table, land,
+    table.add_grid(
+        land, land.data_row_count(),
         {land_column::field, land_column::grass, land_column::not_in_grass, land_column::buffer,
          land_column::slope, land_column::other_deduction, land_column::available, land_column::field_limit});
     return table.lines();

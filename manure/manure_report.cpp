@@ -7,40 +7,32 @@ namespace kel {
 
 namespace {
 
+namespace col = manure_column;
+using texts = std::vector<std::string>;
+
 constexpr std::string_view note =
     "Note: The above represent the extent to which N available (for the planned and next crop) from manures "
     "and slurries may make it possible to reduce applications of inorganic fertilizers. Care must however be "
     "taken to ensure that fertilizer applications (organic or inorganic) do not exceed the crop requirement.";
 
-report_cell heading(std::string text) {
-    return {.text = std::move(text)};
-}
-
-void add_rows(report_table& table, const text_grid& grid, int rows, int columns) {
-    for (int row = 0; row < rows; ++row) {
-        std::vector<std::string> texts;
-        texts.reserve(static_cast<std::size_t>(columns));
-        for (int column = 0; column < columns; ++column)
-            texts.push_back(grid.cell(row, column));
-        table.add_row(texts);
-    }
-}
-
 page_lines summary_table(const text_grid& results) {
     report_table table;
-    table.add_heading_row({heading("Field Name"), heading("N Available To Planned Crop (kg/ha)"),
-                           heading("N Available To Next Crop (kg/ha)")});
-    add_rows(table, results, results.row_count(), manure_result_column::warnings);
+    table.add_heading_row(
+        texts{"Field Name", "N Available To Planned Crop (kg/ha)", "N Available To Next Crop (kg/ha)"});
+    table.add_grid(
+        results, results.row_count(),
+        {manure_result_column::field, manure_result_column::current_crop, manure_result_column::next_crop});
     return table.lines();
 }
 
 page_lines applications_table(const text_grid& applications) {
     report_table table;
-    table.add_heading_row({heading("Field Name"), heading("Soil"), heading("Incorporation Time"),
-                           heading("Manure Type"), heading("Month Applied"), heading("Area Spread (ha)"),
-                           heading("Amount Applied (t or cubic m)"),
-                           heading("Application Rate (t or cubic m/ha)")});
-    add_rows(table, applications, applications.data_row_count(), manure_column::rate + 1);
+    table.add_heading_row(texts{"Field Name", "Soil", "Incorporation Time", "Manure Type", "Month Applied",
+                                "Area Spread (ha)", "Amount Applied (t or cubic m)",
+                                "Application Rate (t or cubic m/ha)"});
+    table.add_grid(applications, applications.data_row_count(),
+                   {col::field, col::soil, col::incorporation, col::manure, col::date, col::area, col::amount,
+                    col::rate});
     return table.lines();
 }
 

@@ -10,12 +10,8 @@ page_lines fields_table(const text_grid& fields) {
     for (int column = 0; column <= field_column::soil; ++column)
         headings.push_back({std::string(fields.columns()[static_cast<std::size_t>(column)].heading)});
     table.add_heading_row(headings);
-    for (int row = 0; row < fields.row_count(); ++row) {
-        std::vector<std::string> texts;
-        for (int column = 0; column <= field_column::soil; ++column)
-            texts.push_back(fields.cell(row, column));
-        table.add_row(texts);
-    }
+    table.add_grid(fields, fields.row_count(),
+                   {field_column::name, field_column::area, field_column::kel_area, field_column::soil});
     return table.lines();
 }
 

@@ -86,6 +86,14 @@ std::string value_cell(const report_cell& cell) {
     return cell_tag(cell, cell.align) + between(">", cell_text(cell), "</td>");
 }
 
+std::vector<report_cell> cells_of(const std::vector<std::string>& texts) {
+    std::vector<report_cell> cells;
+    cells.reserve(texts.size());
+    for (const std::string& text : texts)
+        cells.push_back({.text = text});
+    return cells;
+}
+
 }  // namespace
 
 page_lines report_heading(std::string_view text) {
@@ -107,6 +115,10 @@ void report_table::add_heading_row(const std::vector<report_cell>& cells) {
     rows_.emplace_back("</tr>");
 }
 
+void report_table::add_heading_row(const std::vector<std::string>& texts) {
+    add_heading_row(cells_of(texts));
+}
+
 void report_table::add_row(const std::vector<report_cell>& cells) {
     rows_.emplace_back("<tr>");
     for (const report_cell& cell : cells)
@@ -115,11 +127,16 @@ void report_table::add_row(const std::vector<report_cell>& cells) {
 }
 
 void report_table::add_row(const std::vector<std::string>& texts) {
-    std::vector<report_cell> cells;
-    cells.reserve(texts.size());
-    for (const std::string& text : texts)
-        cells.push_back({.text = text});
-    add_row(cells);
+    add_row(cells_of(texts));
+}
+
+void report_table::add_grid(const text_grid& grid, int rows, const std::vector<int>& columns) {
+    for (int row = 0; row < rows; ++row) {
+        std::vector<report_cell> cells;
+        for (const int column : columns)
+            cells.push_back({.text = grid.cell(row, column)});
+        add_row(cells);
+    }
 }
 
 page_lines report_table::lines() const {
@@ -127,6 +144,13 @@ page_lines report_table::lines() const {
     append(table, rows_);
     table.emplace_back("</table>");
     return table;
+}
+
+page_lines label_table(const std::vector<std::pair<std::string, std::string>>& rows) {
+    report_table table;
+    for (const auto& [label, text] : rows)
+        table.add_row(std::vector<std::string>{label, text});
+    return table.lines();
 }
 
 void append(page_lines& body, const page_lines& piece) {

@@ -4,9 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/dates.h"
+#include "core/text_grid.h"
 
 namespace kel {
 
@@ -29,13 +31,19 @@ struct report_cell {
 class report_table {
   public:
     void add_heading_row(const std::vector<report_cell>& cells);
+    void add_heading_row(const std::vector<std::string>& texts);
     void add_row(const std::vector<report_cell>& cells);
     void add_row(const std::vector<std::string>& texts);
+    /// These columns of the grid's first `rows` rows.
+    void add_grid(const text_grid& grid, int rows, const std::vector<int>& columns);
     page_lines lines() const;
 
   private:
     page_lines rows_;
 };
+
+/// A table of two columns: what it is, and its figure or text.
+page_lines label_table(const std::vector<std::pair<std::string, std::string>>& rows);
 
 /// Joins pieces in order.
 void append(page_lines& body, const page_lines& piece);

@@ -1,6 +1,7 @@
 #include "reports/report_page.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 
 #include "core/file_error.h"
@@ -38,6 +39,20 @@ TEST(ReportTable, CellsCarryTheirLayoutAndEmptyOnesKeepTheirBorder) {
     EXPECT_EQ(page_lines(lines.begin() + 5, lines.end()),
               (page_lines{"<tr>", "<td width=12% align=right>3.5</td>", "<td>&nbsp;</td>", "</tr>", "<tr>",
                           "<td>North < Park & Bràigh</td>", "</tr>", "</table>"}));
+}
+
+TEST(ReportTable, ColumnsOfAGridComeInTheOrderAskedForWithoutTheEntryRow) {
+    constexpr std::array<grid_column, 3> columns{{{"A", "", column_kind::entered, 1},
+                                                  {"B", "", column_kind::carried, 1},
+                                                  {"C", "", column_kind::entered, 1}}};
+    text_grid grid(columns);
+    grid.set_row_count(2);
+    for (int column = 0; column < 3; ++column)
+        grid.set_cell(0, column, std::string(columns.at(static_cast<std::size_t>(column)).heading));
+    report_table table;
+    table.add_grid(grid, grid.data_row_count(), {2, 0});
+    EXPECT_EQ(table.lines(), (page_lines{"<table border=1 width=100% cellpadding=3 cellspacing=0>", "<tr>",
+                                         "<td>C</td>", "<td>A</td>", "</tr>", "</table>"}));
 }
 
 TEST_F(ReportPage, WritingReplacesTheWholeOldPageAndAFullDiscLeavesIt) {

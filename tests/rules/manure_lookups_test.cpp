@@ -1,6 +1,7 @@
 // Nitrogen of the applications as the requirement modules take it over.
 #include "rules/manure_lookups.h"
 
+#include "rules/manure_history.h"
 #include "tests/support/farm_files.h"
 
 namespace kel::test {
@@ -75,6 +76,28 @@ TEST_F(ManureLookups, NFromThePreviousSeasonNeedsALinkedFile) {
     EXPECT_EQ(n_from_previous_season(state, "Long Rig", end, std::nullopt), 3.5F);
     add_row(state.prev1_file, "Site", {{"Field Area ID", "Long Rig"}, {"End of season date", "2023-10-01"}});
     EXPECT_EQ(n_from_previous_season(state, "Long Rig", end, std::nullopt), 23.5F);
+}
+
+TEST_F(ManureLookups, HistoryHoldsTheYearsOfAFieldOldestFirst) {
+    link();
+    const auto spread = [](const std::string& file, const std::string& field, const std::string& day,
+                           const std::string& rate) {
+        row_values row{{"Field Area ID", field}, {"Manure Type", "slurry"}, {"Incorporation", "late"}};
+        row.emplace_back("Applic Rate", rate);
+        if (!day.empty()) row.emplace_back("Date", day);
+        add_row(file, "Manure_applic", row);
+    };
+    spread(state.assess_file, "Long Rig", "2025-03-01", "30.5");
+    spread(state.prev2_file, "Long Rig", "2023-03-02", "10");
+    spread(state.prev1_file, "Long Rig", "", "");
+    spread(state.prev1_file, "East Muir", "2024-03-02", "0");
+    const manure_history history(open_manure_years(state));
+    EXPECT_EQ(history.of("Long Rig"),
+              (std::vector<manure_application>{{"slurry", "late", "02/03/2023", "10"},
+                                               {"slurry", "late", "", ""},
+                                               {"slurry", "late", "01/03/2025", "30.5"}}));
+    EXPECT_TRUE(history.of("East Muir").empty()) << "its rates add up to 0";
+    EXPECT_TRUE(history.of("Low Moss").empty());
 }
 
 TEST_F(ManureLookups, ApplicationsOfAFieldAreFoundAndBadDatesNamed) {
