@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/dates.h"
 #include "core/installation.h"
@@ -59,8 +60,9 @@ struct application_state {
     year_limits limits{};
 
     picker_module picker_caller = picker_module::front;
-    screen_id viewer_back = screen_id::front;  // screen to show again when the viewer closes
-    std::string last_report_path;              // last report shown in the viewer
+    screen_id viewer_back = screen_id::front;       // screen to show again when the viewer closes
+    std::string last_report_path;                   // last report shown in the viewer
+    std::vector<std::string> last_report_pictures;  // that it shows beside the logo, in the report folder
     manure_opener manure_caller = manure_opener::front;
     std::string last_dir;  // last folder of a file dialog; not kept between runs
 

@@ -20,12 +20,14 @@ class busy_cursor {
 }  // namespace
 
 void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
-                     screen_id hidden_screen, screen_id back, viewer_request request) {
+                     screen_id hidden_screen, screen_id back, viewer_request request,
+                     std::vector<std::string> pictures) {
     request.page = desk.state.places.report(file_name);
     {
         const busy_cursor busy(desk.viewer);
         write_page(request.page, framed_page(body, desk.today(), desk.developer));
         desk.state.last_report_path = request.page;
+        desk.state.last_report_pictures = std::move(pictures);
         desk.viewer.hide_screen(hidden_screen);
         desk.viewer.show(request);
     }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/application_state.h"
 #include "reports/report_page.h"
@@ -37,8 +38,11 @@ struct report_desk {
 };
 
 /// Wait cursor, write the framed page into the report folder, show it, remember it, hide `hidden_screen`, set
-/// viewer_back to `back`. Throws file_error before anything is shown when the page cannot be written.
+/// viewer_back to `back`. `pictures` are the bare names of those that the page shows beside the logo, written
+/// into the report folder before; they travel with a copy of the page. Throws file_error before anything is
+/// shown when the page cannot be written.
 void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
-                     screen_id hidden_screen, screen_id back, viewer_request request = {});
+                     screen_id hidden_screen, screen_id back, viewer_request request = {},
+                     std::vector<std::string> pictures = {});
 
 }  // namespace kel

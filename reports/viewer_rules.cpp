@@ -19,11 +19,6 @@ std::string starting_folder(const application_state& state, const std::string& r
     return state.last_dir.empty() || report_folder.empty() ? documents_folder : report_folder;
 }
 
-// The target is replaced by a rename, so a file copied onto itself survives.
-void copy_over(const std::string& from, const std::string& to) {
-    copy_whole_file(from, to);
-}
-
 }  // namespace
 
 third_button third_button_of(std::string_view caption, int mode, const installation& places) {
@@ -44,10 +39,10 @@ void save_report(const application_state& state, prompts& person, std::string& r
         ".htm");
     if (chosen.empty()) return;
     report_folder = folder_of(chosen);
-    copy_over(state.last_report_path, chosen);
-    copy_over(join_path(state.places.program_folder, logo_file), join_path(report_folder, logo_file));
-    if (state.viewer_back == screen_id::storage)
-        copy_over(state.places.report(storage_chart_file), join_path(report_folder, storage_chart_file));
+    copy_whole_file(state.last_report_path, chosen);
+    copy_whole_file(join_path(state.places.program_folder, logo_file), join_path(report_folder, logo_file));
+    for (const std::string& picture : state.last_report_pictures)
+        copy_whole_file(state.places.report(picture), join_path(report_folder, picture));
 }
 
 }  // namespace kel

@@ -9,8 +9,6 @@
 
 namespace kel {
 
-inline constexpr std::string_view storage_chart_file = "rep_chart1.bmp";
-
 enum class third_button_action { back, contents, save };
 
 struct third_button {
@@ -22,9 +20,9 @@ struct third_button {
 /// By the button's caption; `mode` 1 leads to the contents of the guides, any other to that of the reports.
 third_button third_button_of(std::string_view caption, int mode, const installation& places);
 
-/// Asks for a file and copies the last report there, beside it the logo and, for the storage report, its
-/// chart. `report_folder` is the folder of the last save (empty: none yet) and becomes that of this one.
-/// Throws file_error naming the file that could not be copied; a report saved over itself stays as it is.
+/// Asks for a file and copies the last report there, beside it the logo and its own pictures. `report_folder`
+/// is the folder of the last save (empty: none yet) and becomes that of this one. Throws file_error naming
+/// the file that could not be copied; a report saved over itself stays as it is.
 void save_report(const application_state& state, prompts& person, std::string& report_folder,
                  const std::string& documents_folder);
 

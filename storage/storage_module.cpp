@@ -141,6 +141,8 @@ bool storage_module::close() {
 
 void storage_module::storage_report(report_desk& desk) {
     if (page_ != storage_page::plan) return;
+    std::vector<std::string> pictures;
+    if (plan_.balance()) pictures.emplace_back(storage_chart_file);
     generate_report(desk, storage_report_file,
                     kel::storage_report({.stores = stores_.stores(),
                                          .production = plan_.production(),
@@ -148,7 +150,7 @@ void storage_module::storage_report(report_desk& desk) {
                                          .balance = plan_.balance(),
                                          .rain_mm = rain_mm_,
                                          .dirty_water = water_.answers()}),
-                    screen_id::storage, screen_id::storage);
+                    screen_id::storage, screen_id::storage, {}, std::move(pictures));
 }
 
 }  // namespace kel

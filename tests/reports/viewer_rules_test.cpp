@@ -45,11 +45,11 @@ class SaveReport : public test::farm_test {
     std::string report_folder;
 };
 
-TEST_F(SaveReport, TwoFoldersGetThePicturesEachAndOnlyTheStorageReportItsChart) {
+TEST_F(SaveReport, TwoFoldersGetTheLogoEachAndAPageItsOwnPictures) {
     save_as("first/land.htm");
     EXPECT_FALSE(fs::exists(path("first/rep_chart1.bmp")));
     EXPECT_EQ(path("first"), report_folder);
-    state.viewer_back = screen_id::storage;
+    state.last_report_pictures = {"rep_chart1.bmp"};
     save_as("second/storage.htm");
     EXPECT_EQ("chart", file_text(path("second/rep_chart1.bmp")));
     for (const char* saved : {"first/land.htm", "second/storage.htm"}) {
@@ -75,7 +75,7 @@ TEST_F(SaveReport, FolderOfTheLastSaveCountsOnlyOnceAnyFolderIsRemembered) {
 }
 
 TEST_F(SaveReport, ReportSavedOverItselfStaysWhole) {
-    state.viewer_back = screen_id::storage;
+    state.last_report_pictures = {"rep_chart1.bmp"};
     state.places.program_folder = state.places.written_folder;
     write_file(path("tolmlogoscot.jpg"), "logo");
     save_as("KEL_report_land.htm");

@@ -75,6 +75,7 @@ TEST_F(StorageReport, SectionsComeInOrderWithTheirFigures) {
     EXPECT_EQ(row_of(report, "Total Slurry Spread (cubic m)")[3], "125");
     EXPECT_EQ(viewer.hidden, screen_id::storage);
     EXPECT_EQ(state.viewer_back, screen_id::storage);
+    EXPECT_EQ(state.last_report_pictures, texts{"rep_chart1.bmp"});
 }
 
 TEST_F(StorageReport, ConstantProductionReadsTheSameInEveryMonth) {
@@ -96,7 +97,9 @@ TEST_F(StorageReport, ConstantProductionReadsTheSameInEveryMonth) {
 TEST_F(StorageReport, WithoutStoresOnlyTheSpreadingIsReported) {
     open({{"Home", "10"}});
     walk_without_stores();
+    state.last_report_pictures = {"rep_chart1.bmp"};  // of another farm's report
     const std::string report = page();
+    EXPECT_TRUE(state.last_report_pictures.empty());
     EXPECT_EQ(report.find("Summary"), std::string::npos);
     EXPECT_EQ(report.find("Dirty Water"), std::string::npos);
     EXPECT_EQ(row_of(report, "Home")[0], "Home");
