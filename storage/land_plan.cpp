@@ -114,9 +114,11 @@ land_plan empty_land_plan() {
 land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told) {
     const known_fields known(fields);
     land_plan plan{text_grid(land_columns), text_grid(spreading_columns)};
+    std::vector<int> stored;  // looked up once for all rows
     const auto complete = [&](text_grid& land, int row, const recordset& source) {
         fill_empty_months(land, row);
-        load_grid_row(source, plan.spreading, plan.spreading.add_row());
+        if (stored.empty()) stored = stored_columns(source, plan.spreading);
+        load_grid_row(source, stored, plan.spreading, plan.spreading.add_row());
     };
     append_rows(db, "Land", plan.land, {.fields = &known, .complete = complete}, told);
     add_last_rows(plan);

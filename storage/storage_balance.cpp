@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/numbers.h"
 #include "storage/storage_messages.h"
 
 namespace kel {
@@ -22,8 +23,8 @@ float percent_of(double content, double capacity) {
 }
 
 std::string_view warning_of(float largest_percent) {
-    if (largest_percent > 150) return storage_messages::over_150_percent;
-    if (largest_percent > 100) return storage_messages::over_100_percent;
+    if (exceeds_limit(largest_percent, 150)) return storage_messages::over_150_percent;
+    if (exceeds_limit(largest_percent, 100)) return storage_messages::over_100_percent;
     return {};
 }
 
@@ -41,7 +42,7 @@ std::optional<storage_balance> build_balance(const store_totals& stores, const m
         balance.largest_percent = std::max(balance.largest_percent, balance.percent[month]);
     }
     balance.warning = warning_of(balance.largest_percent);
-    if (balance.largest_percent > 100) balance.axis = exceeded_axis;
+    if (!balance.warning.empty()) balance.axis = exceeded_axis;
     return balance;
 }
 

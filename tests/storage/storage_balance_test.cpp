@@ -41,6 +41,7 @@ TEST(StorageBalance, WarningAndAxisFollowTheLargestPercentage) {
         percent_axis axis;
     } cases[] = {
         {100, "", {std::nullopt, 10}},
+        {100.00001F, "", {std::nullopt, 10}},  // behind what a person would work out
         {100.1F, storage_messages::over_100_percent, {150, 6}},
         {150, storage_messages::over_100_percent, {150, 6}},
         {150.1F, storage_messages::over_150_percent, {150, 6}},
