@@ -45,6 +45,12 @@ int text_grid::find(int column, std::string_view text) const {
     return -1;
 }
 
+bool text_grid::in_other_row(int row, int column, std::string_view text) const {
+    for (int other = 0; other < row_count(); ++other)
+        if (other != row && cell(other, column) == text) return true;
+    return false;
+}
+
 float text_grid::sum(int column, int rows) const {
     float total = 0;
     for (int row = 0; row < rows; ++row)

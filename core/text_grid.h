@@ -51,6 +51,8 @@ class text_grid {
 
     /// First row whose cell equals `text`, or -1.
     int find(int column, std::string_view text) const;
+    /// Whether another row than this one has the text in the column.
+    bool in_other_row(int row, int column, std::string_view text) const;
     /// Single precision sum of a column over the first `rows` rows.
     float sum(int column, int rows) const;
 

@@ -108,6 +108,15 @@ page_lines report_paragraph(std::string_view text) {
     return {between("<p>", text, "</p>")};
 }
 
+page_lines report_list(const std::vector<std::string>& points) {
+    if (points.empty()) return {};
+    page_lines lines{"<ul>"};
+    for (const std::string& point : points)
+        lines.push_back(between("<li>", point, "</li>"));
+    lines.emplace_back("</ul>");
+    return lines;
+}
+
 void report_table::add_heading_row(const std::vector<report_cell>& cells) {
     rows_.emplace_back("<tr>");
     for (const report_cell& cell : cells)

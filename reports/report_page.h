@@ -18,6 +18,8 @@ using page_lines = std::vector<std::string>;
 page_lines report_heading(std::string_view text);
 page_lines report_section(std::string_view text);
 page_lines report_paragraph(std::string_view text);
+/// A list of points; nothing for an empty one.
+page_lines report_list(const std::vector<std::string>& points);
 
 struct report_cell {
     std::string text;

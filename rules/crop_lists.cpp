@@ -151,6 +151,13 @@ std::optional<std::string_view> previous_crop_code(std::string_view name) {
     return std::nullopt;
 }
 
+std::string_view previous_crop_name(std::string_view code) {
+    if (code.empty()) return {};
+    for (const crop& row : load_crop_catalogue())
+        if (row.previous_code == code) return row.previous_name;
+    return {};
+}
+
 std::span<const potato_type> potato_types() {
     return potatoes;
 }

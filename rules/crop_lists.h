@@ -17,6 +17,8 @@ std::span<const std::string_view> ley_list();
 /// Code of a name of the previous crop list ("Spring barley": "SB"); nothing for a name that the list does
 /// not offer.
 std::optional<std::string_view> previous_crop_code(std::string_view name);
+/// The name behind such a code; empty for a code that the catalogue does not have.
+std::string_view previous_crop_name(std::string_view code);
 
 struct potato_type {
     std::string_view name;

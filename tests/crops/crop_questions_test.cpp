@@ -1,0 +1,127 @@
+// The chain of questions of each crop, and what the answers write.
+#include "crops/crop_questions.h"
+
+#include "rules/crop_lists.h"
+#include "tests/crops/crops_fixture.h"
+
+namespace kel::test {
+
+namespace {
+
+class CropQuestions : public crops_test {
+  protected:
+    void SetUp() override {
+        open({{"North", "5", "Sands"}}, wet_winter);
+        module.enter_field(0, "North");
+        follow(0, "Winter wheat");
+    }
+    /// The captions of the boxes that follow as the first answer is always chosen.
+    texts chain(const std::string& crop) {
+        texts captions;
+        outcome step = plan(0, crop);
+        while (step.next) {
+            captions.push_back(step.next->caption);
+            EXPECT_EQ(step.next->box, box_id(crop_box::question));
+            step = module.enter_answer(0, chosen(0));
+        }
+        EXPECT_TRUE(step.closes);
+        return captions;
+    }
+};
+
+}  // namespace
+
+TEST_F(CropQuestions, ComeInTheOrderOfTheCropAndEndInTheTable) {
+    using namespace crop_messages;
+    const auto asked = [](std::initializer_list<std::string_view> captions) {
+        return texts(captions.begin(), captions.end());
+    };
+    const std::pair<std::string, texts> crops[] = {
+        {"Winter wheat", asked({wheat_market_question, take_all_question, spring_question})},
+        {"Winter barley", asked({barley_market_question, spring_question})},
+        {"Winter oilseed rape", asked({spring_question})},
+        {"Winter oats", asked({spring_question})},
+        {"Triticale", asked({spring_question})},
+        {"Spring barley (feed or high N malting)",
+         asked({undersowing_question, delay_question, spring_question})},
+        {"Spring barley (low N malting)", asked({undersowing_question, delay_question, spring_question})},
+        {"Spring oats", asked({undersowing_question, delay_question, spring_question})},
+        {"Spring oilseed rape", asked({turnip_rape_question, spring_question})},
+        {"Potatoes", asked({potato_caption, variety_question, spring_question})},
+        {"Direct sown grass and grass/clover (spring sown)", asked({grass_question})},
+        {"Direct sown grass and grass/clover (autumn sown)", asked({grass_question})},
+    };
+    int questioned = 0;
+    for (const std::string_view name : planned_crop_list()) {
+        const auto* row = std::find_if(std::begin(crops), std::end(crops),
+                                       [&](const auto& crop) { return crop.first == name; });
+        const bool is_asked = row != std::end(crops);
+        EXPECT_EQ(chain(std::string(name)), is_asked ? row->second : texts{}) << name;
+        EXPECT_FALSE(cell(0, col::planned_crop).empty()) << name;
+        questioned += is_asked ? 1 : 0;
+    }
+    EXPECT_EQ(questioned, 12);
+}
+
+TEST_F(CropQuestions, AnswersWriteTheirFiguresAndWords) {
+    plan(0, "Winter barley");
+    module.enter_answer(0, chosen(1));
+    EXPECT_EQ(cells(0, col::notes_ww, col::market), (texts{"", "malt for distilling", "-50"}));
+    module.enter_answer(0, chosen(0));
+    EXPECT_EQ(cells(0, col::spring_rain, col::spring_status), (texts{"15", "", "High"}));
+
+    plan(0, "Spring barley (low N malting)");
+    module.enter_answer(0, chosen(0));
+    person.expect(says::no_delay_length);
+    EXPECT_EQ(module.enter_answer(0, chosen(1, ".")), box_stays());
+    EXPECT_TRUE(module.enter_answer(0, chosen(1, "8")).next);
+    EXPECT_EQ(cells(0, col::undersowing, col::delayed_sowing), (texts{"-25", "-18"}));
+    EXPECT_EQ(module.enter_answer(0, chosen(1)), box_closes());
+    EXPECT_EQ(cells(0, col::spring_rain, col::spring_status), (texts{"0", "", "Low"}));
+
+    plan(0, "Spring oilseed rape");
+    module.enter_answer(0, chosen(0));
+    EXPECT_EQ(cell(0, col::turnip_rape), "-20");
+}
+
+TEST_F(CropQuestions, PotatoesAndGrassGetTheirCodeOnceItIsKnown) {
+    plan(0, "Carrots");
+    EXPECT_EQ(plan(0, "Potatoes").next->parts.front().choices,
+              (texts{"Dual purpose", "Punnets", "Seed", "Ware"}));
+    EXPECT_EQ(cell(0, col::planned_crop), "C");
+    person.expect(says::no_potato_type);
+    EXPECT_EQ(module.enter_answer(0, box_entry{{{}}}), box_stays());
+    EXPECT_TRUE(module.enter_answer(0, chosen(3)).next);
+    EXPECT_EQ(cell(0, col::planned_crop), "WPOT");
+    EXPECT_EQ(cell(0, col::winter_rain), "0");
+    module.enter_answer(0, chosen(2));
+    EXPECT_EQ(cell(0, col::variety), "-30");
+    EXPECT_EQ(module.click(0, col::planned_crop).parts.front().text, "Potatoes");
+
+    plan(0, "Direct sown grass and grass/clover (autumn sown)");
+    EXPECT_EQ(module.enter_answer(0, chosen(1)), box_closes());
+    EXPECT_EQ(cell(0, col::planned_crop), "G/C");
+}
+
+TEST_F(CropQuestions, AQuestionWithoutAnAnswerLeavesItsCellAndGoesOn) {
+    plan(0, "Winter wheat");
+    const box_entry nothing{{{}}};
+    EXPECT_EQ(module.enter_answer(0, nothing).next->caption, says::take_all_question);
+    EXPECT_EQ(module.enter_answer(0, nothing).next->instruction, says::spring_instruction);
+    EXPECT_EQ(module.enter_answer(0, nothing), box_closes());
+    EXPECT_EQ(cells(0, col::notes_ww, col::take_all), (texts{"", "", "", "", "", ""}));
+    EXPECT_EQ(cell(0, col::spring_status), "");
+}
+
+TEST_F(CropQuestions, TheSpringCellAsksForCropsThatAreNotAskedAndShowsItsAnswer) {
+    plan(0, "Forage maize");
+    EXPECT_EQ(cell(0, col::spring_status), "");
+    const opening question = module.click(0, col::spring_status);
+    EXPECT_EQ(question.instruction, says::spring_question);
+    EXPECT_EQ(question.parts.front().text, "");
+    EXPECT_EQ(module.enter_answer(0, chosen(0)), box_closes());
+    EXPECT_EQ(cells(0, col::spring_rain, col::spring_status), (texts{"20", "", "High"}));
+    EXPECT_EQ(module.click(0, col::spring_status).parts.front().text, says::more_than_200_mm);
+}
+
+}  // namespace kel::test
