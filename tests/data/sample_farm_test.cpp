@@ -11,6 +11,8 @@
 
 #include "core/numbers.h"
 #include "core/whole_file.h"
+#include "crops/crop_messages.h"
+#include "crops/crop_module.h"
 #include "inorganic/inorganic_messages.h"
 #include "inorganic/inorganic_module.h"
 #include "land/land_module.h"
@@ -19,6 +21,7 @@
 #include "manure/manure_module.h"
 #include "profile/profile_module.h"
 #include "rules/closed_periods.h"
+#include "rules/crop_lists.h"
 #include "storage/storage_module.h"
 #include "tests/support/farm_files.h"
 
@@ -46,6 +49,12 @@ struct agreeing_person : prompts {
     std::string file_to_open(const file_request&) override { return {}; }
     std::string file_to_save(const file_request&) override { return {}; }
     std::vector<message> told;
+};
+
+struct no_screens : screens {
+    void open(screen_id) override {}
+    void open_in_place_of(screen_id, screen_id) override {}
+    bool exists(screen_id) const override { return true; }
 };
 
 /// One year after the other stands open as it does in the program.
@@ -185,6 +194,88 @@ TEST_F(SampleFarm, InorganicRowsAreAsStep4WritesThem) {
         EXPECT_EQ(module.applications(), before) << year.path;
     }
     EXPECT_EQ(person.told, std::vector(person.told.size(), inorganic_messages::closed_period));
+}
+
+/// The answer by which a question writes what the row had before: its place and, of delayed sowing, the days.
+part_entry answer_of(const opening& asked, const text_grid& before, int row) {
+    const auto cell = [&](int column) { return before.cell(row, column); };
+    using namespace crop_messages;
+    const auto& choices = asked.parts.front().choices;
+    const auto place = [&](auto fits) {
+        int at = 0;
+        while (!fits(at))
+            ++at;
+        return part_entry{.text = choices.at(static_cast<std::size_t>(at)), .choice = at};
+    };
+    if (asked.caption == potato_caption)
+        return place([&](int at) {
+            return potato_types()[static_cast<std::size_t>(at)].code == cell(crop_column::planned_crop);
+        });
+    if (asked.caption == spring_question)
+        return place([&](int at) { return spring_status_of(at) == cell(crop_column::spring_status); });
+    if (asked.caption == delay_question) {
+        const float days = before.number(row, crop_column::delayed_sowing) / -1.5F;
+        return {.text = {}, .choice = days > 0 ? 1 : 0, .number = shortest_text(days)};
+    }
+    const crop_question question = asked.caption == wheat_market_question    ? crop_question::wheat_market
+                                   : asked.caption == barley_market_question ? crop_question::barley_market
+                                   : asked.caption == take_all_question      ? crop_question::take_all
+                                   : asked.caption == undersowing_question   ? crop_question::undersowing
+                                                                             : crop_question::variety;
+    return place([&](int at) {
+        const crop_answer& answer = answers_to(question)[static_cast<std::size_t>(at)];
+        const answer_columns columns = columns_of(question);
+        return std::to_string(answer.value) == cell(columns.figure) &&
+               (columns.word < 0 || answer.word == cell(columns.word));
+    });
+}
+
+TEST_F(SampleFarm, CropRowsAreAsTheCropsModuleWritesThemWithTheirRecommendations) {
+    no_screens others;
+    std::set<std::string> planned;
+    for (const sample_year& year : sample_years()) {
+        const std::string copy = path(std::to_string(year_of(year.start)) + ".kel");
+        copy_whole_file(year.path, copy);
+        state.prev2_file = state.prev1_file;
+        open(copy, year.start);
+        crop_module module(state, person, others);
+        module.open();
+        ASSERT_TRUE(module.enter_winter_rain(module.winter_answer()));
+        const text_grid before = module.crops();
+        ASSERT_GT(before.data_row_count(), 0);
+        for (int row = 0; row < before.data_row_count(); ++row) {
+            const auto cell = [&](int column) { return before.cell(row, column); };
+            const auto day = [&](int column) { return part_entry{.day = parse_date(cell(column))}; };
+            planned.insert(cell(crop_column::planned_crop));
+            EXPECT_TRUE(module.enter_field(row, cell(crop_column::field)).closes);
+            const std::string previous(previous_crop_name(cell(crop_column::previous_crop)));
+            EXPECT_TRUE(
+                module.enter_previous_crop(row, {{{.text = previous}, day(crop_column::previous_harvest)}})
+                    .closes);
+            const std::string name(planned_list_name(cell(crop_column::planned_crop)));
+            outcome step = module.enter_planned_crop(
+                row, {{{.text = name}, day(crop_column::harvest), day(crop_column::sowing)}});
+            EXPECT_TRUE(step.closes);
+            while (step.next)
+                step = module.enter_answer(row, {{answer_of(*step.next, before, row)}});
+            for (const int column : {crop_column::manures, crop_column::previous_manures}) {
+                const auto figure = module.transfer(row, column).changes;
+                EXPECT_EQ(figure.at(0).text, cell(column)) << cell(crop_column::field) << column;
+            }
+        }
+        EXPECT_EQ(module.crops(), before) << year.path;
+        const auto stored = by(year.path, "Recommendations", "Field Area ID", "N required");
+        ASSERT_TRUE(module.calculate());
+        module.back();
+        EXPECT_EQ(by(copy, "Recommendations", "Field Area ID", "N required"), stored);
+        for (int row = 0; row < module.results().row_count(); ++row)
+            EXPECT_EQ(stored.count(module.results().cell(row, crop_result_column::field)), 1U);
+    }
+    EXPECT_EQ(person.told, std::vector<message>{});
+    EXPECT_TRUE(planned.contains("WPOT") && planned.contains("CABS") && planned.contains("BROC"));
+    EXPECT_GE(planned.size(), 5U);
+    EXPECT_EQ(by(sample_years()[1].path, "Recommendations", "Field Area ID", "N required").at("Station Park"),
+              "30 - 0");
 }
 
 TEST(SampleChain, FirstCropsFollowLastYearsSecondCropsButForOneField) {
