@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <stdexcept>
@@ -27,6 +28,13 @@ bool presses_button(const QEvent& event) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+// What a farm is called must never be read as markup. Tool tips are escaped by plain_tip, so that they wrap.
+void show_plainly(QObject* receiver) {
+    auto* label = qobject_cast<QLabel*>(receiver);
+    if (label && label->textFormat() == Qt::AutoText && !label->inherits("QTipLabel"))
+        label->setTextFormat(Qt::PlainText);
+}
+
 }  // namespace
 
 message stop_box(const std::exception& failure) {
@@ -49,6 +57,7 @@ kel_application::kel_application(int& argc, char** argv) : QApplication(argc, ar
 
 bool kel_application::notify(QObject* receiver, QEvent* event) {
     try {
+        if (event->type() == QEvent::Polish) show_plainly(receiver);
         auto* button = presses_button(*event) ? qobject_cast<QPushButton*>(receiver) : nullptr;
         if (!button) return QApplication::notify(receiver, event);
         button->click();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
@@ -47,10 +48,16 @@ answer answer_of(int pressed, message_buttons buttons) {
     return buttons == message_buttons::ok ? answer::ok : answer::cancel;
 }
 
-// A file name of ten thousand characters must not push the buttons off the screen.
+// Neither a file name of ten thousand characters nor a list of a thousand fields may push the buttons off the
+// screen.
 QString readable(std::string_view text) {
     constexpr qsizetype longest = 2500;
+    constexpr qsizetype most_lines = 24;
     QString shown = qt(text).replace("\r\n", "\n");
+    const qsizetype lines = shown.count('\n') + 1;
+    if (lines > most_lines)
+        shown = shown.section('\n', 0, most_lines - 2) +
+                QObject::tr("\n... and %1 more").arg(lines - most_lines + 1);
     if (shown.size() > longest) shown = shown.left(longest / 2) + " ... " + shown.right(longest / 2);
     return shown;
 }
@@ -88,8 +95,9 @@ class list_dialog : public QDialog {
     }
 };
 
+// A folder that is gone would leave its last part in the dialog as the name of a file.
 QString shown_folder(const std::string& folder) {
-    return folder.empty() ? QDir::homePath() : qt(folder);
+    return QFileInfo(qt(folder)).isDir() ? qt(folder) : QDir::homePath();
 }
 
 }  // namespace

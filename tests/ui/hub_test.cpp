@@ -1,8 +1,10 @@
 // The assessments screen: what it refuses, what this version lacks, how it ends.
 #include <QAbstractButton>
 #include <QAction>
+#include <QHelpEvent>
 #include <QMap>
 #include <QSignalSpy>
+#include <QToolTip>
 
 #include "shell/assessments_messages.h"
 #include "tests/ui/screen_fixture.h"
@@ -87,6 +89,29 @@ TEST_F(Hub, MnemonicsOfAViewAreUnique) {
     press("profile", "cmdProfile_cancel");
     press("front", "cmdFront_land");
     look_with_box("land", "MSFlexGridLand");
+}
+
+// A name that looks like markup could have a file read that never ends.
+TEST_F(Hub, NamesThatLookLikeMarkupAreShownAsTheyStand) {
+    const std::string name = "<img src=/dev/zero> a field of a name so long that its cell cuts it off";
+    start_with({{name, "15"}});
+    for (const screen_id id : {screen_id::land, screen_id::storage, screen_id::manure, screen_id::inorganic,
+                               screen_id::profile, screen_id::years, screen_id::about}) {
+        run->open(id);
+        drive::settle();
+        for (const auto* label : run->screen(id)->findChildren<QLabel*>()) {
+            if (!label->isVisible()) continue;
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << from_qt(label->text());
+        }
+        for (auto* table : run->screen(id)->findChildren<grid_view*>()) {
+            if (!table->isVisible() || cell(table, 0, 0) != name) continue;
+            const QPoint place = table->visualRect(table->model()->index(0, 0)).center();
+            QHelpEvent hover(QEvent::ToolTip, place, table->viewport()->mapToGlobal(place));
+            QApplication::sendEvent(table->viewport(), &hover);
+            EXPECT_EQ(QToolTip::text(), plain_tip(qt(name))) << from_qt(table->objectName());
+            QToolTip::hideText();
+        }
+    }
 }
 
 }  // namespace kel::test

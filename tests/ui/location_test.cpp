@@ -54,6 +54,16 @@ TEST_F(Location, AClickFindsTheZoneOfTheColourThatIsSeenThere) {
     }
 }
 
+TEST_F(Location, ShowsCoordinatesAndSquareUnderThePointer) {
+    open_map();
+    EXPECT_NE(label("lblScotland_pointer").find("x 2671, y 2686; square 20, 20"), std::string::npos)
+        << label("lblScotland_pointer");
+    map->setFocus();
+    press_key(Qt::Key_Right);
+    press_key(Qt::Key_Up, 2);
+    EXPECT_NE(label("lblScotland_pointer").find("x 2802, y 2424; square 21, 18"), std::string::npos);
+}
+
 TEST_F(Location, EnterRefusesTheSeaAndAZoneWithoutATown) {
     open_map();
     person.expect(profile_messages::no_kel);

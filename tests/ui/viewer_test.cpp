@@ -62,6 +62,26 @@ TEST_F(Viewer, WebAddressesAreHandedToTheDesktop) {
     QDesktopServices::unsetUrlHandler("https");
 }
 
+TEST_F(Viewer, BackTakesOnePressAlsoBehindALinkWithinThePage) {
+    write_file(path("first.htm"), "<p><a href='#end'>to the end</a></p>" + std::string(90, '\n') +
+                                      "<p style='margin-top:4000px'><a name='end'>The end</a></p>");
+    write_file(path("second.htm"), "<p>Second</p>");
+    start();
+    run->show({path("first.htm"), "Back", 0});
+    press_key(Qt::Key_Tab);
+    press_key(Qt::Key_Return);
+    EXPECT_EQ(page()->source().fragment(), "end");
+    press("viewer", "Command8");
+    EXPECT_EQ(page()->source().fragment(), "");
+    EXPECT_EQ(page_file(), path("first.htm"));
+    run->show({path("second.htm"), "Back", 0});
+    press("viewer", "Command8");
+    EXPECT_EQ(page_file(), path("first.htm"));
+    write_file(path("first.htm"), "<p>Written anew</p>");
+    run->show({path("first.htm"), "Back", 0});
+    EXPECT_EQ(page()->toPlainText(), "Written anew");
+}
+
 TEST_F(Viewer, AMissingPageIsNamedAsItIsSpelled) {
     start();
     run->show({path("no <i>such page.htm"), "Save", 0});

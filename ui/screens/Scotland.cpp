@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "profile/profile_messages.h"
 #include "ui/screens/map_view.h"
@@ -155,8 +156,12 @@ void Scotland::click_map() {
 
 void Scotland::refresh_pointer() {
     const map_square square = module_.square();
-    pointer_->setText(
-        tr("%1\nsquare %2, %3").arg(place_text(module_.pointer_place())).arg(square.x).arg(square.y));
+    pointer_->setText(tr("%1\nx %2, y %3; square %4, %5")
+                          .arg(place_text(module_.pointer_place()))
+                          .arg(std::lround(module_.pointer_x()))
+                          .arg(std::lround(module_.pointer_y()))
+                          .arg(square.x)
+                          .arg(square.y));
     map_->setCursor(module_.custom_pointer() ? Qt::CrossCursor : Qt::ArrowCursor);
 }
 

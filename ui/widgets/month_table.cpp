@@ -1,8 +1,6 @@
 #include "ui/widgets/month_table.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
-#include <QToolTip>
 #include <algorithm>
 
 #include "core/numbers.h"
@@ -69,18 +67,6 @@ QString month_table::fitting_figure(const QModelIndex& index) const {
     for (const int decimals : {2, 1})
         if (QString text = QString::number(figure, 'f', decimals); fits(index, text)) return text;
     return QString::number(figure, 'f', 0);
-}
-
-// What its cell cuts off can be read in full under the pointer.
-bool month_table::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                            const QModelIndex& index) {
-    const QString text = index.data().toString();
-    const bool cut =
-        option.fontMetrics.horizontalAdvance(text) + padding_px > grid_.visualRect(index).width();
-    if (event->type() != QEvent::ToolTip || !cut)
-        return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), text, view);
-    return true;
 }
 
 }  // namespace kel

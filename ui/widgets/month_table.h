@@ -27,9 +27,6 @@ class month_table : public QStyledItemDelegate {
     /// Call it after each refresh of the grid: rows of labels may have moved.
     void refresh();
 
-    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                   const QModelIndex& index) override;
-
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 

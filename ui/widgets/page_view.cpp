@@ -21,7 +21,10 @@ page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
 
 bool page_view::navigate(const QString& page) {
     const bool web = page.startsWith("http://") || page.startsWith("https://");
-    return follow(web ? QUrl(page) : QUrl::fromLocalFile(page));
+    if (!follow(web ? QUrl(page) : QUrl::fromLocalFile(page))) return false;
+    // A report made anew has the address of the one before it.
+    if (!web) reload();
+    return true;
 }
 
 bool page_view::follow(const QUrl& url) {
@@ -37,8 +40,6 @@ bool page_view::follow(const QUrl& url) {
         return false;
     }
     setSource(url);
-    // A report made anew has the address of the one before it.
-    reload();
     return true;
 }
 
