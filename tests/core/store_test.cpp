@@ -194,6 +194,23 @@ TEST_F(Store, FilesAndTablesFarBeyondAnyFarmAreRefused) {
     EXPECT_EQ(trouble_with([&] { database(state.assess_file); }), "it is too large for an assessment.");
 }
 
+TEST_F(Store, ASavedFileIsOnePlainFileWhateverItsJournalWas) {
+    open_farm({});
+    run_sql(state.assess_file, "PRAGMA journal_mode = WAL");
+    save_items(state.assess_file, items(1, "v"));
+    const std::string header = file_text(state.assess_file).substr(18, 2);
+    EXPECT_EQ(header, "\x01\x01") << "read and written with a rollback journal";
+    EXPECT_FALSE(std::filesystem::exists(state.assess_file + "-wal"));
+}
+
+TEST_F(Store, ACopyTakesAwayTheJournalThatItsTargetLeft) {
+    open_farm({{"North", "4"}});
+    write_file(path("copy.kel-journal"), "of the file that was here");
+    copy_whole_file(state.assess_file, path("copy.kel"));
+    EXPECT_FALSE(std::filesystem::exists(path("copy.kel-journal")));
+    EXPECT_EQ(column_of(path("copy.kel"), "Field Data", "Field Name").size(), 1U);
+}
+
 TEST_F(Store, ACopyOfAReadOnlyTemplateCanBeWritten) {
     const std::string protected_file = make_farm("template.kel", {});
     std::filesystem::permissions(protected_file, std::filesystem::perms::owner_read);

@@ -92,6 +92,7 @@ TEST_F(CalendarPick, ClosedDaysOverwriteTheCommentByZoneAndSecondCrop) {
     };
     const std::string reason = "Reason for application during closed period: ";
     EXPECT_EQ(comment_of(0, make_date(19, 12, 2004), true), reason);
+    EXPECT_EQ(comment_of(0, make_date(19, 12, 2005), true), reason) << "the last day of the calendar";
     EXPECT_EQ(comment_of(0, make_date(16, 2, 2005), false), "kept");
     EXPECT_EQ(comment_of(0, make_date(14, 9, 2005), true), reason);
     EXPECT_EQ(comment_of(1, make_date(14, 9, 2005), false), "kept");

@@ -20,7 +20,8 @@ TEST_F(LandEdit, WhiteCellsOpenTheirBoxAndGreyOnesSayWhy) {
 TEST_F(LandEdit, FieldIsRefusedWhenMissingOrInAnotherRowAndBringsSoilAndSize) {
     open({{"Long Rig", "15", "Sandy loams"}, {"East \"Muir\" <x>", "8.25", "Peaty soils"}});
     ASSERT_TRUE(module.erase_land_row(1).closes);
-    person.expect(says::no_field_id).expect(says::field_in_grid);
+    person.expect(says::no_field_id).expect(says::no_field_id).expect(says::field_in_grid);
+    EXPECT_FALSE(module.enter_field(0, "").closes);  // though the entry row has no name either
     EXPECT_FALSE(module.enter_field(1, "").closes);
     EXPECT_FALSE(module.enter_field(1, "Long Rig").closes);
     EXPECT_EQ(land(1, land_col::field), "");

@@ -80,6 +80,7 @@ TEST_F(LandFile, SaveWritesBothTablesAndLeavesEmptyCellsUnset) {
     EXPECT_EQ(stored("Land", "Area Not In Grass (ha)"), (texts{"5", ""}));
     EXPECT_EQ(stored("Land", "Buffer Areas To Be Deducted (ha)"), (texts{"0", "0"}));
     EXPECT_EQ(stored("Land", "Slope Areas To Be Deducted (ha)"), (texts{"1.5", "0"}));
+    EXPECT_EQ(stored("Land", "Other Areas To Be Deducted (ha)"), (texts{"0", "0"}));
     EXPECT_EQ(stored("Land", "Available Field Area (ha)"), (texts{"13.50", ""}));
     EXPECT_EQ(stored("Land", "Soil"), (texts{"Sandy loams", "Other mineral soils"}));
     EXPECT_EQ(stored("Land_animals", "Stock Unit"), (texts{"1 sheep", "1 suckler cow"}));

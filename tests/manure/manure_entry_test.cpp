@@ -142,6 +142,9 @@ TEST_F(ManureEntry, ClosedMonthsAndMissingLandAreAskedAbout) {
     choose(0, layer, "Over 24 hours");
     const date october = make_date(3, 10, 2025);
     const date december = make_date(3, 12, 2025);
+    // Outside the year nothing is asked about the land.
+    person.expect(says::invalid_date("The date entered is not within the KEL year being assessed!"));
+    EXPECT_FALSE(module.enter_date(0, make_date(3, 10, 2026)).closes);
     person.expect(says::closed_period, answer::no);
     EXPECT_FALSE(module.enter_date(0, october).closes);
     person.expect(says::closed_period, answer::yes).expect(says::no_land_available, answer::no);

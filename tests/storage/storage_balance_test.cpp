@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/numbers.h"
 #include "storage/dirty_water.h"
 #include "storage/slurry_production.h"
 #include "storage/storage_messages.h"
@@ -64,6 +65,16 @@ TEST(DirtyWater, EstimateFollowsTheMonthAndAnActualFigureAddsNothing) {
     EXPECT_FLOAT_EQ(water[3], 27.072F);
     EXPECT_EQ(monthly_dirty_water({.cows = "", .pig_pens = "", .actual = "30"}), monthly_values{});
     EXPECT_EQ(monthly_dirty_water({.cows = "50", .pig_pens = "4", .actual = "30"}), monthly_values{});
+}
+
+TEST(SlurryProduction, VolumesAreThoseOfThePrintedTable) {
+    double weighted = 0;  // a check sum over places and volumes: a slip or a swap changes it
+    int place = 0;
+    for (const slurry_unit& unit : slurry_units())
+        weighted += ++place * leading_number(unit.volume);
+    EXPECT_EQ(default_text(weighted), "33.2");
+    EXPECT_EQ(slurry_volume("1 bacon pig place (35-105 kg, liquid fed)"),
+              slurry_volume("1 maiden gilt (90-130 kg)"));
 }
 
 TEST(SlurryProduction, LineVolumeHasNoBinaryNoise) {

@@ -150,14 +150,18 @@ TEST_F(StorageFlow, SaveWritesTheTablesAndDecember) {
     walk_to_plan();
     ASSERT_TRUE(plan.enter_stock(1, "1 dairy cow (650 kg)").closes);
     ASSERT_TRUE(plan.enter_land_month(1, plan_column::january, "4").closes);
-    ASSERT_TRUE(plan.enter_slurry_applic(1, spreading_column::january, "25").closes);
+    for (int month = 0; month < 12; ++month)
+        ASSERT_TRUE(plan.enter_slurry_applic(1, spreading_column::january + month, std::to_string(25 + month))
+                        .closes);
     EXPECT_EQ(stored("Land", "January"), (texts{"", ""}));
     EXPECT_TRUE(module.save_storage());
     EXPECT_EQ(stored("Slurry_animals", "Stock Unit"), texts{"1 dairy cow (650 kg)"});
     EXPECT_EQ(stored("Slurry_animals", "Number"), texts{""});
     EXPECT_EQ(stored("Slurry_animals", "December"), texts{"Slurry"});
     EXPECT_EQ(stored("Land", "January"), (texts{"10", "4"}));
-    EXPECT_EQ(stored("Land", "Applic_January"), (texts{"", "25"}));
+    for (int month = 1; month <= 12; ++month)
+        EXPECT_EQ(stored("Land", "Applic_" + std::string(month_name(month))),
+                  (texts{"", std::to_string(24 + month)}));
     ASSERT_TRUE(module.save_storage());
     EXPECT_EQ(stored("Misc", "Value").size(), 1U);
     EXPECT_FLOAT_EQ(leading_single(stored("Misc", "Value")[0]), plan.balance()->percent[11]);
