@@ -76,6 +76,8 @@ class walk {
     void step2();
     void step3();
     void step4();
+    void crops();
+    void refused_malting_barley(grid_view* table);
     void reports();
     void help();
 
@@ -239,6 +241,50 @@ void walk::step4() {
     drive::press(inorganic, "cmdInorganic_cancel");
 }
 
+void walk::crops() {
+    drive::press(screen("front"), "cmdFront_crops");
+    QWidget* crops = screen("crop");
+    picture("crop", "crops_winter");
+    drive::press(crops, "cmdCrops_winter_rain");
+    picture("crop", "crops_table");
+    auto* table = drive::control<grid_view>(crops, "MSFlexGridCrops");
+    const int wheat = 2;
+    drive::click_cell(table, wheat, 2);
+    picture("crop", "crops_planned");
+    drive::press(crops, "cmdCrops_ccrop_enter");
+    picture("crop", "crops_question");
+    for (const char* answer : {"optCrops_question_2", "optCrops_question_1", "optCrops_question_2"}) {
+        drive::press(crops, answer);
+        drive::press(crops, "cmdCrops_question_enter");
+    }
+    drive::click_cell(table, wheat, 12);
+    drive::press(crops, "cmdCrops_manures_transfer");
+    picture("crop", "crops_manures");
+    drive::press(crops, "cmdCrops_manures_enter");
+    drive::click_cell(table, wheat, 3);
+    picture("crop", "crops_previous");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    refused_malting_barley(table);
+    drive::press(crops, "cmdCrops_continue");
+    picture("crop", "crops_result");
+    drive::press(crops, "cmdCrops_print");
+    picture("viewer", "crops_report");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(crops, "cmdCrops_back");
+    drive::press(crops, "cmdCrops_save");
+    drive::press(crops, "cmdCrops_cancel");
+}
+
+// A row for the wet ground, where this barley is not to be grown; the messages tell so.
+void walk::refused_malting_barley(grid_view* table) {
+    QWidget* crops = screen("crop");
+    const int row = table->model()->rowCount() - 1;
+    drive::enter_choice(crops, table, row, 0, "Crops_field", "Low Moss");
+    drive::enter_choice(crops, table, row, 2, "Crops_ccrop", "Spring barley (low N malting)");
+    drive::click_cell(table, row, 0);
+    drive::press(crops, "cmdCrops_field_erase");
+}
+
 void walk::reports() {
     drive::press(screen("front"), "cmdFront_edit");
     drive::press(screen("profile"), "cmdReport");
@@ -272,6 +318,7 @@ void walk::all() {
     step2();
     step3();
     step4();
+    crops();
     reports();
     help();
 }
