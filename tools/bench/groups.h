@@ -9,7 +9,7 @@
 // The start comes first: it measures the memory of children, and a child counts the memory of the process
 // that it was made from as its own until it has more.
 #define KEL_BENCH_GROUPS(group) \
-    group(start) group(land) group(profile) group(land_screen) group(manure) group(storage)
+    group(start) group(land) group(profile) group(land_screen) group(manure) group(storage) group(crops)
 
 namespace kel::bench {
 
