@@ -11,7 +11,8 @@ namespace kel {
 
 namespace {
 constexpr int cell_padding_px = 12;
-}
+constexpr int narrow_padding_px = 8;
+}  // namespace
 
 grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent)
     : QTableView(parent), model_(new grid_model(grid, this)) {
@@ -47,6 +48,17 @@ void grid_view::lay_out_columns() {
     }
     header->setFixedHeight(height + cell_padding_px);
     first_column_px_ = columnWidth(0);
+}
+
+void grid_view::narrow_column(int column, const QString& widest) {
+    const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int needed = std::max(horizontalHeader()->fontMetrics().horizontalAdvance(heading),
+                                fontMetrics().horizontalAdvance(widest));
+    setColumnWidth(column, needed + narrow_padding_px);
+}
+
+bool grid_view::fits(int column, const QString& text) const {
+    return fontMetrics().horizontalAdvance(text) + narrow_padding_px <= columnWidth(column);
 }
 
 // The first column, which holds names, takes the width that the others leave.

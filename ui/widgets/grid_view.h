@@ -24,6 +24,11 @@ class grid_view : public QTableView {
     /// The rows of the selection, at least the current one.
     row_range selected_rows() const;
 
+    /// Makes the column as narrow as its heading in one line and this text allow.
+    void narrow_column(int column, const QString& widest);
+    /// Whether a cell of the column shows the text in full.
+    bool fits(int column, const QString& text) const;
+
     /// Shows the grid as it now is and puts the current cell back within it.
     void refresh();
     void choose_cell(int row, int column);

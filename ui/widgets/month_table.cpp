@@ -1,6 +1,5 @@
 #include "ui/widgets/month_table.h"
 
-#include <QHeaderView>
 #include <algorithm>
 
 #include "core/numbers.h"
@@ -10,15 +9,14 @@
 namespace kel {
 
 namespace {
-constexpr int padding_px = 8;
 constexpr int months = 12;
-}  // namespace
+}
 
 month_table::month_table(grid_view& grid, const arrangement& arranged)
     : QStyledItemDelegate(&grid), grid_(grid), arranged_(arranged) {
     grid_.setItemDelegate(this);
     for (int m = 0; m < months; ++m)
-        fit_month(arranged_.first_month + m);
+        grid_.narrow_column(arranged_.first_month + m, arranged_.widest);
     refresh();
 }
 
@@ -34,13 +32,6 @@ void month_table::span_label(int row) {
     if (arranged_.first_month > 1) grid_.setSpan(row, 0, 1, arranged_.first_month);
 }
 
-void month_table::fit_month(int column) {
-    const QString heading = grid_.model()->headerData(column, Qt::Horizontal).toString();
-    const int needed = std::max(grid_.horizontalHeader()->fontMetrics().horizontalAdvance(heading),
-                                grid_.fontMetrics().horizontalAdvance(arranged_.widest));
-    grid_.setColumnWidth(column, needed + padding_px);
-}
-
 bool month_table::is_protected(int row) const {
     return row < arranged_.protected_at_top ||
            row >= grid_.model()->rowCount() - arranged_.protected_at_bottom;
@@ -54,18 +45,15 @@ void month_table::initStyleOption(QStyleOptionViewItem* option, const QModelInde
         option->text = index.siblingAtColumn(arranged_.first_month - 1).data().toString();
         option->displayAlignment = Qt::AlignVCenter | Qt::AlignRight;
     }
-    if (index.column() >= arranged_.first_month && !fits(index, option->text))
+    if (index.column() >= arranged_.first_month && !grid_.fits(index.column(), option->text))
         option->text = fitting_figure(index);
-}
-
-bool month_table::fits(const QModelIndex& index, const QString& text) const {
-    return grid_.fontMetrics().horizontalAdvance(text) + padding_px <= grid_.columnWidth(index.column());
 }
 
 QString month_table::fitting_figure(const QModelIndex& index) const {
     const double figure = leading_number(from_qt(index.data().toString()));
     for (const int decimals : {2, 1})
-        if (QString text = QString::number(figure, 'f', decimals); fits(index, text)) return text;
+        if (QString text = QString::number(figure, 'f', decimals); grid_.fits(index.column(), text))
+            return text;
     return QString::number(figure, 'f', 0);
 }
 

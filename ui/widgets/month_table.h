@@ -1,7 +1,7 @@
 // What the three tables of the plan have in common: twelve month columns as narrow as their entries allow,
 // and rows that take no entries, set off from the others, whose label runs over the columns before the
 // months. Totals have single precision's many digits; one that its column cannot show in full is drawn with
-// fewer decimals and can be read in full under the pointer.
+// fewer decimals; under the pointer the grid shows it in full.
 #pragma once
 
 #include <QString>
@@ -33,8 +33,6 @@ class month_table : public QStyledItemDelegate {
   private:
     bool is_protected(int row) const;
     void span_label(int row);
-    void fit_month(int column);
-    bool fits(const QModelIndex& index, const QString& text) const;
     QString fitting_figure(const QModelIndex& index) const;
 
     grid_view& grid_;
