@@ -17,6 +17,10 @@ inline const message data_load_error{"Data Load Error",
 // Entry boxes of the grid.
 inline constexpr std::string_view enter_name = "Enter field name or ID.";
 inline constexpr std::string_view enter_area = "Enter area (ha).";
+/// Told in the box of an area or a soil over a range of rows; nothing for one.
+inline std::string fills_fields(int fields) {
+    return fields == 1 ? "" : "Goes into " + std::to_string(fields) + " selected fields.";
+}
 inline constexpr std::string_view select_soil = "Select soil type.";
 
 inline const message invalid_character{

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 #include <optional>
 #include <unordered_set>
 
@@ -11,6 +12,7 @@
 #include "profile/profile_file.h"
 #include "profile/profile_messages.h"
 #include "profile/profile_report.h"
+#include "rules/soils.h"
 
 namespace kel {
 
@@ -35,20 +37,6 @@ std::unordered_set<std::string> names_of(const text_grid& fields) {
 }
 
 }  // namespace
-
-std::string_view box_caption(profile_box box) {
-    switch (box) {
-        case profile_box::name:
-            return messages::enter_name;
-        case profile_box::area:
-            return messages::enter_area;
-        case profile_box::soil:
-            return messages::select_soil;
-        case profile_box::none:
-            break;
-    }
-    return {};
-}
 
 void profile_module::show_location() {
     farm_.location = state_.farm_town + " - " + state_.farm_zone;
@@ -79,63 +67,67 @@ void profile_module::new_farm() {
     year_list_enabled_ = true;
 }
 
-profile_box profile_module::click(int row, int column) const {
-    if (row < 0 || row >= fields_.row_count()) return profile_box::none;
+opening profile_module::click(int row, int row_selection, int column) const {
+    if (row < 0 || row >= fields_.row_count()) return {};
+    const std::string& shown = fields_.cell(row, column);
+    const std::string told = messages::fills_fields(std::abs(row_selection - row) + 1);
     switch (column) {
         case field_column::name:
-            return profile_box::name;
+            return {profile_box::name,
+                    messages::enter_name,
+                    {},
+                    {{.kind = part_kind::text, .text = shown, .not_typed = "'"}}};
         case field_column::area:
         case field_column::kel_area:
-            return profile_box::area;
+            return {profile_box::area, messages::enter_area, told, {{part_kind::number, shown}}};
         case field_column::soil:
-            return profile_box::soil;
+            return {profile_box::soil,
+                    messages::select_soil,
+                    told,
+                    {{part_kind::list, shown, choices_of(soils(), &soil_class::name)}}};
         default:
-            return profile_box::none;
+            return {};
     }
 }
 
-bool profile_module::enter_name(int row, const std::string& text) {
+outcome profile_module::enter_name(int row, const std::string& text) {
     const bool apostrophe = text.find('\'') != std::string::npos;
     // The row's own name counts: to leave a name as it is, the box is cancelled.
     const bool taken = fields_.find(field_column::name, text) >= 0;
-    if (apostrophe || taken) {
-        person_.tell(apostrophe ? messages::invalid_character : messages::name_exists);
-        return false;
-    }
+    if (apostrophe) return refuse(person_, messages::invalid_character);
+    if (taken) return refuse(person_, messages::name_exists);
     fields_.set_cell(row, field_column::name, text);
-    return true;
+    return box_closes();
 }
 
-bool profile_module::enter_area(int row, int row_selection, int column, const std::string& text) {
+outcome profile_module::enter_area(int row, int row_selection, int column, const std::string& text) {
     const auto [first, last] = std::minmax(row, row_selection);
     for (int r = first; r <= last; ++r) {
         if (column == field_column::area) fields_.set_cell(r, field_column::area, text);
         const bool larger = leading_single(text) > fields_.number(r, field_column::area);
         fields_.set_cell(r, field_column::kel_area, larger ? fields_.cell(r, field_column::area) : text);
     }
-    return true;
+    return box_closes();
 }
 
-bool profile_module::enter_soil(int row, int row_selection, const std::string& text) {
+outcome profile_module::enter_soil(int row, int row_selection, const std::string& text) {
+    if (text.empty()) return box_stays();
     const auto [first, last] = std::minmax(row, row_selection);
     for (int r = first; r <= last; ++r)
         fields_.set_cell(r, field_column::soil, text);
-    return true;
+    return box_closes();
 }
 
-bool profile_module::clear_cell(int row, int column) {
+outcome profile_module::clear_cell(int row, int column) {
     fields_.set_cell(row, column, {});
-    return true;
+    return box_closes();
 }
 
-bool profile_module::erase_row(int row) {
-    if (row < 0) {
-        person_.tell(messages::heading_row);
-        return false;
-    }
+outcome profile_module::erase_row(int row) {
+    if (row < 0) return refuse(person_, messages::heading_row);
     fields_.erase_row(row);
     show_field_count();
-    return true;
+    return box_closes();
 }
 
 std::string profile_module::create_caption() const {

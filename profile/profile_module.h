@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/entry.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "profile/farm_profile.h"
@@ -18,9 +19,6 @@ namespace kel {
 
 /// Entry boxes over the grid.
 enum class profile_box { none, name, area, soil };
-
-/// What the box asks for.
-std::string_view box_caption(profile_box box);
 
 enum class set_profile_result {
     refused,
@@ -56,15 +54,16 @@ class profile_module {
     void new_farm();
     void edit_existing() { year_list_enabled_ = false; }
 
-    // The grid. Rows count from 0 without the heading, which is row -1. An entry returns whether its box
-    // closes.
-    profile_box click(int row, int column) const;
-    bool enter_name(int row, const std::string& text);
-    /// Hectares, into all rows from `row` to `row_selection`, whichever is larger.
-    bool enter_area(int row, int row_selection, int column, const std::string& text);
-    bool enter_soil(int row, int row_selection, const std::string& text);
-    bool clear_cell(int row, int column);
-    bool erase_row(int row);
+    // The grid. Rows count from 0 without the heading, which is row -1. Areas and soils go into all rows from
+    // `row` to `row_selection`, whichever is larger.
+    opening click(int row, int row_selection, int column) const;
+    outcome enter_name(int row, const std::string& text);
+    /// Hectares.
+    outcome enter_area(int row, int row_selection, int column, const std::string& text);
+    /// Nothing chosen keeps the box open.
+    outcome enter_soil(int row, int row_selection, const std::string& text);
+    outcome clear_cell(int row, int column);
+    outcome erase_row(int row);
 
     std::string create_caption() const;
     void create_fields();

@@ -74,11 +74,11 @@ TEST_F(FieldEntry, PastedDuplicatesAreNamedInOneBoxAndLeftOut) {
 TEST_F(FieldEntry, NameIsTestedForApostropheAndThenForItsLike) {
     profile.paste_names("A\nB\nD'\n");
     person.expect(messages::invalid_character);
-    EXPECT_FALSE(profile.enter_name(0, "D'"));  // also a name that exists
+    EXPECT_FALSE(profile.enter_name(0, "D'").closes);  // also a name that exists
     person.expect(messages::name_exists).expect(messages::name_exists);
-    EXPECT_FALSE(profile.enter_name(0, "B"));
-    EXPECT_FALSE(profile.enter_name(0, "A"));
-    EXPECT_TRUE(profile.enter_name(0, "a"));
+    EXPECT_FALSE(profile.enter_name(0, "B").closes);
+    EXPECT_FALSE(profile.enter_name(0, "A").closes);
+    EXPECT_TRUE(profile.enter_name(0, "a").closes);
     EXPECT_EQ(listed(), "a;B;D';");
 }
 

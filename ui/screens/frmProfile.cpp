@@ -12,10 +12,9 @@
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
-#include "rules/soils.h"
-#include "ui/widgets/choice_list.h"
-#include "ui/widgets/entry_box.h"
+#include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
+#include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -46,8 +45,7 @@ frmProfile::frmProfile(profile_module& module, report_desk& desk, application_st
     layout->addWidget(field_entries());
     layout->addWidget(grid_, 1);
     layout->addWidget(main_buttons());
-    connect(grid_, &grid_view::cell_chosen, this, &frmProfile::open_box);
-    add_boxes();
+    add_entry_boxes();
     refresh();
 }
 
@@ -165,50 +163,36 @@ QWidget* frmProfile::main_buttons() {
     return panel;
 }
 
-void frmProfile::add_boxes() {
-    name_box_ = new entry_box("Profile_fname", *grid_, this);
-    QLineEdit* name_edit = name_box_->use_text_box();
-    name_edit->installEventFilter(this);
-    name_box_->on_enter(
-        [this] { return module_.enter_name(grid_->current_row(), name_box_->entered_text()); });
-
-    area_box_ = new entry_box("Profile_farea", *grid_, this);
-    area_box_->use_number_box();
-    area_box_->on_enter([this] {
+void frmProfile::add_entry_boxes() {
+    using module = profile_module;
+    const auto enter_area = [this](grid_cell at, const box_entry& typed) {
         const auto rows = grid_->selected_rows();
-        return module_.enter_area(rows.first, rows.last, grid_->current_column(), area_box_->entered_text());
-    });
-
-    soil_box_ = new entry_box("Profile_soil", *grid_, this);
-    QStringList names;
-    for (const soil_class& soil : soils())
-        names << qt(soil.name);
-    soil_box_->use_list(names);
-    soil_box_->on_enter([this] {
+        return module_.enter_area(rows.first, rows.last, at.column, typed.text());
+    };
+    const auto enter_soil = [this](grid_cell, const box_entry& typed) {
         const auto rows = grid_->selected_rows();
-        const auto soil = soil_box_->chosen();
-        return soil && module_.enter_soil(rows.first, rows.last, *soil);
-    });
-    for (entry_box* box : {name_box_, area_box_, soil_box_}) {
-        box->add_clear([this] { return module_.clear_cell(grid_->current_row(), grid_->current_column()); });
-        box->add_erase([this] { return module_.erase_row(grid_->current_row()); });
-        box->set_disabled_meanwhile(&main_buttons_);
-        connect(box, &entry_box::closed, this, &frmProfile::refresh);
+        return module_.enter_soil(rows.first, rows.last, typed.text());
+    };
+    const auto click = [this](int row, int column) {
+        const auto rows = grid_->selected_rows();
+        return module_.click(row, row == rows.first ? rows.last : rows.first, column);
+    };
+    const std::vector buttons{clear_button(runs(module_, &module::clear_cell)),
+                              erase_button(runs(module_, &module::erase_row))};
+    // clang-format off
+    auto* boxes = new box_set(*grid_, this);
+    for (const box_row& row : std::vector<box_row>{
+        {profile_box::name, "Profile_fname", runs(module_, &module::enter_name), buttons},
+        {profile_box::area, "Profile_farea", enter_area, buttons},
+        {profile_box::soil, "Profile_soil", enter_soil, buttons},
+    }) {
+        // clang-format on
+        boxes_.push_back(boxes->add(row));
+        boxes_.back()->set_disabled_meanwhile(&main_buttons_);
+        connect(boxes_.back(), &entry_box::closed, this, &frmProfile::refresh);
     }
-}
-
-void frmProfile::open_box(int row, int column) {
-    const profile_box wanted = module_.click(row, column);
-    entry_box* box = nullptr;
-    if (wanted == profile_box::name) box = name_box_;
-    if (wanted == profile_box::area) box = area_box_;
-    if (wanted == profile_box::soil) box = soil_box_;
-    if (!box) return;
-    const auto rows = grid_->selected_rows();
-    const bool fills_range = box != name_box_ && rows.last > rows.first;
-    const QString told =
-        fills_range ? tr("Goes into %1 selected fields.").arg(rows.last - rows.first + 1) : QString();
-    box->open(qt(box_caption(wanted)), told, qt(module_.fields().cell(row, column)));
+    connect(grid_, &grid_view::cell_chosen, boxes,
+            [boxes, click](int row, int column) { boxes->open(click(row, column)); });
 }
 
 template <class Work>
@@ -242,7 +226,7 @@ void frmProfile::set_profile() {
 }
 
 void frmProfile::cancel() {
-    for (entry_box* box : {name_box_, area_box_, soil_box_})
+    for (entry_box* box : boxes_)
         box->close_box();
     // The assessments screen comes back even if the last assessment cannot be read any more.
     emit left();
@@ -260,8 +244,6 @@ bool frmProfile::eventFilter(QObject* watched, QEvent* event) {
             emit location_wanted();
             return true;
         }
-    } else if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->text() == "'") {
-        return true;  // no apostrophe in a field name; a pasted one is refused at Enter
     }
     return QWidget::eventFilter(watched, event);
 }

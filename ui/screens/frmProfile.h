@@ -39,8 +39,7 @@ class frmProfile : public QWidget {
     QWidget* farm_entries();
     QWidget* field_entries();
     QWidget* main_buttons();
-    void add_boxes();
-    void open_box(int row, int column);
+    void add_entry_boxes();
     void set_profile();
     void cancel();
     template <class Work>
@@ -58,9 +57,7 @@ class frmProfile : public QWidget {
     QGroupBox* year_frame_;
     QPushButton* create_;
     grid_view* grid_;
-    entry_box* name_box_;
-    entry_box* area_box_;
-    entry_box* soil_box_;
+    std::vector<entry_box*> boxes_;
     std::vector<QWidget*> main_buttons_;
 };
 

@@ -28,12 +28,6 @@ QStringList shown(const std::vector<std::string>& choices) {
     return texts;
 }
 
-void fill(QWidget* editor, QWidget* control) {
-    auto* layout = new QVBoxLayout(editor);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(control);
-}
-
 part_entry chosen(int place, const QString& text) {
     if (place < 0) return {};
     return {.text = from_qt(text), .choice = place};
@@ -45,7 +39,7 @@ list_editor::list_editor(const QString& name, bool alone, QWidget* parent)
     : entry_editor(parent), list_(new choice_list(this)), alone_(alone) {
     list_->setObjectName("lst" + name);
     list_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    fill(this, list_);
+    fill_with(list_);
     if (alone_) connect(list_, &QListWidget::itemDoubleClicked, this, &entry_editor::confirmed);
 }
 
@@ -77,7 +71,7 @@ std::vector<QWidget*> list_editor::stops() const {
 drop_down_editor::drop_down_editor(const QString& name, QWidget* parent)
     : entry_editor(parent), combo_(new QComboBox(this)) {
     combo_->setObjectName("cbo" + name);
-    fill(this, combo_);
+    fill_with(combo_);
 }
 
 void drop_down_editor::show_part(const entry_part& part) {
@@ -109,7 +103,7 @@ void options_editor::show_part(const entry_part& part) {
 }
 
 void options_editor::build(const entry_part& part) {
-    delete options_;
+    discard(options_);
     options_ = new QWidget(this);
     group_ = new QButtonGroup(options_);
     auto* lines = new QVBoxLayout(options_);
@@ -132,7 +126,9 @@ void options_editor::add_number(const QString& unit) {
     auto* last = group_->buttons().back();
     row->addWidget(last);
     row->addWidget(number_, 1);
-    row->addWidget(new QLabel(unit, options_));
+    auto* unit_label = new QLabel(unit, options_);
+    unit_label->setObjectName("lbl" + name_ + "_unit");
+    row->addWidget(unit_label);
     static_cast<QVBoxLayout*>(options_->layout())->addLayout(row);
     number_->setAccessibleName(last->text() + ' ' + unit);
     connect(number_, &QLineEdit::textChanged, last, [last](const QString& typed) {

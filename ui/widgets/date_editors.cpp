@@ -2,17 +2,10 @@
 
 #include <QCalendarWidget>
 #include <QDateEdit>
-#include <QVBoxLayout>
 
 namespace kel {
 
 namespace {
-
-void fill(QWidget* editor, QWidget* control) {
-    auto* layout = new QVBoxLayout(editor);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(control);
-}
 
 part_entry entry_of(QDate shown) {
     const date day = from_qt(shown);
@@ -45,7 +38,7 @@ date from_qt(QDate day) {
 
 calendar_editor::calendar_editor(const QString& name, bool alone, QWidget* parent)
     : entry_editor(parent), calendar_(new_calendar("cal" + name, this)) {
-    fill(this, calendar_);
+    fill_with(calendar_);
     if (alone) connect(calendar_, &QCalendarWidget::activated, this, &entry_editor::confirmed);
 }
 
@@ -67,7 +60,7 @@ day_editor::day_editor(const QString& name, QWidget* parent)
     edit_->setDisplayFormat("dd/MM/yyyy");
     edit_->setCalendarPopup(true);
     edit_->setCalendarWidget(new_calendar("cal" + name, edit_));
-    fill(this, edit_);
+    fill_with(edit_);
 }
 
 void day_editor::show_text(const std::string& text) {

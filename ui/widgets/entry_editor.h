@@ -2,6 +2,7 @@
 // click on a choice or on a day; among others it may not, since they are still to be answered.
 #pragma once
 
+#include <QVBoxLayout>
 #include <QWidget>
 #include <vector>
 
@@ -29,9 +30,24 @@ class entry_editor : public QWidget {
 
   signals:
     void confirmed();
+
+  protected:
+    /// For an editor that is one control.
+    void fill_with(QWidget* control) {
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(control);
+    }
 };
 
 /// The editor of a part in the box of this name, from which its controls take theirs.
 entry_editor* new_entry_editor(const entry_part& part, const QString& box, QWidget* parent);
+
+/// Takes a control out of its parent at once, and deletes it when no event can be under way in it any more.
+inline void discard(QWidget* control) {
+    if (!control) return;
+    control->setParent(nullptr);
+    control->deleteLater();
+}
 
 }  // namespace kel

@@ -49,26 +49,17 @@ void module_screen::add_missing_command(QBoxLayout* row, const QString& caption,
     row->addWidget(button);
 }
 
-entry_box* module_screen::new_box(const char* name, grid_view& grid) {
-    auto* box = new entry_box(name, grid, this);
-    adopt_box(box);
-    return box;
-}
-
 box_set* module_screen::add_boxes(grid_view& grid, const click_operation& click,
                                   const std::vector<box_row>& rows) {
     auto* boxes = new box_set(grid, this);
-    for (const box_row& row : rows)
-        adopt_box(boxes->add(row));
+    for (const box_row& row : rows) {
+        boxes_.push_back(boxes->add(row));
+        boxes_.back()->set_disabled_meanwhile(&main_controls_);
+        connect(boxes_.back(), &entry_box::closed, this, [this] { refresh(); });
+    }
     connect(&grid, &grid_view::cell_chosen, boxes,
             [boxes, click](int row, int column) { boxes->open(click(row, column)); });
     return boxes;
-}
-
-void module_screen::adopt_box(entry_box* box) {
-    box->set_disabled_meanwhile(&main_controls_);
-    connect(box, &entry_box::closed, this, [this] { refresh(); });
-    boxes_.push_back(box);
 }
 
 void module_screen::reload_all() {

@@ -56,16 +56,11 @@ class module_screen : public QWidget {
                              std::function<void()> action);
     /// A button for what this version lacks.
     void add_missing_command(QBoxLayout* row, const QString& caption, const QString& name);
-    /// An entry box over the grid, which refreshes this screen as it closes.
-    entry_box* new_box(const char* name, grid_view& grid);
     using click_operation = std::function<opening(int row, int column)>;
-    /// The boxes that a click in the grid opens.
+    /// The boxes that a click in the grid opens; the screen is refreshed as one closes.
     box_set* add_boxes(grid_view& grid, const click_operation& click, const std::vector<box_row>& rows);
     /// Keeps this control, too, disabled while a box is open.
     void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
-
-    /// For an entry box of a class of its own: the same care as new_box gives.
-    void adopt_box(entry_box* box);
 
   private:
     std::vector<QWidget*> main_controls_;
