@@ -1,9 +1,13 @@
 // The viewer: pages, its third button, links, and the screen that comes back.
 #include <QAbstractButton>
 #include <QDesktopServices>
+#include <QImage>
+#include <filesystem>
 
+#include "core/module_messages.h"
 #include "land/land_messages.h"
 #include "shell/years_messages.h"
+#include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
 #include "ui/widgets/page_view.h"
 
@@ -108,6 +112,41 @@ TEST_F(Viewer, ViewReportsLeavesAHiddenStep1WithWhatItLoadedThen) {
     ASSERT_TRUE(in_view("front"));
     press("front", "cmdFront_land");
     EXPECT_EQ(cell(grid("land", "MSFlexGridLand"), 0, 1), "9");
+}
+
+// The chart in the folder may be another farm's.
+TEST_F(Viewer, AStorageReportIsSavedWithItsChartAndWithoutOneWhenItHasNone) {
+    open_farm({{"Long Rig", "15"}});
+    add_row(state.assess_file, "Land", {{"Field Area ID", "Long Rig"}});
+    add_row(state.assess_file, "Store_in", {{"Water_cow", "50"}, {"Water_pig", "0"}});
+    add_row(state.assess_file, "Slurry_store",
+            {{"Store_name", "Pit"},
+             {"Store_shape", "Circular"},
+             {"Store_depth", "3"},
+             {"Store_circumference", "10"},
+             {"Store_%", "0"},
+             {"Rain_area", "78.5"}});
+    write_store(state);
+    start();
+    for (const bool with_stores : {true, false}) {
+        const std::string folder = path(with_stores ? "with" : "without");
+        std::filesystem::create_directory(folder);
+        run->open(screen_id::storage);
+        press("storage", "cmdStorage_continue");
+        if (!with_stores)
+            person.expect(storage_messages::no_stores, answer::yes)
+                .expect(storage_messages::capacity_not_assessed);
+        press("storage", "cmdStores_continue");
+        press("storage", "cmdReport");
+        person.expect_file("Save the report", folder + "/saved.htm");
+        press("viewer", "Command8");
+        EXPECT_TRUE(std::filesystem::exists(folder + "/saved.htm"));
+        EXPECT_EQ(QImage(qt(folder + "/rep_chart1.bmp")).size(), with_stores ? QSize(720, 340) : QSize(0, 0));
+        close_viewer();
+        person.expect(module_messages::close_module, answer::yes);
+        press("storage", "cmdStorage_cancel");
+        database(state.assess_file).delete_rows("Slurry_store");
+    }
 }
 
 TEST_F(Viewer, AHiddenStep1NeverShowsOneFarmsLandOverAnotherFarm) {
