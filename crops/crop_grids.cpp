@@ -17,7 +17,7 @@ constexpr auto carried = column_kind::carried;
 constexpr std::array<grid_column, 22> crop_columns{{
     // heading                                                       stored column                          kind        width  date
     {"Field Area ID",                                               "Field Area ID",                       entered,    20},
-    {"Soil Type",                                                   "Soil Type",                           calculated, 18},
+    {"Soil Type",                                                   "Soil Type",                           calculated, 22},
     {"Planned Crop",                                                "Next Crop",                           entered,    14},
     {"Previous Crop",                                               "Previous or Current Crop",            entered,    14},
     {"N Residue Group",                                             "N Residue Group",                     calculated, 9},
@@ -28,8 +28,8 @@ constexpr std::array<grid_column, 22> crop_columns{{
     {"Adjustment For Delayed Sowing (kg/ha)",                       "Delayed Sowing Adjustment (kg/ha)",   carried,    0},
     {"Adjustment For Take-all (kg/ha)",                             "Take-all Adjustment (kg/ha)",         carried,    0},
     {"Adjustment For Turnip Rape (kg/ha)",                          "Turnip Rape Adjustment (kg/ha)",      carried,    0},
-    {"Adjustment For Manure Applications (kg/ha)",                  "Manures Adjustment (kg/ha)",          entered,    18},
-    {"Adjustment For Manure Applications To Previous Crop (kg/ha)", "Previous Manures Adjustment (kg/ha)", entered,    22},
+    {"Adjustment For Manure Applications (kg/ha)",                  "Manures Adjustment (kg/ha)",          entered,    20},
+    {"Adjustment For Manure Applications To Previous Crop (kg/ha)", "Previous Manures Adjustment (kg/ha)", entered,    26},
     {"Adjustment For Winter Rainfall (kg/ha)",                      "Winter Rainfall Adjustment (kg/ha)",  carried,    0},
     {"Adjustment For Spring Rainfall (kg/ha)",                      "Spring Rainfall Adjustment (kg/ha)",  carried,    0},
     {"Adjustment For Variety (%)",                                  "Variety Adjustment (%)",              carried,    0},
@@ -43,12 +43,12 @@ constexpr std::array<grid_column, 22> crop_columns{{
 constexpr std::array<grid_column, 7> result_columns{{
     // heading            stored kind        width
     {"Field Area ID",     "",    calculated, 20},
-    {"Spring (kg/ha)",    "",    calculated, 13},
-    {"Seedbed (kg/ha)",   "",    calculated, 13},
-    {"Total (kg/ha)",     "",    calculated, 13},
+    {"Spring (kg/ha)",    "",    calculated, 15},
+    {"Seedbed (kg/ha)",   "",    calculated, 16},
+    {"Total (kg/ha)",     "",    calculated, 15},
     {"Crop requirement",  "",    calculated, 13},
     {"Manures",           "",    calculated, 10},
-    {"Notes",             "",    calculated, 60},
+    {"Notes",             "",    calculated, 96},
 }};
 // clang-format on
 static_assert(crop_columns[crop_column::residue_group].stored == "N Residue Group" &&

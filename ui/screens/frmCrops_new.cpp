@@ -43,6 +43,7 @@ QWidget* frmCrops_new::winter_page() {
     add_command(winter_->command_row(), tr("&Enter"), "cmdCrops_winter_rain",
                 [this] { enter_winter_rain(); });
     add_command(winter_->command_row(), tr("Cancel"), "cmdCrops_winter_rain_cancel", [this] { close(); });
+    winter_->command_row()->addStretch();
     connect(winter_, &question_page::confirmed, this, &frmCrops_new::enter_winter_rain);
     return winter_;
 }
@@ -87,7 +88,7 @@ void frmCrops_new::add_entry_boxes() {
     using module = crop_module;
     const auto run = [this](auto operation) { return runs(module_, operation); };
     const auto clear = [&](auto operation) { return clear_button(run(operation)); };
-    const box_button erase = erase_button(run(&module::erase_row));
+    const box_button erase{tr("Delete &Row"), "erase", run(&module::erase_row)};
     // clang-format off
     add_boxes(*grid_, [this](int row, int column) { return module_.click(row, column); }, {
         {crop_box::field, "Crops_field", run(&module::enter_field), {clear(&module::clear_field), erase}},
@@ -97,7 +98,7 @@ void frmCrops_new::add_entry_boxes() {
             {clear(&module::clear_previous_crop), erase}},
         {crop_box::manures, "Crops_manures", run(&module::enter_manures),
             {{tr("&Transfer data"), "transfer", run(&module::transfer)},
-             {tr("&Slurry and manure applications"), "applications", run(&module::open_manures)}}},
+             {tr("&Manure record"), "applications", run(&module::open_manures)}}},
         {crop_box::question, "Crops_question", run(&module::enter_answer)},
     });
     // clang-format on
