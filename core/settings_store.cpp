@@ -27,9 +27,47 @@ int next_integer(std::istream& store) {
     return value;
 }
 
+// One line holds one path. A path that would not fit into a line, or would be taken for something else,
+// stands in quotes with its line breaks spelled out.
+bool needs_quotes(const std::string& path) {
+    return path == "none" || path.front() == '"' || path.find_first_of("\r\n") != std::string::npos;
+}
+
+std::string slot_line(const std::string& path) {
+    if (path.empty()) return "none";
+    if (!needs_quotes(path)) return path;
+    std::string line = "\"";
+    for (const char c : path) {
+        if (c == '\n')
+            line += "\\n";
+        else if (c == '\r')
+            line += "\\r";
+        else if (c == '\\')
+            line += "\\\\";
+        else
+            line += c;
+    }
+    return line + '"';
+}
+
+std::string slot_path(const std::string& line) {
+    if (line == "none") return {};
+    if (line.empty() || line.front() != '"') return line;
+    std::string path;
+    for (std::size_t i = 1; i + 1 < line.size(); ++i) {
+        if (line[i] == '\\' && i + 2 < line.size()) {
+            ++i;
+            path += line[i] == 'n' ? '\n' : line[i] == 'r' ? '\r' : line[i];
+        } else {
+            path += line[i];
+        }
+    }
+    return path;
+}
+
 std::string next_slot(std::istream& store) {
-    std::string path = next_line(store);
-    if (path == "none" || check_assessment_file(path) == 0) path.clear();
+    std::string path = slot_path(next_line(store));
+    if (!path.empty() && check_assessment_file(path) == 0) path.clear();
     return path;
 }
 
@@ -91,7 +129,7 @@ void read_store(application_state& state) {
 }
 
 void write_store(const application_state& state) {
-    const auto slot = [](const std::string& path) { return (path.empty() ? "none" : path) + "\n"; };
+    const auto slot = [](const std::string& path) { return slot_line(path) + "\n"; };
     const auto number = [](int value) { return std::to_string(value) + "\n"; };
     write_whole_file(state.places.settings_store(),
                      number(state.no_link_prompt) + number(state.no_related_prompt) +

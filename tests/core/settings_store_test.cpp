@@ -16,7 +16,7 @@ class SettingsStore : public farm_test {
 
 TEST_F(SettingsStore, RoundTripKeepsTheChainAndTheFlags) {
     state.slot_current = make_farm("Braes of Ärd.kel", {});
-    state.slot_prev1 = make_farm("last year.kel", {}, 2023);
+    state.slot_prev1 = make_farm("last \"year\"\\n\r\n.kel", {}, 2023);
     state.slot_selected = 2;
     state.no_related_prompt = 1;
     write_store(state);
@@ -26,6 +26,7 @@ TEST_F(SettingsStore, RoundTripKeepsTheChainAndTheFlags) {
     EXPECT_EQ(fresh.assess_file, state.slot_prev1);
     EXPECT_EQ(fresh.prev1_file, "");
     EXPECT_EQ(fresh.slot_current, state.slot_current);
+    EXPECT_EQ(fresh.slot_prev1, state.slot_prev1) << "a name with line breaks keeps to its line";
     EXPECT_EQ(fresh.no_related_prompt, 1);
     EXPECT_EQ(fresh.no_link_prompt, 0);
 }
