@@ -68,10 +68,21 @@ std::optional<date> read_assessment_year(const std::string& path) {
     return type.eof() ? std::nullopt : type.date_value("Year");
 }
 
+void write_assessment_year(const database& db, date year_start) {
+    recordset type = db.open("Type");
+    if (type.eof())
+        throw file_error(db.path(), "its table [Type] has lost its row, so the year cannot be kept.");
+    type.edit();
+    type.set("Year", year_start);
+    type.update();
+}
+
 int check_assessment_file(const std::string& path) {
     try {
         database(path).open("Type");
         return 1;
+    } catch (const file_error& failure) {
+        return failure.in_use() ? 1 : 0;
     } catch (const std::exception&) {
         return 0;
     }

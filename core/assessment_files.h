@@ -28,7 +28,11 @@ void load_grid_row(const recordset& source, const std::vector<int>& stored, text
 /// Farm name and year of another file, for the years dialog; empty if its table has no row.
 std::string read_farm_name(const std::string& path);
 std::optional<date> read_assessment_year(const std::string& path);
-/// 1 if the file opens and [Type] can be opened, otherwise 0. Never throws.
+/// Writes [Type].[Year]. Call it within a save_transaction. Throws file_error, also for a table without its
+/// row.
+void write_assessment_year(const database& db, date year_start);
+/// 1 if the file opens and [Type] can be opened, otherwise 0. A file that another program keeps locked counts
+/// as one: it is there, and its place in the chain must not be lost. Never throws.
 int check_assessment_file(const std::string& path);
 
 }  // namespace kel

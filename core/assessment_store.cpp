@@ -49,13 +49,17 @@ std::string missing_table(const SQLite::Exception& e) {
     return "it is no assessment: it has no table [" + std::string(table) + "].";
 }
 
+bool is_in_use(const SQLite::Exception& e) {
+    return e.getErrorCode() == SQLITE_BUSY || e.getErrorCode() == SQLITE_LOCKED;
+}
+
 template <class F>
 auto guarded(const std::string& path, F&& work) {
     try {
         return work();
     } catch (const SQLite::Exception& e) {
         const std::string missing = missing_table(e);
-        throw file_error(path, missing.empty() ? trouble_of(e) : missing);
+        throw file_error(path, missing.empty() ? trouble_of(e) : missing, is_in_use(e));
     }
 }
 

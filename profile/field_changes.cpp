@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/assessment_files.h"
 #include "core/file_choice.h"
 #include "core/file_error.h"
 #include "core/numbers.h"
@@ -170,15 +171,6 @@ bool write_fields(const database& db, const text_grid& fields, const std::vector
     return cleared;
 }
 
-void write_year(const database& db, date year_start) {
-    recordset type = db.open("Type");
-    if (type.eof())
-        throw file_error(db.path(), "its table [Type] has lost its row, so the year cannot be kept.");
-    type.edit();
-    type.set("Year", year_start);
-    type.update();
-}
-
 }  // namespace
 
 bool save_prof(const std::string& path, const farm_details& farm, const text_grid& fields,
@@ -191,7 +183,7 @@ bool save_prof(const std::string& path, const farm_details& farm, const text_gri
     text_grid carried = fields;
     if (names_collide(fields)) step_aside(carried, slots);
     const bool cleared = write_fields(db, carried, slots);
-    write_year(db, state.kel_year_start.value());
+    write_assessment_year(db, state.kel_year_start.value());
     save.commit();
     return cleared;
 }

@@ -9,7 +9,6 @@
 #include "core/assessment_files.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
-#include "profile/profile_file.h"
 #include "profile/profile_messages.h"
 #include "profile/profile_report.h"
 #include "rules/soils.h"
@@ -42,12 +41,16 @@ void profile_module::show_location() {
     farm_.location = state_.farm_town + " - " + state_.farm_zone;
 }
 
-void profile_module::load_profile() {
+loaded_profile profile_module::read_profile(const std::string& path) const {
     loaded_profile fresh{
         farm_, fields_, state_.farm_name, state_.farm_zone, state_.farm_town, state_.kel_year_start};
-    const database db(state_.assess_file);
+    const database db(path);
     if (!read_farm(db, fresh)) person_.tell(messages::data_load_error);
     read_year(db, fresh);
+    return fresh;
+}
+
+void profile_module::show_profile(loaded_profile fresh) {
     farm_ = std::move(fresh.farm);
     fields_ = std::move(fresh.fields);
     state_.farm_name = std::move(fresh.farm_name);

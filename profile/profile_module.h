@@ -13,6 +13,7 @@
 #include "core/text_grid.h"
 #include "profile/farm_profile.h"
 #include "profile/field_paste.h"
+#include "profile/profile_file.h"
 #include "reports/report_viewer.h"
 
 namespace kel {
@@ -48,7 +49,10 @@ class profile_module {
 
     /// Reads the open file into the working copy and the state. Throws file_error and then leaves both as
     /// they were.
-    void load_profile();
+    void load_profile() { show_profile(read_profile(state_.assess_file)); }
+    /// The two halves of it, for one who has something to do in between that may fail.
+    loaded_profile read_profile(const std::string& path) const;
+    void show_profile(loaded_profile fresh);
     /// Reads the open file's year into the state. Throws file_error.
     void ass_year();
     void new_farm();
@@ -83,7 +87,6 @@ class profile_module {
     bool any_field_incomplete() const;
     bool kel_areas_agree();
     bool save_new_farm(const std::string& path);
-    bool save_into_new_file(const std::string& path, bool& store_written);
 
     application_state& state_;
     prompts& person_;

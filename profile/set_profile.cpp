@@ -1,5 +1,6 @@
 // Set Profile: its tests and questions in their order, the new farm's file, and the save.
 #include "core/file_choice.h"
+#include "core/fresh_file.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
 #include "core/whole_file.h"
@@ -10,19 +11,6 @@
 namespace kel {
 
 namespace messages = profile_messages;
-
-namespace {
-
-/// The store must not name a farm that was never saved: Cancel goes back to what it held. The failure that
-/// led here is the one to report.
-void put_back(const application_state& stored) {
-    try {
-        write_store(stored);
-    } catch (const file_error&) {
-    }
-}
-
-}  // namespace
 
 bool profile_module::any_field_incomplete() const {
     for (int row = 0; row < fields_.row_count(); ++row)
@@ -75,31 +63,20 @@ set_profile_result profile_module::set_profile() {
     return set_profile_result::saved;
 }
 
+// The farm is written whole beside its place, so that a failure leaves no empty assessment behind; the state
+// follows when file and store are written.
 bool profile_module::save_new_farm(const std::string& path) {
-    const application_state before = state_;
-    application_state stored = state_;
-    read_store(stored);
-    bool store_written = false;
-    try {
-        return save_into_new_file(path, store_written);
-    } catch (...) {
-        state_ = before;
-        if (store_written) put_back(stored);
-        throw;
-    }
-}
-
-bool profile_module::save_into_new_file(const std::string& path, bool& store_written) {
-    state_.slot_current = path;
-    copy_whole_file(state_.places.blank_assessment(), path);
-    state_.slot_prev1.clear();
-    state_.slot_prev2.clear();
-    state_.assess_file = path;
-    state_.prev1_file.clear();
-    state_.prev2_file.clear();
-    write_store(state_);
-    store_written = true;
-    return save_prof(path, farm_, fields_, state_);
+    application_state chosen = state_;
+    for (std::string* link : {&chosen.slot_prev1, &chosen.slot_prev2, &chosen.prev1_file, &chosen.prev2_file})
+        link->clear();
+    fresh_file fresh(state_.places.blank_assessment(), path);
+    chosen.slot_current = fresh.path();
+    const bool areas_changed = save_prof(fresh.path(), farm_, fields_, chosen);
+    fresh.put_in_place();
+    chosen.slot_current = chosen.assess_file = path;
+    write_store(chosen);
+    state_ = chosen;
+    return areas_changed;
 }
 
 }  // namespace kel

@@ -5,6 +5,7 @@
 
 #include "core/assessment_files.h"
 #include "core/file_choice.h"
+#include "core/fresh_file.h"
 #include "core/settings_store.h"
 #include "core/whole_file.h"
 #include "shell/assessments_messages.h"
@@ -63,17 +64,13 @@ void years_module::set_threefiles() {
     click_option(older ? static_cast<year_option>(state_.slot_selected) : year_option::current);
 }
 
-/// Takes over the working paths and slots of `chosen` and loads its profile; a file that cannot be read
-/// leaves everything as it was.
-void years_module::load(const application_state& chosen) {
-    const application_state before = state_;
+/// The one way to another chain or another file of it: memory moves after the file was read and the store
+/// written whole, so a failure of either leaves everything as it was.
+void years_module::go_on_with(const application_state& chosen) {
+    loaded_profile fresh = profile_.read_profile(chosen.assess_file);
+    write_store(chosen);
     state_ = chosen;
-    try {
-        profile_.load_profile();
-    } catch (...) {
-        state_ = before;
-        throw;
-    }
+    profile_.show_profile(std::move(fresh));
 }
 
 void years_module::browse_current() {
@@ -82,20 +79,29 @@ void years_module::browse_current() {
 }
 
 void years_module::open_file(const std::string& path) {
-    // Loaded before anything is stored: a damaged file never takes the place of the open one.
+    const bool newest = same_file(path, state_.slot_current);
+    if (newest && same_file(path, state_.assess_file)) return;
     application_state chosen = state_;
-    chosen.assess_file = path;
-    chosen.prev1_file.clear();
-    chosen.prev2_file.clear();
-    load(chosen);
-    application_state stored = state_;
-    stored.slot_current = path;
-    write_store(stored);
-    state_.slot_current = path;
-    state_.slot_selected = 1;
-    state_.slot_prev1.clear();
-    state_.slot_prev2.clear();
+    if (!newest) {
+        chosen.slot_current = path;
+        chosen.slot_prev1.clear();
+        chosen.slot_prev2.clear();
+    }
+    chosen.slot_selected = 1;
+    set_working_files(chosen);
+    chosen.last_dir = folder_of(path);
+    go_on_with(chosen);
     set_threefiles();
+    if (creating()) open_create();
+}
+
+bool years_module::open_from_desktop(const std::string& path) {
+    open();
+    if (same_file(path, state_.assess_file)) return true;
+    state_.picker_caller = picker_module::front;
+    const bool was_in_chain = same_file(path, state_.slot_current);
+    open_file(path);
+    return was_in_chain || ok();
 }
 
 /// The tests that the older file must pass, `newer` being the file it is linked to.
@@ -157,8 +163,7 @@ bool years_module::ok() {
     }
     const bool unlinked = !do_not_check_link && row(year_option::prev1).path.empty();
     if (unlinked && person_.ask(text::nothing_linked) != answer::yes) return false;
-    load(as_chosen());
-    write_store(state_);
+    go_on_with(as_chosen());
     const picker_module caller = state_.picker_caller;
     if (caller != picker_module::front && caller != picker_module::profile) reload_(caller);
     return true;
@@ -174,9 +179,9 @@ bool years_module::open_create() {
         person_.tell(text::no_current_file);
         return false;
     }
+    close_create();
     const auto year = read_assessment_year(state_.slot_current);
     if (!year) throw file_error(state_.slot_current, "it does not say which year it is for.");
-    close_create();
     new_date_ = add_years(*year, 1);
     last_year_ = year;
     return true;
@@ -217,35 +222,39 @@ bool years_module::create() {
     }
 }
 
-void years_module::move_chain(bool overwrite) {
+application_state years_module::moved_chain(bool overwrite) const {
+    application_state moved = state_;
     const bool linked = !overwrite && year_of(new_date_) == year_of(*last_year_) + 1;
-    state_.slot_prev2 = linked ? state_.slot_prev1 : "";
-    state_.slot_prev1 = linked ? state_.slot_current : "";
-    state_.slot_current = state_.assess_file = new_path_;
-    state_.prev1_file = state_.slot_prev1;
-    state_.prev2_file = state_.slot_prev2;
+    moved.slot_prev2 = linked ? state_.slot_prev1 : "";
+    moved.slot_prev1 = linked ? state_.slot_current : "";
+    moved.slot_current = new_path_;
+    moved.slot_selected = 1;
+    set_working_files(moved);
+    return moved;
+}
+
+void years_module::write_new_year(const std::string& path) const {
+    const database db(path);
+    save_transaction save(db);
+    write_assessment_year(db, new_date_);
+    clear_year_data(db, year_of(new_date_) - year_of(*last_year_), year_data_mode::delete_rows);
+    save.commit();
 }
 
 void years_module::make_new_year(bool overwrite) {
     // To write over a linked file means to go on with it as it is; nothing is copied into it.
-    if (!overwrite) copy_whole_file(state_.slot_current, new_path_);
-    move_chain(overwrite);
-    state_.kel_year_start = new_date_;
-    const database db(new_path_);
-    save_transaction save(db);
-    recordset type = db.open("Type");
-    type.edit();
-    type.set("Year", new_date_);
-    type.update();
-    clear_year_data(db, year_of(new_date_) - year_of(*last_year_), year_data_mode::delete_rows);
-    save.commit();
-    state_.slot_selected = 1;
-    set_threefiles();
-    write_store(state_);
-    close_create();
+    if (overwrite) {
+        write_new_year(new_path_);
+    } else {
+        fresh_file fresh(state_.slot_current, new_path_);
+        write_new_year(fresh.path());
+        fresh.put_in_place();
+    }
     // The profile screen may be open underneath: its Set Profile must not write the old year into the new
     // file.
-    profile_.load_profile();
+    go_on_with(moved_chain(overwrite));
+    set_threefiles();
+    close_create();
 }
 
 }  // namespace kel

@@ -46,8 +46,14 @@ class years_module {
     bool do_not_check_related = false;
 
     void browse_current();
-    /// What browse_current does with the file chosen.
+    /// What Browse does with the file chosen, and every other way of opening one: the file becomes the newest
+    /// of a chain without links, and the store is written whole. Nothing happens for the file worked on; the
+    /// newest file of the chain is gone back to with its links.
     void open_file(const std::string& path);
+    /// An assessment handed over by the desktop: as Browse and OK. Whether that is done with; if not, the
+    /// person wants to link files first, and the dialog should be shown. Nothing is asked about the file
+    /// that is worked on already.
+    bool open_from_desktop(const std::string& path);
     void browse_prev1();
     void browse_prev2();
 
@@ -67,20 +73,21 @@ class years_module {
     /// `year_text` is one of year_choices().
     void change_date(const std::string& year_text);
     void browse_new_file();
-    /// Makes the new year's file and goes on with it. Whether the frame closes; after a "Save Error" what was
-    /// done so far stays.
+    /// Makes the new year's file and goes on with it. Whether the frame closes; after a "Save Error" chain,
+    /// dialog and store are as they were.
     bool create();
     void close_create();
 
   private:
     void set_threefiles();
     const year_row& row(year_option which) const { return rows_[static_cast<std::size_t>(which) - 1]; }
-    void load(const application_state& chosen);
+    void go_on_with(const application_state& chosen);
     application_state as_chosen() const;
     bool may_link(const std::string& path, const std::string& newer, const message& wrong_year);
     bool may_use_new_file(bool& overwrite);
     void make_new_year(bool overwrite);
-    void move_chain(bool overwrite);
+    void write_new_year(const std::string& path) const;
+    application_state moved_chain(bool overwrite) const;
 
     application_state& state_;
     prompts& person_;

@@ -247,14 +247,19 @@ TEST_F(FailingNewFarm, AFolderThatCannotTakeItLeavesEverythingToTryAgain) {
     EXPECT_EQ(state.assess_file, path("new.kel"));
 }
 
-// The copy succeeds and the store is written, and only then the save fails.
-TEST_F(FailingNewFarm, AFailedSavePutsTheStoreBack) {
+// The copy succeeds and only then the save fails: no empty farm stays, and a file chosen to be replaced is
+// kept.
+TEST_F(FailingNewFarm, AFailedSaveLeavesNoEmptyFarmAndKeepsTheStore) {
     std::filesystem::create_directory(path("dbases"));
     std::filesystem::copy_file(state.places.blank_assessment(), path("dbases/blank.mdb"));
     database(path("dbases/blank.mdb")).delete_rows("Type");
     state.places.program_folder = folder_of(path("dbases"));
     expect_failure(path("new.kel"));
-    EXPECT_TRUE(column_of(path("new.kel"), "Field Data", "Field Name").empty());
+    write_file(path("old.kel"), "to be replaced");
+    expect_failure(path("old.kel"));
+    EXPECT_EQ(file_text(path("old.kel")), "to be replaced");
+    for (const char* left : {"new.kel", "new.kel.new", "old.kel.new"})
+        EXPECT_FALSE(std::filesystem::exists(path(left))) << left;
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
 // The assessments screen: start-up, step entries with their prompts, files, help and the end.
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <filesystem>
 
 #include "core/file_choice.h"
@@ -192,6 +194,18 @@ TEST_F(StartUp, SelectedSlotReopensWithTheYearsBeforeIt) {
         EXPECT_EQ(state.no_related_prompt, 1);
     }
     EXPECT_EQ(profile.fields().row_count(), 0);
+}
+
+// Another program's lock is no reason to forget the farm: it is named, and the next start finds it.
+TEST_F(StartUp, LockedFileIsNamedAndItsChainSurvivesTheRun) {
+    SQLite::Database other_program(y3, SQLite::OPEN_READWRITE);
+    other_program.exec("BEGIN EXCLUSIVE");
+    const std::string store = "0\n0\n1\n" + y3 + "\n" + y1 + "\nnone\n";
+    person.expect(assessments_messages::cannot_open({y3, "it is in use by another program."}));
+    start(store);
+    EXPECT_EQ(working(), texts(3));
+    front.close_window();
+    EXPECT_EQ(settings(), store);
 }
 
 // A file can pass the check of its [Type] table and still be damaged further on.

@@ -1,4 +1,6 @@
 // Creating a new assessment year: what it asks, how the chain moves, and what each file holds afterwards.
+#include <algorithm>
+#include <filesystem>
 #include <stdexcept>
 
 #include "shell/assessments_messages.h"
@@ -35,7 +37,7 @@ class CreateYear : public shell_test {
     }
     /// The chain in memory, in the store and in the dialog, and the year's file: this year's rows gone, the
     /// others kept.
-    void expect_new_year(const texts& chain, const std::string& year) {
+    void expect_new_year(const texts& chain, const std::string& year, const texts& kept = {"Long"}) {
         EXPECT_EQ(working(), chain);
         EXPECT_EQ(slots(), chain);
         std::string store = "0\n0\n1\n";
@@ -48,7 +50,14 @@ class CreateYear : public shell_test {
         for (const char* table : {"Crops", "Inorganic N", "Manure_applic", "Site"})
             EXPECT_EQ(column_of(chain[0], table, "Field Area ID"), texts{}) << table;
         for (const char* table : {"Land", "Recommendations", "Straw"})
-            EXPECT_EQ(column_of(chain[0], table, "Field Area ID"), texts{"Long"}) << table;
+            EXPECT_EQ(column_of(chain[0], table, "Field Area ID"), kept) << table;
+    }
+    texts files() const {
+        texts names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_of(y3)))
+            names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
     }
 
     const std::string y3 = path("farm.kel");
@@ -113,23 +122,59 @@ TEST_F(CreateYear, NeedsACurrentFileAndANewOneAndOpensFreshEachTime) {
     EXPECT_FALSE(years.open_create());
 }
 
-// After a failure behind the copy the chain in memory has moved, the store has not, and Cancel goes back to
-// it.
-TEST_F(CreateYear, FailureTellsSaveErrorAndCancelGoesBack) {
-    const std::string before = settings();
-    choose(path("no_such_folder/y4.kel"));
-    person.expect(assessments_messages::save_error);
-    EXPECT_FALSE(years.create());
-    EXPECT_EQ(working(), (texts{y3, y2, ""}));
-    choose(make_damaged("y2.kel"));
+// Wherever the way to the new file ends, chain, dialog, store and files are as they were, so that a second
+// try makes the same year with the same links.
+TEST_F(CreateYear, FailureLeavesEverythingForASecondTry) {
+    const std::string store = settings(), newest = file_text(y3), older = file_text(y2);
+    const std::string lost = path("y4.kel");
+    const auto expect_failure = [&](const std::string& file) {
+        const texts left = files();
+        choose(file);
+        person.expect(assessments_messages::save_error);
+        EXPECT_FALSE(years.create());
+        EXPECT_TRUE(years.creating());
+        EXPECT_EQ(working(), (texts{y3, y2, ""}));
+        EXPECT_EQ(slots(), (texts{y3, y2, ""}));
+        EXPECT_EQ(years.rows()[0].path + years.rows()[1].path, y3 + y2);
+        EXPECT_EQ(profile.farm().year, "19/12/2024");
+        EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2024));
+        EXPECT_EQ(files(), left);
+    };
+    expect_failure(path("no_such_folder/y4.kel"));
+    database(y3).delete_rows("Type");  // the copy is made and cannot be finished
+    write_file(lost, "an older file, chosen to be replaced");
+    expect_failure(lost);
+    EXPECT_EQ(file_text(lost), "an older file, chosen to be replaced");
+    write_file(y3, newest);
+    make_damaged("y2.kel");
+    choose(y2);
     person.expect(text::new_file_is_linked, answer::yes).expect(assessments_messages::save_error);
     EXPECT_FALSE(years.create());
-    EXPECT_EQ(state.assess_file, y2);
-    EXPECT_EQ(settings(), before);
-    years.cancel();
-    EXPECT_EQ(state.assess_file, y3);
-    EXPECT_EQ(state.kel_year_start, make_date(19, 12, 2024));
-    EXPECT_EQ(column_of(y3, "Crops", "Field Area ID"), texts{"Long"});
+    EXPECT_EQ(slots(), (texts{y3, y2, ""}));
+    write_file(y2, older);
+    std::filesystem::remove(lost);
+    std::filesystem::remove(state.places.settings_store());
+    std::filesystem::create_directory(state.places.settings_store());  // the store cannot be written
+    choose(lost);
+    person.expect(assessments_messages::save_error);
+    EXPECT_FALSE(years.create());
+    EXPECT_EQ(slots(), (texts{y3, y2, ""}));
+    std::filesystem::remove(state.places.settings_store());
+    write_file(state.places.settings_store(), store);
+    EXPECT_TRUE(years.create());
+    expect_new_year({lost, y3, y2}, "19/12/2025");
+}
+
+// The creation frame proposes the year after the file that is open, whichever that has become meanwhile.
+TEST_F(CreateYear, BrowseWhileCreatingProposesTheYearOfTheFileOpened) {
+    choose(path("y4.kel"));
+    const std::string other = make_farm("other.kel", {}, 2010);
+    person.expect_file(std::string(text::open_title), other);
+    years.browse_current();
+    EXPECT_TRUE(years.creating());
+    EXPECT_EQ(years.new_date_text() + years.new_path(), "19/12/2011");
+    EXPECT_TRUE(create(path("y4.kel")));
+    expect_new_year({path("y4.kel"), other, ""}, "19/12/2011", {});
 }
 
 class YearData : public shell_test {};

@@ -1,4 +1,6 @@
 // The years dialog: opening, linking, options, OK and Cancel.
+#include <filesystem>
+
 #include "shell/assessments_messages.h"
 #include "shell/years_messages.h"
 #include "shell/years_module.h"
@@ -61,10 +63,50 @@ TEST_F(YearsDialog, BrowsedCurrentFileDropsTheLinksAndOutlivesCancel) {
     EXPECT_EQ(state.farm_name, "Other Farm");
     EXPECT_EQ(state.last_dir, folder_of(other));
     EXPECT_EQ(years.rows()[1], year_row{});
-    // The store takes the new current file at once, before the links change.
-    EXPECT_EQ(settings(), "0\n0\n1\n" + other + "\n" + y2 + "\n" + y1 + "\n");
+    // The store takes the new file at once, without the other farm's links.
+    EXPECT_EQ(settings(), "0\n0\n1\n" + other + "\nnone\nnone\n");
     years.cancel();
-    EXPECT_EQ(state.assess_file, other);
+    EXPECT_EQ(working(), (texts{other, "", ""}));
+}
+
+TEST_F(YearsDialog, FileOfTheDesktopOpensAsByBrowseAndOk) {
+    open_chain(1);
+    const std::string store = settings();
+    profile.set_name("typed, and not saved");
+    EXPECT_TRUE(years.open_from_desktop(path("User_files/../y3.kel")));  // the file worked on
+    EXPECT_EQ(profile.farm().name, "typed, and not saved");
+    EXPECT_EQ(slots(), (texts{y3, y2, y1}));
+    open_chain(2);
+    EXPECT_TRUE(years.open_from_desktop(y3));  // the newest of the chain, while an older one is worked on
+    EXPECT_EQ(working(), (texts{y3, y2, y1}));
+    EXPECT_EQ(settings(), store);
+
+    const std::string other = make_other_farm("other.kel", 2021);
+    for (const answer link_first : {answer::no, answer::yes}) {
+        open_chain(1);
+        person.expect(text::nothing_linked, link_first);
+        EXPECT_EQ(years.open_from_desktop(other), link_first == answer::yes);
+        EXPECT_EQ(slots(), (texts{other, "", ""}));
+        EXPECT_EQ(settings(), "0\n0\n1\n" + other + "\nnone\nnone\n");
+    }
+    profile.new_farm();
+    state.assess_file.clear();
+    profile.cancel();
+    EXPECT_EQ(working(), (texts{other, "", ""}));
+    EXPECT_THROW(years.open_from_desktop(make_damaged("bad.kel")), file_error);
+    EXPECT_EQ(working(), (texts{other, "", ""}));
+}
+
+// A store that cannot be written stops a change of files as a file that cannot be read does.
+TEST_F(YearsDialog, OpeningWaitsForTheStore) {
+    open_chain(1);
+    std::filesystem::remove(state.places.settings_store());
+    std::filesystem::create_directory(state.places.settings_store());
+    EXPECT_THROW(browse(&years_module::browse_current, make_other_farm("other.kel", 2021)), file_error);
+    EXPECT_EQ(working(), (texts{y3, y2, y1}));
+    EXPECT_EQ(slots(), (texts{y3, y2, y1}));
+    EXPECT_EQ(profile.farm().name, "Test Farm");
+    EXPECT_EQ(years.rows()[0].path, y3);
 }
 
 TEST_F(YearsDialog, DamagedOrCancelledBrowseLeavesEverything) {
