@@ -10,6 +10,7 @@
 #include <variant>
 
 #include "core/strangers_file.h"
+#include "core/super_journals.h"
 
 namespace kel {
 
@@ -80,7 +81,8 @@ bool same_name(std::string_view a, std::string_view b) {
 }  // namespace
 
 struct database::connection {
-    explicit connection(const std::string& path) : sqlite(path, SQLite::OPEN_READWRITE, busy_timeout_ms) {
+    explicit connection(const std::string& path)
+        : sqlite(path, SQLite::OPEN_READWRITE, busy_timeout_ms), main_file(path) {
         harden(sqlite.getHandle());
         check_layout(sqlite, "main", path);
     }
@@ -103,7 +105,14 @@ struct database::connection {
         return statement;
     }
 
+    /// Locks the files for writing, and clears away what an earlier save over several files left behind.
+    void begin() {
+        sqlite.exec("BEGIN IMMEDIATE");
+        if (attached > 0) remove_spent_super_journals(main_file);
+    }
+
     SQLite::Database sqlite;
+    std::string main_file;
     std::map<std::string, std::unique_ptr<SQLite::Statement>> prepared;
     int attached = 0;
 };
@@ -375,17 +384,27 @@ save_transaction::save_transaction(const database& db) : db_(db) {
     guarded(db.path(), [&] {
         // A file that came in write-ahead mode must end as one plain file again.
         db.shared_->sqlite.exec("PRAGMA journal_mode = DELETE");
-        db.shared_->sqlite.exec("BEGIN IMMEDIATE");
+        db.shared_->begin();
     });
 }
 
 save_transaction::~save_transaction() {
     if (!open_) return;
+    const auto exec_quietly = [this](const char* sql) {
+        try {
+            db_.shared_->sqlite.exec(sql);
+        } catch (const SQLite::Exception&) {
+            // The engine has rolled back by itself, as after a full disc.
+        }
+    };
+    exec_quietly("ROLLBACK");
+    if (db_.shared_->attached == 0) return;
     try {
-        db_.shared_->sqlite.exec("ROLLBACK");
+        db_.shared_->begin();
     } catch (const SQLite::Exception&) {
-        // The engine has rolled back by itself, as after a full disc.
+        return;  // Another program is at the file; the next save clears away.
     }
+    exec_quietly("ROLLBACK");
 }
 
 void save_transaction::commit() {

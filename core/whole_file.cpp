@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "core/file_error.h"
+#include "core/fresh_file.h"
 
 namespace kel {
 
@@ -25,19 +26,7 @@ void write_whole_file(const std::string& path, std::string_view content, std::st
 }
 
 void copy_whole_file(const std::string& from, const std::string& to) {
-    const fs::path target(to);
-    fs::path fresh = target;
-    fresh += ".new";
-    std::error_code trouble;
-    fs::copy_file(from, fresh, fs::copy_options::overwrite_existing, trouble);
-    if (!trouble) fs::permissions(fresh, fs::perms::owner_write, fs::perm_options::add, trouble);
-    // A journal left behind by the file that goes would be rolled back into the one that comes.
-    if (!trouble) fs::remove(to + "-journal", trouble);
-    if (!trouble) fs::rename(fresh, target, trouble);
-    if (!trouble) return;
-    std::error_code ignored;
-    fs::remove(fresh, ignored);
-    throw file_error(to, "the file could not be copied there: " + trouble.message() + ".");
+    fresh_file(from, to).put_in_place();
 }
 
 }  // namespace kel

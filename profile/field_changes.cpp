@@ -1,5 +1,6 @@
 #include "profile/field_changes.h"
 
+#include <algorithm>
 #include <array>
 #include <set>
 #include <string>
@@ -68,26 +69,23 @@ bool carry_into_land(const database& db, const field_change& change) {
     return cleared;
 }
 
-/// A filled slot, opened within the transaction of the file that is saved.
-struct linked_file {
+/// A file of the farm, opened within the transaction of the one that is saved.
+struct farm_file {
     database db;
     bool is_saved;
 };
 
-database open_linked(const database& saved, const std::vector<linked_file>& opened, const std::string& path) {
-    if (same_file(saved.path(), path)) return saved;
-    for (const linked_file& linked : opened)
-        if (same_file(linked.db.path(), path)) return linked.db;
-    return saved.attach(path);
-}
-
-/// The filled slots in order; a file that stands in two of them is opened once and comes twice.
-std::vector<linked_file> open_slots(const database& saved, const application_state& state) {
-    std::vector<linked_file> slots;
-    for (const std::string* path : {&state.slot_current, &state.slot_prev1, &state.slot_prev2})
-        if (!path->empty())
-            slots.push_back({open_linked(saved, slots, *path), same_file(saved.path(), *path)});
-    return slots;
+/// The filled slots in order, then the saved file if it stands in none of them, as after Save As; each once.
+std::vector<farm_file> open_files(const database& saved, const application_state& state) {
+    std::vector<farm_file> files;
+    for (const std::string* path :
+         {&state.slot_current, &state.slot_prev1, &state.slot_prev2, &saved.path()}) {
+        const auto same = [&](const farm_file& file) { return same_file(file.db.path(), *path); };
+        if (path->empty() || std::any_of(files.begin(), files.end(), same)) continue;
+        const bool is_saved = same_file(saved.path(), *path);
+        files.push_back({is_saved ? saved : saved.attach(*path), is_saved});
+    }
+    return files;
 }
 
 bool any_field_known(const text_grid& fields) {
@@ -96,12 +94,12 @@ bool any_field_known(const text_grid& fields) {
     return false;
 }
 
-bool carry_change(const std::vector<linked_file>& slots, const field_change& change) {
-    for (const linked_file& slot : slots)
-        if (!slot.is_saved) prof_fname_link(slot.db, change);
+bool carry_change(const std::vector<farm_file>& files, const field_change& change) {
+    for (const farm_file& file : files)
+        if (!file.is_saved) prof_fname_link(file.db, change);
     bool cleared = false;
-    for (const linked_file& slot : slots)
-        cleared = data_trans(slot.db, change) || cleared;
+    for (const farm_file& file : files)
+        cleared = data_trans(file.db, change) || cleared;
     return cleared;
 }
 
@@ -123,36 +121,61 @@ std::string between_names(int row) {
     return std::string(1, '\x1a') + std::to_string(row);
 }
 
-bool names_collide(const text_grid& fields) {
-    std::set<std::string_view> stored;
+std::set<std::string_view> stored_names(const text_grid& fields) {
+    std::set<std::string_view> names;
     for (int row = 0; row < fields.row_count(); ++row)
-        stored.insert(fields.cell(row, field_column::stored_name));
+        names.insert(fields.cell(row, field_column::stored_name));
+    return names;
+}
+
+bool is_renamed(const text_grid& fields, int row) {
+    const std::string& old_name = fields.cell(row, field_column::stored_name);
+    return !old_name.empty() && old_name != fields.cell(row, field_column::name);
+}
+
+bool names_collide(const text_grid& fields, const std::set<std::string_view>& stored) {
+    for (int row = 0; row < fields.row_count(); ++row)
+        if (is_renamed(fields, row) && stored.contains(fields.cell(row, field_column::name))) return true;
+    return false;
+}
+
+void delete_field_rows(const database& db, std::string_view name) {
+    db.delete_rows("Field Data", "Field Name", name);
+    for (const field_table& t : field_tables)
+        db.delete_rows(t.table, field_key, name);
+}
+
+// A name that a renamed field takes, and that no field gives up, was an erased field's: its rows go first, so
+// that they do not become the other one's. In a file that does not know the old name nothing is renamed.
+void delete_erased(const text_grid& fields, const std::set<std::string_view>& stored,
+                   const std::vector<farm_file>& files) {
     for (int row = 0; row < fields.row_count(); ++row) {
         const std::string& name = fields.cell(row, field_column::name);
-        const std::string& old_name = fields.cell(row, field_column::stored_name);
-        if (!old_name.empty() && name != old_name && stored.contains(name)) return true;
+        if (!is_renamed(fields, row) || stored.contains(name)) continue;
+        for (const farm_file& file : files)
+            if (!file.db.open("Field Data", "Field Name", fields.cell(row, field_column::stored_name)).eof())
+                delete_field_rows(file.db, name);
     }
-    return false;
 }
 
 // When one field takes the name that another one gives up, renames in the order of the rows would put both
 // fields' rows under one name for good. All fields then first step aside.
-void step_aside(text_grid& fields, const std::vector<linked_file>& slots) {
+void step_aside(text_grid& fields, const std::vector<farm_file>& files) {
     for (int row = 0; row < fields.row_count(); ++row) {
         const std::string old_name = fields.cell(row, field_column::stored_name);
         if (old_name.empty()) continue;
-        for (const linked_file& slot : slots) {
-            if (!slot.is_saved)
-                slot.db.update_rows("Field Data", {{"Field Name", between_names(row)}}, "Field Name",
+        for (const farm_file& file : files) {
+            if (!file.is_saved)
+                file.db.update_rows("Field Data", {{"Field Name", between_names(row)}}, "Field Name",
                                     old_name);
             for (const field_table& t : field_tables)
-                slot.db.update_rows(t.table, {{field_key, between_names(row)}}, field_key, old_name);
+                file.db.update_rows(t.table, {{field_key, between_names(row)}}, field_key, old_name);
         }
         fields.set_cell(row, field_column::stored_name, between_names(row));
     }
 }
 
-bool write_fields(const database& db, const text_grid& fields, const std::vector<linked_file>& slots) {
+bool write_fields(const database& db, const text_grid& fields, const std::vector<farm_file>& files) {
     db.delete_rows("Field Data");
     recordset rows = db.open("Field Data");
     bool cleared = false;
@@ -165,7 +188,7 @@ bool write_fields(const database& db, const text_grid& fields, const std::vector
         rows.set("Size", change.area);
         rows.set("KEL Size", fields.cell(row, field_column::kel_area));
         rows.set("Soil", change.soil);
-        if (!change.old_name.empty()) cleared = carry_change(slots, change) || cleared;
+        if (!change.old_name.empty()) cleared = carry_change(files, change) || cleared;
         rows.update();
     }
     return cleared;
@@ -176,13 +199,15 @@ bool write_fields(const database& db, const text_grid& fields, const std::vector
 bool save_prof(const std::string& path, const farm_details& farm, const text_grid& fields,
                const application_state& state) {
     const database db(path);
-    std::vector<linked_file> slots;
-    if (any_field_known(fields)) slots = open_slots(db, state);
+    std::vector<farm_file> files;
+    if (any_field_known(fields)) files = open_files(db, state);
     save_transaction save(db);
+    const auto stored = stored_names(fields);
+    delete_erased(fields, stored, files);
     write_farm(db, farm, state);
     text_grid carried = fields;
-    if (names_collide(fields)) step_aside(carried, slots);
-    const bool cleared = write_fields(db, carried, slots);
+    if (names_collide(fields, stored)) step_aside(carried, files);
+    const bool cleared = write_fields(db, carried, files);
     write_assessment_year(db, state.kel_year_start.value());
     save.commit();
     return cleared;

@@ -86,6 +86,7 @@ class profile_module {
     const message* first_refusal() const;
     bool any_field_incomplete() const;
     bool kel_areas_agree();
+    void forget_carried_names();
     bool save_new_farm(const std::string& path);
 
     application_state& state_;

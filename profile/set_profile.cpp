@@ -40,6 +40,16 @@ bool profile_module::kel_areas_agree() {
     return false;
 }
 
+// The names stored before are known anew only after the next load; until then a renamed field finds nothing
+// in the files. Its old name may be another field's by now, and must not bring that one's rows.
+void profile_module::forget_carried_names() {
+    for (int row = 0; row < fields_.row_count(); ++row) {
+        const std::string& old_name = fields_.cell(row, field_column::stored_name);
+        if (!old_name.empty() && old_name != fields_.cell(row, field_column::name))
+            fields_.set_cell(row, field_column::stored_name, std::string(1, '\x1a'));
+    }
+}
+
 set_profile_result profile_module::set_profile() {
     if (const message* refusal = first_refusal()) {
         person_.tell(*refusal);
@@ -59,6 +69,7 @@ set_profile_result profile_module::set_profile() {
     } else {
         areas_changed = save_prof(state_.assess_file, farm_, fields_, state_);
     }
+    forget_carried_names();
     if (areas_changed) person_.tell(messages::areas_changed);
     return set_profile_result::saved;
 }

@@ -259,5 +259,31 @@ TEST_F(Store, AFullDiscStopsTheSaveAndKeepsTheOldRows) {
     EXPECT_EQ(column_of(state.assess_file, "Misc", "Value").size(), 3U);
 }
 
+// The disc fills up after the list of the journals was written, and before the first journal names it.
+TEST_F(Store, AFailedSaveOverLinkedFilesLeavesNothingBeside) {
+    open_farm({{"North", "4"}});
+    const std::string linked = make_farm("linked.kel", {{"North", "4"}}, 2023);
+    const auto files = [this] {
+        using entries = std::filesystem::directory_iterator;
+        return std::distance(entries(folder_of(state.assess_file)), entries());
+    };
+    const auto before = files();
+    in_a_process([&] {
+        signal(SIGXFSZ, SIG_IGN);
+        const database db(state.assess_file);
+        const database other = db.attach(linked);
+        save_transaction save(db);
+        db.delete_rows("Field Data");
+        other.delete_rows("Field Data");
+        const rlim_t journal = std::filesystem::file_size(state.assess_file + "-journal");
+        const rlimit no_growth{journal, journal};
+        setrlimit(RLIMIT_FSIZE, &no_growth);
+        save.commit();
+    });
+    for (const std::string& file : {state.assess_file, linked})
+        EXPECT_EQ(column_of(file, "Field Data", "Field Name").size(), 1U);
+    EXPECT_EQ(files(), before);
+}
+
 }  // namespace
 }  // namespace kel::test

@@ -125,21 +125,40 @@ TEST_F(FieldChanges, SwappedNamesKeepTheirRowsApart) {
     EXPECT_EQ(column_of(state.slot_current, "Straw", "Field Area ID"), (texts{"High", "Low"}));
 }
 
-TEST_F(FieldChanges, OnlyTheSlotsAreCarriedIntoAndOneFileMayStandInTwo) {
+// As after Save As: the slots still name the file before. One file may stand in two slots by two spellings.
+TEST_F(FieldChanges, ReachTheSlotsAndTheSavedFileEachOnce) {
     open_chain({{"Low", "4"}});
     fs::create_directory(path("sub"));
     state.slot_prev2 = path("sub/../prev1.kel");
     const std::string copy = path("copy.kel");
     fs::copy_file(state.assess_file, copy);
-    state.assess_file = copy;  // as after Save As: the slots still name the file before
+    state.assess_file = copy;
     profile.enter_name(0, "Lower");
+    profile.enter_area(0, 0, field_column::area, "5");
+    person.expect(messages::areas_changed);
     set_profile();
-    EXPECT_EQ(column_of(copy, "Field Data", "Field Name"), texts{"Lower"});
-    EXPECT_EQ(column_of(copy, "Crops", "Field Area ID"), texts{"Low"});
-    for (const std::string& file : {state.slot_current, state.slot_prev1}) {
+    for (const std::string& file : {copy, state.slot_current, state.slot_prev1}) {
         EXPECT_EQ(column_of(file, "Field Data", "Field Name"), texts{"Lower"});
         EXPECT_EQ(column_of(file, "Crops", "Field Area ID"), texts{"Lower"});
+        EXPECT_EQ(land_of(file, "Lower"), "Other mineral soils,5,0,0,,0,0,20,");
     }
+}
+
+TEST_F(FieldChanges, ANameTakenFromAnErasedFieldBringsNoneOfItsRows) {
+    open_chain({{"Low", "4"}, {"High", "3"}, {"Far", "2"}});
+    profile.erase_row(0);
+    profile.enter_name(1, "nowhere");
+    profile.enter_name(0, "Low");   // High takes the name of the field that went,
+    profile.enter_name(1, "High");  // and Far the one that High gives up
+    set_profile();
+    set_profile();  // the names stored last are only known anew after the next load: nothing more may go
+    for (const std::string& file : chain()) {
+        EXPECT_EQ(column_of(file, "Field Data", "Field Name"), (texts{"Low", "High"})) << file;
+        for (const auto& [table, soil] : module_tables)
+            EXPECT_EQ(column_of(file, table, "Field Area ID"), (texts{"Low", "High"})) << file << table;
+        EXPECT_EQ(column_of(file, "Land", "Total Area"), (texts{"3", "2"}));
+    }
+    EXPECT_EQ(column_of(state.slot_prev1, "Field Data", "Size"), (texts{"3", "2"}));
 }
 
 TEST_F(FieldChanges, ABrokenLinkedFileKeepsTheOldRowsEverywhere) {
