@@ -16,7 +16,6 @@ namespace {
 // The largest farm that the program is measured with takes a quarter of it.
 constexpr std::uintmax_t largest_file_bytes = 16'000'000;
 constexpr int longest_text_bytes = 100'000;
-constexpr int longest_definition_bytes = 20'000;
 constexpr int most_rows = 40'000;
 
 bool is_word(char c) {
@@ -84,7 +83,6 @@ void harden(sqlite3* handle) {
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0, nullptr);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longest_text_bytes);
-    sqlite3_limit(handle, SQLITE_LIMIT_SQL_LENGTH, longest_definition_bytes);
 }
 
 void check_layout(const SQLite::Database& db, std::string_view schema, const std::string& path) {

@@ -159,6 +159,8 @@ TEST_F(Store, LayoutsOfMoreThanNamesAndTypesAreRefusedAlsoInALinkedFile) {
     const std::vector<std::string> definitions{
         "ALTER TABLE [Land] ADD COLUMN more TEXT DEFAULT 'x'",
         "ALTER TABLE [Land] ADD COLUMN more TEXT AS (hex(zeroblob(400000)))",
+        "ALTER TABLE [Land] ADD COLUMN more TEXT DEFAULT 5",
+        "CREATE UNIQUE INDEX one ON [Slurry_store] ([Store_width])",
         "CREATE INDEX slow ON [Land] (hex([Crop]))",
         "CREATE INDEX some ON [Land] ([Crop]) WHERE [Crop] > 'a'",
         "CREATE TABLE checked (a TEXT CHECK (length(hex(zeroblob(400000))) > 1))",
