@@ -210,6 +210,14 @@ float delayed_sowing_kg_per_ha(std::string_view crop_code, float days) {
     return found == std::end(late_sowings) ? 0 : days * found->kg_per_ha_per_day;
 }
 
+bool is_shallow_or_sand(std::string_view soil) {
+    return soil == "Shallow soils" || soil == "Sands";
+}
+
+int wet_summer_kg_per_ha(std::string_view soil) {
+    return is_shallow_or_sand(soil) ? 15 : 10;
+}
+
 std::optional<int> winter_rain_adjustment(std::string_view status, const rained_on& row,
                                           rain_memory& memory) {
     return rain_adjustment(status != rain_status::low, row, memory.soil_code, memory.winter_kg_per_ha,

@@ -33,6 +33,11 @@ inline constexpr std::string_view high = "High";
 inline constexpr std::string_view low = "Low";
 }  // namespace rain_status
 
+/// The two soils on which vegetables need more than on the others.
+bool is_shallow_or_sand(std::string_view soil);
+/// kg/ha that a vegetable on the soil needs more after a wet summer.
+int wet_summer_kg_per_ha(std::string_view soil);
+
 /// What decides the rainfall adjustments of a row: its cells as they stand.
 struct rained_on {
     std::string_view crop;  // planned code

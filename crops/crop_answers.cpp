@@ -71,6 +71,11 @@ outcome crop_module::next_question() const {
     return asked_.empty() ? box_closes() : leads_to(question_opening(asked_.front()));
 }
 
+opening crop_module::ask_summer_rain() {
+    asked_ = questions_of_summer_rain();
+    return question_opening(asked_.front());
+}
+
 outcome crop_module::enter_answer(int row, const box_entry& entered) {
     if (asked_.empty()) return box_closes();
     const auto choice = entered.choice();
@@ -89,6 +94,9 @@ outcome crop_module::enter_answer(int row, const box_entry& entered) {
         case crop_question::spring_rain:
             if (choice) write_spring_status(row, *choice);
             break;
+        case crop_question::summer_rain:
+            if (choice) write_summer_rain(row, *choice);
+            break;
         default:
             if (choice) write_answer(row, asked_.front(), *choice);
             break;
@@ -104,6 +112,14 @@ void crop_module::write_delay(int row, float days) {
 
 void crop_module::write_spring_status(int row, int choice) {
     crops_.set_cell(row, crop_column::spring_status, std::string(spring_status_of(choice)));
+    set_spring_rain(row);
+}
+
+// The figure of a vegetable stands where other crops have their market.
+void crop_module::write_summer_rain(int row, int choice) {
+    const int more = choice == 0 ? wet_summer_kg_per_ha(crops_.cell(row, crop_column::soil)) : 0;
+    crops_.set_cell(row, crop_column::market, std::to_string(more));
+    set_winter_rain(row);
     set_spring_rain(row);
 }
 

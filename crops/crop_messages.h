@@ -105,6 +105,10 @@ inline constexpr std::string_view spring_instruction =
     "or not, then click on the Enter button.";
 inline constexpr std::string_view more_than_200_mm = "More than 200 mm (8 inches)";
 inline constexpr std::string_view less_than_200_mm = "Less than 200 mm (8 inches)";
+// Of vegetables; no step asks it yet.
+inline constexpr std::string_view summer_question =
+    "Is the summer rainfall likely to be in excess of 200 mm more than the water holding capacity of the "
+    "soil?";
 
 // The boxes. A message is a warning with OK unless it says otherwise.
 inline const message grass_recommendation_exists{

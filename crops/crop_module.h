@@ -56,6 +56,8 @@ class crop_module {
     outcome enter_previous_crop(int row, const box_entry& entered);
     /// The answer to the question that is open; leads to the crop's next one.
     outcome enter_answer(int row, const box_entry& entered);
+    /// Asks whether a wet summer is expected, the row's next answer. No click leads here.
+    opening ask_summer_rain();
     outcome enter_manures(int row, int column, const std::string& text);
     /// Puts the figure of the stored applications into the box, for the person to confirm.
     outcome transfer(int row, int column);
@@ -96,6 +98,7 @@ class crop_module {
     bool write_code(int row, std::string_view code);
     void write_delay(int row, float days);
     void write_spring_status(int row, int choice);
+    void write_summer_rain(int row, int choice);
     void write_answer(int row, crop_question question, int choice);
 
     // Their tests.

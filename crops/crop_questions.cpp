@@ -103,6 +103,11 @@ std::span<const crop_question> questions_of_spring_rain() {
     return only;
 }
 
+std::span<const crop_question> questions_of_summer_rain() {
+    static constexpr std::array only{summer_rain};
+    return only;
+}
+
 std::string_view planned_crop_code(std::string_view planned_name) {
     const auto catalogue = load_crop_catalogue();
     const auto found = std::ranges::find(catalogue, planned_name, &crop::planned_name);
@@ -129,6 +134,8 @@ opening question_opening(crop_question question) {
         case spring_rain:
             return options(text::spring_question, text::spring_instruction,
                            choices_of(spring_answers, &spring_answer::text));
+        case summer_rain:
+            return options(text::summer_question, {}, {"Yes", "No"});
         default:
             return fixed_opening(question);
     }

@@ -17,6 +17,7 @@ enum class crop_question {
     grass_kind,   // gives the code
     delayed_sowing,
     spring_rain,
+    summer_rain,
     wheat_market,
     barley_market,
     take_all,
@@ -30,6 +31,9 @@ std::span<const crop_question> questions_of(std::string_view planned_name);
 
 /// What a row's spring rainfall cell asks.
 std::span<const crop_question> questions_of_spring_rain();
+
+/// What a vegetable may be asked besides.
+std::span<const crop_question> questions_of_summer_rain();
 
 /// Code of a crop of the planned crop list; empty for "Potatoes", whose type has to be asked, and for a name
 /// that the list does not offer.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/numbers.h"
+#include "crops/crop_adjustments.h"
 #include "crops/crop_grids.h"
 #include "reports/manures_section.h"
 #include "rules/crop_catalogue.h"
@@ -56,14 +57,10 @@ constexpr std::string_view adviser =
 constexpr std::string_view taken_into_account =
     "This recommendation has taken into account any adjustments required for:";
 
-bool is_light(std::string_view soil) {
-    return soil == "Shallow soils" || soil == "Sands";
-}
-
 std::string wet_summer_advice(std::string_view soil) {
     return "If summer rainfall is in excess of 200 mm more than the water holding capacity of the soil, then "
            "add an extra " +
-           std::string(is_light(soil) ? "15" : "10") + " kg/ha.";
+           std::to_string(wet_summer_kg_per_ha(soil)) + " kg/ha.";
 }
 
 std::string planned_crop_text(const crop_row& row) {
@@ -101,7 +98,7 @@ page_lines summary(const text_grid& results, int row) {
 // The adjustments that change the figure, by their names.
 texts adjustments_made(const crop_row& row, bool vegetable) {
     texts names;
-    if (vegetable && is_light(row.soil)) names.emplace_back(tenth_added);
+    if (vegetable && is_shallow_or_sand(row.soil)) names.emplace_back(tenth_added);
     for (std::size_t i = 0; i < adjustment_count; ++i) {
         if (leading_number(row.adjustments[i]) == 0) continue;
         const bool market = i == static_cast<std::size_t>(adjustment::market);

@@ -124,4 +124,18 @@ TEST_F(CropQuestions, TheSpringCellAsksForCropsThatAreNotAskedAndShowsItsAnswer)
     EXPECT_EQ(module.click(0, col::spring_status).parts.front().text, says::more_than_200_mm);
 }
 
+TEST_F(CropQuestions, AWetSummerAddsToAVegetableBySoil) {
+    open({{"North", "5", "Sands"}, {"South", "5", "Sandy loams"}});
+    add_crop(0, "North", "Carrots", "Kale");
+    add_crop(1, "South", "Carrots", "Kale");
+    for (const auto& [row, wet] : {std::pair{0, "15"}, {1, "10"}}) {
+        EXPECT_EQ(module.ask_summer_rain().caption, says::summer_question);
+        EXPECT_EQ(module.enter_answer(row, chosen(0)), box_closes());
+        EXPECT_EQ(cell(row, col::market), wet);
+    }
+    module.ask_summer_rain();
+    module.enter_answer(1, chosen(1));
+    EXPECT_EQ(cell(1, col::market), "0");
+}
+
 }  // namespace kel::test

@@ -135,11 +135,13 @@ TEST_F(CropReport, VegetablesOnLightSoilsHaveTheirAdviceAndTheirTenth) {
     expect_in_order(text, {"Notes:", "Apply no more than 100kg/ha", advice, "Varietal differences",
                            "Soil analysis", "Covered Crops", "starter fertilisers", "Double cropping",
                            "then add an extra 15 kg/ha.", "FACTS adviser.", taken_into_account, tenth});
-    plan(0, "Beans");
-    const std::string beans = page();
-    EXPECT_FALSE(has(beans, advice));
-    expect_in_order(beans, {"Notes:", taken_into_account, tenth});
-    EXPECT_FALSE(has(beans, "None"));
+    for (const auto pulse : {"Beans", "Peas"}) {
+        plan(0, pulse);
+        const std::string without = page();
+        EXPECT_FALSE(has(without, advice)) << pulse;
+        expect_in_order(without, {"Notes:", taken_into_account, tenth});
+        EXPECT_FALSE(has(without, "None"));
+    }
 }
 
 TEST_F(CropReport, VegetablesOnOtherSoilsAreToldTheSmallerFigureAndTheWetSummerIsNamed) {

@@ -172,6 +172,26 @@ TEST_F(CropFile, ResultsAreWorkedOutRowByRowWithTheRainOfNow) {
     EXPECT_EQ(result(2), (texts{"West", "0", "0", "0", "0", "0", ""}));
 }
 
+TEST_F(CropFile, StoredRainIsWorkedOutAnewAndTheGuardSparesTheStoredMarket) {
+    open_farm({{"North", "5", "Sands"}});
+    store_crop(state.assess_file, {{"Field Area ID", "North"},
+                                   {"Soil Type", "Sands"},
+                                   {"Next Crop", "SB (low N)"},
+                                   {"Previous or Current Crop", "WW"},
+                                   {"N Residue Group", "1"},
+                                   {"Intended Market Adjustment (kg/ha)", "7"},
+                                   {"Undersowing Adjustment (kg/ha)", "-25"},
+                                   {"Winter Rainfall Adjustment (kg/ha)", "90"},
+                                   {"Spring Rainfall Adjustment (kg/ha)", "90"}});
+    open_table();
+    ASSERT_TRUE(module.calculate());
+    EXPECT_EQ(result(0)[3], "112");
+    module.back();
+    person.expect(says::malting_after_crop);
+    follow(0, "Beans");
+    EXPECT_EQ(cells(0, col::market, col::undersowing), (texts{"7", ""}));
+}
+
 TEST_F(CropFile, BackAndCloseStoreTheRecommendationsInView) {
     open({{"North", "5", "Sands"}, {"South", "6", "Sands"}});
     for (const auto& [field, n] : {std::pair{"South", "1"}, {"Grassy", "2"}, {"South", "3"}})
