@@ -171,7 +171,7 @@ TEST_F(Store, LayoutsOfMoreThanNamesAndTypesAreRefusedAlsoInALinkedFile) {
         std::filesystem::copy_file(state.assess_file, path("strange.kel"),
                                    std::filesystem::copy_options::overwrite_existing);
         run_sql(path("strange.kel"), sql);
-        const std::string alone = trouble_with([&] { database(path("strange.kel")); });
+        std::string alone = trouble_with([&] { database(path("strange.kel")); });
         EXPECT_EQ(trouble_with([&] { database(state.assess_file).attach(path("strange.kel")); }), alone);
         return alone;
     };

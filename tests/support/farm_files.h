@@ -27,9 +27,11 @@ using row_values = std::vector<std::pair<std::string, std::string>>;  // column,
 
 /// A fresh folder per test, removed afterwards, with an application state whose written files go there.
 class farm_test : public testing::Test {
+  public:
+    ~farm_test() override;
+
   protected:
     farm_test();
-    ~farm_test() override;
 
     std::string path(const std::string& name) const { return folder_ + "/" + name; }
 
