@@ -309,6 +309,10 @@ int recordset::record_count() const {
     });
 }
 
+int recordset::column_count() const {
+    return static_cast<int>(rows_->names.size());
+}
+
 int recordset::column(std::string_view name) const {
     // Callers mostly ask in table order, so the search starts behind the column found last.
     const auto& names = rows_->names;

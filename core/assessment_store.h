@@ -70,6 +70,7 @@ class recordset {
     void move_next();
     int record_count() const;
 
+    int column_count() const;
     int column(std::string_view name) const;  // throws file_error for a column the table lacks
     std::string text(std::string_view name) const { return text(column(name)); }
     std::string text(int column) const;

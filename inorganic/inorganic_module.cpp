@@ -47,12 +47,15 @@ void inorganic_module::inorganic_load_stuff() {
     text_grid applications = inorganic_table::set_grid();
     applications.add_row();
     std::vector<std::string> names;
+    loaded_rows loaded = loaded_;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
+        loaded.remember(db);
         names = inorganic_table::set_fieldlist(db);
         applications = inorganic_table::get_data(db);
     }
     applications_ = std::move(applications);
+    loaded_ = std::move(loaded);
     field_names_ = std::move(names);
     if (state_.kel_year_start) state_.limits = year_limits_of(*state_.kel_year_start);
 }
@@ -135,10 +138,10 @@ void inorganic_module::delete_row(int row) {
 
 bool inorganic_module::save() {
     if (!have_file_to_save(state_, person_)) return false;
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    inorganic_table::save(db, applications_);
-    transaction.commit();
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    inorganic_table::save(file.db(), applications_);
+    file.commit();
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include "core/application_state.h"
 #include "core/dates.h"
 #include "core/entry.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "inorganic/inorganic_grid.h"
@@ -60,6 +61,7 @@ class inorganic_module {
     application_state& state_;
     prompts& person_;
     text_grid applications_;
+    loaded_rows loaded_{{{"Inorganic N"}}};
     std::vector<std::string> field_names_;
 };
 

@@ -29,7 +29,11 @@ float room_for_deduction(const text_grid& land, int row, int column) {
 }  // namespace
 
 land_module::land_module(application_state& state, prompts& person)
-    : state_(state), person_(person), land_(empty_land_grid()), animals_(empty_stock_grid()) {}
+    : state_(state),
+      person_(person),
+      land_(empty_land_grid()),
+      animals_(empty_stock_grid()),
+      loaded_({{"Land", own_columns(land_.columns())}, {"Land_animals"}}) {}
 
 void land_module::load_land_stuff() {
     text_grid land = empty_land_grid();
@@ -37,8 +41,10 @@ void land_module::load_land_stuff() {
     std::vector<std::string> names;
     load_messages told;
     float constant = working_constant_;
+    loaded_rows loaded = loaded_;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
+        loaded.remember(db);
         const std::vector<farm_field> fields = read_farm_fields(db);
         names = kel::field_names(fields);
         land = load_land(db, fields, told);
@@ -47,6 +53,7 @@ void land_module::load_land_stuff() {
     }
     land_ = std::move(land);
     animals_ = std::move(animals);
+    loaded_ = std::move(loaded);
     field_names_ = std::move(names);
     working_constant_ = constant;
     result_.reset();
@@ -212,11 +219,11 @@ bool land_module::save() {
     if (!have_file_to_save(state_, person_)) return false;
     text_grid land = land_;
     fill_deductions(land);
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    save_land(db, land);
-    save_stock(db, animals_);
-    transaction.commit();
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    save_land(file.db(), land);
+    save_stock(file.db(), animals_);
+    file.commit();
     land_ = std::move(land);
     return true;
 }

@@ -10,6 +10,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "land/land_grids.h"
@@ -75,6 +76,7 @@ class land_module {
     prompts& person_;
     text_grid land_;
     text_grid animals_;
+    loaded_rows loaded_;
     std::vector<std::string> field_names_;
     float working_constant_ = 0;  // nitrogen constant of the stock row recalculated last
     std::optional<spreading_result> result_;

@@ -38,14 +38,18 @@ void manure_module::manure_load_stuff() {
     text_grid applications = empty_manure_grid();
     std::vector<farm_field> fields;
     load_messages told;
+    loaded_rows loaded = loaded_;
     const auto assessment = opened(state_.assess_file);
     if (assessment) fields = read_farm_fields(*assessment);
     // The profile is this year's, also for last year's applications.
-    if (const auto source = for_previous_year() ? opened(state_.prev1_file) : assessment)
+    if (const auto source = for_previous_year() ? opened(state_.prev1_file) : assessment) {
+        loaded.remember(*source);
         applications = load_applications(*source, known_fields(fields), window(limits), told);
+    }
     state_.limits = limits;
     if (state_.kel_year_start) calendar_ = make_date(1, 1, year_of(*state_.kel_year_start) + 1);
     applications_ = std::move(applications);
+    loaded_ = std::move(loaded);
     field_names_ = kel::field_names(fields);
     back();
     told.tell(person_);

@@ -11,6 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "manure/manure_grids.h"
@@ -86,6 +87,7 @@ class manure_module {
     application_state& state_;
     prompts& person_;
     text_grid applications_;
+    loaded_rows loaded_{{{"Manure_applic"}}};
     text_grid results_;
     bool results_shown_ = false;
     std::vector<std::string> field_names_;

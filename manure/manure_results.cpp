@@ -121,10 +121,10 @@ bool manure_module::have_file() {
 
 bool manure_module::save() {
     if (!have_file()) return false;
-    const database db(for_previous_year() ? state_.prev1_file : state_.assess_file);
-    save_transaction transaction(db);
-    save_applications(db, applications_);
-    transaction.commit();
+    module_save file(for_previous_year() ? state_.prev1_file : state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    save_applications(file.db(), applications_);
+    file.commit();
     return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include "core/application_state.h"
 #include "core/assessment_store.h"
+#include "core/loaded_rows.h"
 #include "core/text_grid.h"
 #include "profile/farm_profile.h"
 
@@ -19,6 +20,7 @@ struct loaded_profile {
     std::string farm_zone;
     std::string farm_town;
     std::optional<date> kel_year_start;
+    loaded_rows rows{{{"FarmProfile"}, {"Field Data"}}};
 };
 
 /// Reads [FarmProfile] and [Field Data] over what `profile` holds; empty zone areas leave what was there.

@@ -43,8 +43,9 @@ void profile_module::show_location() {
 
 loaded_profile profile_module::read_profile(const std::string& path) const {
     loaded_profile fresh{
-        farm_, fields_, state_.farm_name, state_.farm_zone, state_.farm_town, state_.kel_year_start};
+        farm_, fields_, state_.farm_name, state_.farm_zone, state_.farm_town, state_.kel_year_start, loaded_};
     const database db(path);
+    fresh.rows.remember(db);
     if (!read_farm(db, fresh)) person_.tell(messages::data_load_error);
     read_year(db, fresh);
     return fresh;
@@ -53,11 +54,18 @@ loaded_profile profile_module::read_profile(const std::string& path) const {
 void profile_module::show_profile(loaded_profile fresh) {
     farm_ = std::move(fresh.farm);
     fields_ = std::move(fresh.fields);
+    loaded_ = std::move(fresh.rows);
     state_.farm_name = std::move(fresh.farm_name);
     state_.farm_zone = std::move(fresh.farm_zone);
     state_.farm_town = std::move(fresh.farm_town);
     state_.kel_year_start = fresh.kel_year_start;
     if (state_.kel_year_start) year_list_enabled_ = false;
+    mark_open_file();
+}
+
+void profile_module::mark_open_file() {
+    if (const auto computer = mark_.move_to(state_.assess_file))
+        person_.tell(open_elsewhere(state_.assess_file, *computer));
 }
 
 void profile_module::ass_year() {

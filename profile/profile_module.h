@@ -9,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/open_mark.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "profile/farm_profile.h"
@@ -53,6 +54,8 @@ class profile_module {
     /// The two halves of it, for one who has something to do in between that may fail.
     loaded_profile read_profile(const std::string& path) const;
     void show_profile(loaded_profile fresh);
+    /// Marks the open file for other copies of the program, and says if one of them has it open.
+    void mark_open_file();
     /// Reads the open file's year into the state. Throws file_error.
     void ass_year();
     void new_farm();
@@ -91,6 +94,8 @@ class profile_module {
 
     application_state& state_;
     prompts& person_;
+    open_mark mark_;
+    loaded_rows loaded_{loaded_profile{}.rows};
     farm_details farm_;
     text_grid fields_{field_columns};
     bool year_list_enabled_ = true;

@@ -67,8 +67,10 @@ set_profile_result profile_module::set_profile() {
         if (path.empty()) return set_profile_result::cancelled;
         areas_changed = save_new_farm(path);
     } else {
+        if (!loaded_.may_be_replaced(state_.assess_file, person_)) return set_profile_result::refused;
         areas_changed = save_prof(state_.assess_file, farm_, fields_, state_);
     }
+    loaded_.remember(database(state_.assess_file));
     forget_carried_names();
     if (areas_changed) person_.tell(messages::areas_changed);
     return set_profile_result::saved;
@@ -87,6 +89,7 @@ bool profile_module::save_new_farm(const std::string& path) {
     chosen.slot_current = chosen.assess_file = path;
     write_store(chosen);
     state_ = chosen;
+    mark_open_file();
     return areas_changed;
 }
 

@@ -25,10 +25,23 @@ void save_december_percent(const database& db, const std::optional<storage_balan
     row.update();
 }
 
+std::vector<std::string_view> own_plan_columns() {
+    const land_plan plan = empty_land_plan();
+    std::vector<std::string_view> columns = own_columns(plan.land.columns());
+    for (const std::string_view column : own_columns(plan.spreading.columns()))
+        columns.push_back(column);
+    return columns;
+}
+
 }  // namespace
 
 storage_module::storage_module(application_state& state, prompts& person)
-    : state_(state), person_(person), water_(state, person), stores_(state, person), plan_(state, person) {}
+    : state_(state),
+      person_(person),
+      plan_rows_({{"Slurry_animals"}, {"Land", own_plan_columns()}}),
+      water_(state, person),
+      stores_(state, person),
+      plan_(state, person) {}
 
 std::string storage_module::instruction() const {
     using namespace storage_messages;
@@ -45,7 +58,13 @@ std::string storage_module::instruction() const {
 
 void storage_module::storage_load_stuff() {
     std::optional<dirty_water_answers> stored;
-    if (!state_.assess_file.empty()) stored = read_dirty_water(database(state_.assess_file));
+    loaded_rows water_rows = water_rows_;
+    if (!state_.assess_file.empty()) {
+        const database db(state_.assess_file);
+        water_rows.remember(db);
+        stored = read_dirty_water(db);
+    }
+    water_rows_ = std::move(water_rows);
     water_.load(stored);
     stores_.take(empty_stores());
     plan_.clear();
@@ -66,7 +85,7 @@ bool storage_module::storage_cont1() {
     if (!water_.complete()) return false;
     const auto rain = monthly_rain(database(state_.places.climate_tables()), state_.farm_town);
     rain_mm_ = rain.value_or(monthly_values{});
-    if (!state_.assess_file.empty()) write_first_page();
+    if (!state_.assess_file.empty() && !write_first_page()) return false;
     page_ = storage_page::stores;
     came_back_ = false;
     if (!rain && !std::exchange(rain_missing_told_, true))
@@ -74,15 +93,16 @@ bool storage_module::storage_cont1() {
     return true;
 }
 
-void storage_module::write_first_page() {
+bool storage_module::write_first_page() {
     const auto percent_full = get_previous_percent_full(state_);
-    const database db(state_.assess_file);
-    text_grid stores = load_stores(db, percent_full);
-    save_transaction transaction(db);
-    write_store_in(db, rain_mm_, water_.answers());
-    if (percent_full) save_stores(db, stores);
-    transaction.commit();
-    stores_.take(std::move(stores));
+    module_save file(state_.assess_file, person_, water_rows_);
+    if (!file) return false;
+    text_grid stores = load_stores(file.db(), percent_full);
+    write_store_in(file.db(), rain_mm_, water_.answers());
+    if (percent_full) save_stores(file.db(), stores);
+    file.commit();
+    stores_.take(std::move(stores), file.db());
+    return true;
 }
 
 bool storage_module::storage_cont2() {
@@ -103,11 +123,10 @@ bool storage_module::storage_cont2() {
 
 // Entries that are not saved yet are kept: a step back to the stores must not lose them.
 void storage_module::fill_plan(load_messages& told) {
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    save_stores(db, stores_.stores());
-    transaction.commit();
+    stores_.save();
     if (plan_.changed()) return;
+    const database db(state_.assess_file);
+    plan_rows_.remember(db);
     land_plan plan = load_land_plan(db, read_farm_fields(db), told);
     plan_.take(load_production(db), std::move(plan));
 }
@@ -121,16 +140,16 @@ bool storage_module::save_storage() {
     if (page_ != storage_page::plan) return false;
     const bool new_file = state_.assess_file.empty();
     if (!have_file_to_save(state_, person_, "Cannot Save")) return false;
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
+    module_save file(state_.assess_file, person_, plan_rows_);
+    if (!file) return false;
     if (new_file) {
-        write_store_in(db, rain_mm_, water_.answers());
-        save_stores(db, stores_.stores());
+        write_store_in(file.db(), rain_mm_, water_.answers());
+        save_stores(file.db(), stores_.stores());
     }
-    save_production(db, plan_.production());
-    save_land_plan(db, plan_.fields());
-    save_december_percent(db, plan_.balance());
-    transaction.commit();
+    save_production(file.db(), plan_.production());
+    save_land_plan(file.db(), plan_.fields());
+    save_december_percent(file.db(), plan_.balance());
+    file.commit();
     plan_.set_saved();
     return true;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "reports/report_viewer.h"
 #include "storage/dirty_water_page.h"
@@ -55,7 +56,7 @@ class storage_module {
     void storage_report(report_desk& desk);
 
   private:
-    void write_first_page();
+    bool write_first_page();
     void fill_plan(load_messages& told);
 
     application_state& state_;
@@ -64,6 +65,8 @@ class storage_module {
     bool came_back_ = false;  // to the stores, from the third page
     monthly_values rain_mm_{};
     bool rain_missing_told_ = false;
+    loaded_rows water_rows_{{{"Store_in"}}};
+    loaded_rows plan_rows_;
     dirty_water_page water_;
     stores_page stores_;
     plan_page plan_;

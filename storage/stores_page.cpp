@@ -100,14 +100,15 @@ bool stores_page::acceptable(const store_form& form) {
 }
 
 // The file first: when it cannot be written, the table still shows what the file holds.
-void stores_page::keep(text_grid stores) {
+bool stores_page::keep(text_grid stores) {
     if (!state_.assess_file.empty()) {
-        const database db(state_.assess_file);
-        save_transaction transaction(db);
-        save_stores(db, stores);
-        transaction.commit();
+        module_save file(state_.assess_file, person_, loaded_);
+        if (!file) return false;
+        save_stores(file.db(), stores);
+        file.commit();
     }
     stores_ = std::move(stores);
+    return true;
 }
 
 bool stores_page::add_store(const store_form& form) {
@@ -116,8 +117,7 @@ bool stores_page::add_store(const store_form& form) {
     const int row = stores.row_count() - 1;
     put_store(stores, row, form);
     stores.add_row();
-    keep(std::move(stores));
-    return true;
+    return keep(std::move(stores));
 }
 
 std::optional<store_form> stores_page::edit_store(int row) {
@@ -128,7 +128,7 @@ std::optional<store_form> stores_page::edit_store(int row) {
     store_form form = form_of(stores_, row);
     text_grid stores = stores_;
     stores.erase_row(row);
-    keep(std::move(stores));
+    if (!keep(std::move(stores))) return std::nullopt;
     return form;
 }
 
@@ -136,8 +136,12 @@ bool stores_page::delete_store(int row) {
     if (row == stores_.row_count() - 1) return refuse(storage_messages::empty_store_not_deleted);
     text_grid stores = stores_;
     stores.erase_row(row);
-    keep(std::move(stores));
-    return true;
+    return keep(std::move(stores));
+}
+
+void stores_page::take(text_grid stores, const database& db) {
+    loaded_.remember(db);
+    take(std::move(stores));
 }
 
 void stores_page::take(text_grid stores) {

@@ -8,6 +8,7 @@
 
 #include "core/application_state.h"
 #include "core/assessment_store.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "storage/storage_balance.h"
@@ -35,16 +36,20 @@ class stores_page {
     /// cmdStores_delete, "Delete Row". False, after a message, for the empty row.
     bool delete_store(int row);
 
-    /// The table as storage_cont1 read it, in place of what stands here.
+    /// The table as storage_cont1 read it from the file, in place of what stands here.
+    void take(text_grid stores, const database& db);
     void take(text_grid stores);
+    /// Writes the table to the file. False if the person keeps what another program wrote there.
+    bool save() { return keep(stores_); }
 
   private:
     bool refuse(const message& reason);
     bool acceptable(const store_form& form);
-    void keep(text_grid stores);
+    bool keep(text_grid stores);
 
     application_state& state_;
     prompts& person_;
+    loaded_rows loaded_{{{"Slurry_store"}}};
     text_grid stores_;
 };
 
