@@ -52,6 +52,7 @@ TEST_F(InorganicFile, SaveReplacesTheRowsAndKeepsDatesAsDates) {
         0, application{make_date(7, 3, 2005), "Urea \"46\"", "50", "34.5", "Reason: it's <cold>"});
     module.enter_field(1, "Long Rig");  // a field alone is a row, too
     EXPECT_EQ(stored("Field Area ID"), texts{"Long Rig"});
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);
     ASSERT_TRUE(module.save());
     EXPECT_EQ(stored("Field Area ID"), (texts{"East Muir", "Long Rig"}));
     EXPECT_EQ(stored("Date"), (texts{"2005-03-07", ""}));
@@ -73,6 +74,7 @@ TEST_F(InorganicFile, AFileThatFailsLosesNothing) {
     // The rows are deleted before the missing column shows.
     SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE)
         .exec("ALTER TABLE [Inorganic N] DROP COLUMN [Comments]");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);
     EXPECT_THROW(module.save(), file_error);
     EXPECT_EQ(stored("Field Area ID"), texts{"Long Rig"});
     EXPECT_THROW(module.inorganic_load_stuff(), file_error);
@@ -106,6 +108,14 @@ TEST_F(InorganicFile, ReportHasTheRowsWithoutTheEntryRow) {
     // clang-format on
     EXPECT_EQ(page.find("<td>", page.find(">8.9&nbsp;<") + 20), std::string::npos)
         << "the entry row is there";
+}
+
+TEST_F(InorganicFile, SaveAsksBeforeItWritesOverRowsChangedMeanwhile) {
+    open();
+    add_row(state.assess_file, "Inorganic N", {{"Field Area ID", "East Muir"}});
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::no);
+    EXPECT_FALSE(module.save());
+    EXPECT_EQ(column_of(state.assess_file, "Inorganic N", "Field Area ID"), texts{"East Muir"});
 }
 
 }  // namespace kel::test

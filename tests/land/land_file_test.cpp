@@ -141,4 +141,17 @@ TEST_F(LandFile, SaveWithoutAnOpenFileAsksForOne) {
     EXPECT_EQ(stored("Land_animals", "Number Of Stock Units"), texts{"10"});
 }
 
+// Step 2 and another copy of the program write to the same file; only rows of this step's own are asked
+// about.
+TEST_F(LandFile, SaveAsksBeforeItWritesOverRowsChangedMeanwhile) {
+    open({{"Long Rig", "15"}});
+    ASSERT_TRUE(module.save());
+    database(state.assess_file).update_rows("Land", {{"January", "Closed"}}, "Field Area ID", "Long Rig");
+    ASSERT_TRUE(module.save());
+    add_row(state.assess_file, "Land_animals", {{"Stock Unit", "1 sheep"}});
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::no);
+    EXPECT_FALSE(module.save());
+    EXPECT_EQ(stored("Land_animals", "Stock Unit"), texts{"1 sheep"});
+}
+
 }  // namespace kel::test

@@ -91,6 +91,7 @@ TEST_F(ManureFile, FilesThatCannotBeReadOrWrittenLeaveWhatWasThere) {
     state.manure_caller = manure_opener::front;
     SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE)
         .exec("ALTER TABLE [Manure_applic] DROP COLUMN [Month Applied]");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);
     EXPECT_THROW(module.save(), file_error);
     EXPECT_EQ(stored("Manure Type"), texts{dairy});
 }
@@ -117,6 +118,14 @@ TEST_F(ManureFile, SaveWithoutAFileAsksForOneThatIsNotTheOtherYears) {
     EXPECT_EQ(state.prev1_file, path("older.kel"));
     EXPECT_EQ(column_of(path("older.kel"), "Manure_applic", "Manure Type"), texts{strainer});
     EXPECT_TRUE(stored("Manure Type").empty());
+}
+
+TEST_F(ManureFile, SaveAsksBeforeItWritesOverRowsChangedMeanwhile) {
+    open({{"Long Rig", "15"}});
+    add_application(state.assess_file, "Long Rig", "2025-03-01", "10");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::no);
+    EXPECT_FALSE(module.save());
+    EXPECT_EQ(stored("Amount Applied"), texts{"250"});
 }
 
 }  // namespace kel::test

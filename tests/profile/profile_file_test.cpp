@@ -262,5 +262,18 @@ TEST_F(FailingNewFarm, AFailedSaveLeavesNoEmptyFarmAndKeepsTheStore) {
         EXPECT_FALSE(std::filesystem::exists(path(left))) << left;
 }
 
+TEST_F(SetProfile, AsksBeforeItWritesOverAProfileChangedMeanwhile) {
+    open_farm({{"Low", "4"}});
+    profile.load_profile();
+    profile.set_kel_area("4");
+    EXPECT_EQ(profile.set_profile(), result::saved);
+    database(state.assess_file).update_rows("Field Data", {{"Soil", "Sands"}}, "Field Name", "Low");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::no);
+    EXPECT_EQ(profile.set_profile(), result::refused);
+    EXPECT_EQ(column_of(state.assess_file, "Field Data", "Soil"), texts{"Sands"});
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);
+    EXPECT_EQ(profile.set_profile(), result::saved);
+}
+
 }  // namespace
 }  // namespace kel::test

@@ -196,4 +196,19 @@ TEST_F(StorageFlow, SaveWithoutAnAssessmentMakesOneWithEverythingEntered) {
     EXPECT_EQ(stored("Store_in", "Water_cow"), texts{"0"});
 }
 
+TEST_F(StorageFlow, SavesAskBeforeTheyWriteOverRowsChangedMeanwhile) {
+    open_plan();
+    const message asked = rows_changed_meanwhile(state.assess_file);
+    add_row(state.assess_file, "Slurry_animals", {{"Stock Unit", "theirs"}});
+    person.expect(asked, answer::no);
+    EXPECT_FALSE(module.save_storage());
+    EXPECT_EQ(stored("Slurry_animals", "Stock Unit"), texts{"theirs"});
+    module.back();
+    add_store("Their tank", "20");
+    person.expect(asked, answer::no);
+    EXPECT_FALSE(module.stores().delete_store(0));
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), (texts{"Tank", "Their tank"}));
+    EXPECT_TRUE(module.stores().has_stores());
+}
+
 }  // namespace kel::test
