@@ -20,6 +20,7 @@ namespace kel {
 namespace {
 
 constexpr int list_height_px = 220;
+constexpr int slack_px = 4;  // or the scroll bar shows
 
 QStringList shown(const std::vector<std::string>& choices) {
     QStringList texts;
@@ -47,7 +48,8 @@ list_editor::list_editor(const QString& name, bool alone, QWidget* parent)
 void list_editor::show_part(const entry_part& part) {
     list_->clear();
     list_->addItems(shown(part.choices));
-    const int rows_px = list_->count() * list_->sizeHintForRow(0) + 2 * list_->frameWidth();
+    list_->ensurePolished();
+    const int rows_px = list_->count() * list_->sizeHintForRow(0) + 2 * list_->frameWidth() + slack_px;
     list_->setFixedHeight(alone_ ? list_height_px : std::min(rows_px, list_height_px));
     show_text(part.text);
 }
