@@ -63,8 +63,6 @@ class plan_page {
     /// cmdStorage_crop: both crops as shown in the lists, empty when none is selected. Throws file_error.
     outcome enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
                             date harvest);
-    /// The field's use as shown in the lists; empty texts for a field not assessed.
-    crop_pair shown_field_use(int row) const;
     /// cmdStorage_land_month.
     outcome enter_land_month(int row, int column, const std::string& text);
     /// cmdStorage_slurry_applic.
@@ -85,6 +83,8 @@ class plan_page {
 
   private:
     opening field_use_box(int row);
+    /// The field's use as shown in the lists; empty texts for a field not assessed.
+    crop_pair shown_field_use(int row) const;
     outcome set_stock_cell(int row, int column, const std::string& text);
     outcome entered();
     void rebuild();
