@@ -53,8 +53,8 @@ text_grid load_stock(const database& db, float& working_constant);
 
 /// Fills empty deductions of the data rows with "0", as they are saved.
 void fill_deductions(text_grid& land);
-/// Replaces the rows of [Land] and of [Land_animals], the latter by the rows with a stock unit. Call within a
-/// save_transaction.
+/// Replaces the rows of [Land] and of [Land_animals], the latter by the rows with a stock unit. `land` must
+/// carry what Step 2 has saved by now. Call within a save_transaction.
 void save_land(const database& db, const text_grid& land);
 void save_stock(const database& db, const text_grid& animals);
 

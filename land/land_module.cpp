@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/carried_columns.h"
 #include "core/file_choice.h"
 #include "core/module_messages.h"
 #include "core/numbers.h"
@@ -221,6 +222,7 @@ bool land_module::save() {
     fill_deductions(land);
     module_save file(state_.assess_file, person_, loaded_);
     if (!file) return false;
+    take_carried(file.db(), "Land", land, land.data_row_count());
     save_land(file.db(), land);
     save_stock(file.db(), animals_);
     file.commit();

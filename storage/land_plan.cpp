@@ -84,10 +84,12 @@ void fill_empty_months(text_grid& land, int row) {
             land.set_cell(row, column, land.cell(row, plan_column::available));
 }
 
-// The cells of a row that are not empty, but for the field's name, by which the row was found. A month that
-// is closed in the file is open again when its cell is empty: the field's use has been entered anew.
+// What is entered here, where it is not empty; the areas are Step 1's, and stand in the file as that saved
+// them. A month that is closed in the file is open again when its cell is empty: the field's use has been
+// entered anew.
 void set_filled_cells(recordset& target, const std::vector<int>& stored, const text_grid& grid, int row) {
-    for (int c = 1; c < grid.column_count(); ++c) {
+    for (int c = 0; c < grid.column_count(); ++c) {
+        if (grid.columns()[static_cast<std::size_t>(c)].kind != column_kind::entered) continue;
         const int into = stored[static_cast<std::size_t>(c)];
         const std::string& text = grid.cell(row, c);
         if (!text.empty() || target.text(into) == closed_month) target.set_kept(into, text);

@@ -37,7 +37,8 @@ land_plan empty_land_plan();
 
 /// [Land], without the rows of fields that the profile lacks. An empty month takes the available area.
 land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told);
-/// Writes the cells that are not empty into the fields' rows of [Land]. Call it within a save_transaction.
+/// Writes what is entered here and not empty into the fields' rows of [Land]. Call it within a
+/// save_transaction.
 void save_land_plan(const database& db, const land_plan& plan);
 
 /// A field's use: its closed months in both tables, and the land that the crops leave in the others. Land

@@ -106,6 +106,27 @@ TEST_F(LandFile, CropAndMonthsOfTheStoragePlanSurviveASave) {
         EXPECT_EQ(stored("Land", column), (texts{text, ""})) << column;
 }
 
+// Step 2 may stand beside this module and save while rows are being entered here.
+TEST_F(LandFile, ASaveLeavesWhatTheStoragePlanHasSavedSinceTheLoad) {
+    open_farm({{"Long Rig", "15"}, {"East Muir", "8"}, {"Haugh", "2"}});
+    for (const char* field : {"Long Rig", "East Muir"})
+        add_land(field, {{"January", "Closed"},
+                         {"Applic_December", "20"},
+                         {"Area In Grass (ha)", "4"},
+                         {"Total Area", "8"}});
+    module.load_land_stuff();
+    module.enter_field(2, "Haugh");
+    database(state.assess_file)
+        .update_rows("Land", {{"Crop", "Grass / Other"}, {"January", ""}, {"Applic_December", "25"}},
+                     "Field Area ID", "East Muir");
+    module.enter_area(1, land_col::grass, "5");
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Land", "Crop"), (texts{"", "Grass / Other", ""}));
+    EXPECT_EQ(stored("Land", "January"), (texts{"Closed", "", ""}));
+    EXPECT_EQ(stored("Land", "Applic_December"), (texts{"20", "25", ""}));
+    EXPECT_EQ(stored("Land", "Area In Grass (ha)"), (texts{"4", "5", ""}));
+}
+
 TEST_F(LandFile, AFileThatFailsInItsSecondTableLosesNothing) {
     open_farm({{"Long Rig", "15"}});
     add_land("Long Rig", {{"Area In Grass (ha)", "4"}, {"Total Area", "15"}});

@@ -211,4 +211,19 @@ TEST_F(StorageFlow, SavesAskBeforeTheyWriteOverRowsChangedMeanwhile) {
     EXPECT_TRUE(module.stores().has_stores());
 }
 
+// Step 1 may stand beside this module and save while a plan is being made here.
+TEST_F(StorageFlow, ASaveLeavesTheAreasThatStep1HasSavedSinceTheLoad) {
+    open({{"Home", "10"}});
+    walk_to_plan();
+    module.plan().enter_land_month(0, plan_column::january, "3");
+    database(state.assess_file)
+        .update_rows("Land", {{"Area In Grass (ha)", "4"}, {"Available Field Area (ha)", "8.50"}},
+                     "Field Area ID", "Home");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);  // the plan shows the old area
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Land", "January"), texts{"3"});
+    EXPECT_EQ(stored("Land", "Area In Grass (ha)"), texts{"4"});
+    EXPECT_EQ(stored("Land", "Available Field Area (ha)"), texts{"8.50"});
+}
+
 }  // namespace kel::test
