@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "ui/widgets/qt_text.h"
 
@@ -73,7 +74,7 @@ QLabel* new_line(const char* name, const std::string& text) {
 
 class list_dialog : public QDialog {
   public:
-    list_dialog(const titled_list& list, QWidget* parent) : QDialog(parent) {
+    explicit list_dialog(const titled_list& list) {
         setObjectName("CropBox");
         setWindowTitle(qt(program_title));
         auto* layout = new QVBoxLayout(this);
@@ -95,6 +96,18 @@ class list_dialog : public QDialog {
     }
 };
 
+// A window may go while a box over it waits for its answer, and would take the box, which lives on the stack,
+// along. So the box stands over the window and belongs to none.
+int shown_over_active_window(QDialog& box) {
+    box.setWindowModality(Qt::ApplicationModal);
+    if (const QWidget* active = QApplication::activeWindow()) {
+        box.winId();  // only now is there a window to be placed
+        box.windowHandle()->setTransientParent(active->windowHandle());
+        box.move(active->frameGeometry().center() - QRect(QPoint(), box.sizeHint()).center());
+    }
+    return box.exec();
+}
+
 // A folder that is gone would leave its last part in the dialog as the name of a file.
 QString shown_folder(const std::string& folder) {
     return QFileInfo(qt(folder)).isDir() ? qt(folder) : QDir::homePath();
@@ -105,33 +118,34 @@ QString shown_folder(const std::string& folder) {
 answer qt_prompts::ask(const message& box) {
     // A box under the wait cursor would look stuck.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
-    QMessageBox shown(QApplication::activeWindow());
+    QMessageBox shown;
     shown.setIcon(icon_of(box.kind));
     shown.setWindowTitle(qt(box.title.empty() ? program_title : std::string_view(box.title)));
     // What a farm is called must never be read as markup.
     shown.setTextFormat(Qt::PlainText);
     shown.setText(readable(box.text));
     shown.setStandardButtons(buttons_of(box.buttons));
-    const int pressed = shown.exec();
+    const int pressed = shown_over_active_window(shown);
     QApplication::restoreOverrideCursor();
     return answer_of(pressed, box.buttons);
 }
 
 void qt_prompts::show_list(const titled_list& list) {
     QApplication::setOverrideCursor(Qt::ArrowCursor);
-    list_dialog(list, QApplication::activeWindow()).exec();
+    list_dialog shown(list);
+    shown_over_active_window(shown);
     QApplication::restoreOverrideCursor();
 }
 
 std::string qt_prompts::chosen_file(const file_request& request, bool save) {
-    QFileDialog dialog(QApplication::activeWindow(), qt(request.title), shown_folder(request.folder));
+    QFileDialog dialog(nullptr, qt(request.title), shown_folder(request.folder));
     // "KEL database (*.kel)|*.kel": what is shown, then the pattern.
     const QStringList filter = qt(request.filter).split('|');
     dialog.setNameFilters({filter.front(), "All files (*)"});
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (save) dialog.setDefaultSuffix(filter.back().section('.', -1));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    if (shown_over_active_window(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return from_qt(dialog.selectedFiles().front());
 }
 
