@@ -42,6 +42,9 @@ struct application_state {
     std::string assess_file;
     std::string prev1_file;
     std::string prev2_file;
+    // Moves on whenever another assessment, or another content, comes to stand behind assess_file. What a
+    // screen loaded before belongs to the assessment before.
+    int assessment = 0;
 
     // The linked chain, newest first, and which of them is worked on (0 none, 1 to 3).
     std::string slot_current;

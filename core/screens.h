@@ -33,6 +33,7 @@ class screens {
     virtual void open_in_place_of(screen_id opener, screen_id id) = 0;
     /// Whether this build has the screen; the commands of one it lacks are shown disabled.
     virtual bool exists(screen_id id) const = 0;
+    virtual bool in_view(screen_id id) const = 0;
 };
 
 }  // namespace kel

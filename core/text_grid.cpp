@@ -1,5 +1,7 @@
 #include "core/text_grid.h"
 
+#include <stdexcept>
+
 #include "core/numbers.h"
 
 namespace kel {
@@ -28,6 +30,7 @@ int text_grid::add_row() {
 }
 
 void text_grid::erase_row(int row) {
+    if (row < 0 || row >= row_count()) throw std::out_of_range("a row that the table does not have");
     rows_.erase(rows_.begin() + row);
 }
 

@@ -41,6 +41,7 @@ class text_grid {
     void clear() { rows_.clear(); }
     /// Adds an empty row at the bottom and returns its number.
     int add_row();
+    /// Throws std::out_of_range for a row that is not there, as every access to a cell does.
     void erase_row(int row);
     /// Cuts or extends to `rows` rows; new ones are empty.
     void set_row_count(int rows);

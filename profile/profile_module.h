@@ -59,6 +59,8 @@ class profile_module {
     /// Reads the open file's year into the state. Throws file_error.
     void ass_year();
     void new_farm();
+    /// Moves on whenever other rows come to stand in the working copy.
+    int loads() const { return loads_; }
     void edit_existing() { year_list_enabled_ = false; }
 
     // The grid. Rows count from 0 without the heading, which is row -1. Areas and soils go into all rows from
@@ -99,6 +101,7 @@ class profile_module {
     farm_details farm_;
     text_grid fields_{field_columns};
     bool year_list_enabled_ = true;
+    int loads_ = 0;
 };
 
 }  // namespace kel

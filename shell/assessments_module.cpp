@@ -64,6 +64,7 @@ void assessments_module::new_farm() {
                               &state_.slot_current, &state_.slot_prev1, &state_.slot_prev2})
         path->clear();
     state_.slot_selected = 0;
+    ++state_.assessment;
     profile_.new_farm();
     open_module(screen_id::profile);
 }
@@ -205,9 +206,13 @@ void assessments_module::about() {
 
 void assessments_module::show_partner(const std::string& address) {
     desk_.viewer.wait_cursor(true);
+    // A report that is in view leads back to its module, in which there may be work: the box stays then.
+    const bool over_report = screens_.in_view(screen_id::viewer);
     desk_.viewer.show({address, "Back", 0});
-    state_.viewer_back = screen_id::about;
-    desk_.viewer.hide_screen(screen_id::about);
+    if (!over_report) {
+        state_.viewer_back = screen_id::about;
+        desk_.viewer.hide_screen(screen_id::about);
+    }
     desk_.viewer.wait_cursor(false);
 }
 

@@ -69,7 +69,9 @@ void years_module::set_threefiles() {
 void years_module::go_on_with(const application_state& chosen) {
     loaded_profile fresh = profile_.read_profile(chosen.assess_file);
     write_store(chosen);
+    const bool other_file = state_.assess_file != chosen.assess_file;
     state_ = chosen;
+    if (other_file) ++state_.assessment;
     profile_.show_profile(std::move(fresh));
 }
 
@@ -245,6 +247,7 @@ void years_module::make_new_year(bool overwrite) {
     // To write over a linked file means to go on with it as it is; nothing is copied into it.
     if (overwrite) {
         write_new_year(new_path_);
+        ++state_.assessment;
     } else {
         fresh_file fresh(state_.slot_current, new_path_);
         write_new_year(fresh.path());

@@ -44,7 +44,7 @@ struct program::screen_row {
     picker_module caller;   // what the years dialog knows it by
     int width;              // at first view; each fits a screen of 1280 x 800
     int height;             // 0: as large as what is in it
-    QWidget* (program::*make)();
+    QWidget* (program::*make)(screen_id);
 };
 
 // Every screen of the program. A new one is a row here.
@@ -98,7 +98,7 @@ const program::screen_row& program::row_of(screen_id id) {
 
 QWidget* program::screen(screen_id id) const {
     const auto found = screens_.find(id);
-    return found == screens_.end() ? nullptr : found->second.get();
+    return found == screens_.end() ? nullptr : found->second.widget.get();
 }
 
 QWidget* program::screen(std::string_view text) const {
@@ -111,49 +111,57 @@ module_screen* program::module_of(screen_id id) const {
     return qobject_cast<module_screen*>(screen(id));
 }
 
-// A module that was loaded hidden shows what it loaded then, but never one file's rows over another file.
-void program::load_if_other_file(screen_id id) {
-    module_screen* module = module_of(id);
-    if (!module) return;
-    if (!module->loaded_file().empty() && module->loaded_file() != state_.assess_file) load_anew(id);
-    module->set_loaded_file(state_.assess_file);
+int program::rows_behind(screen_id id) const {
+    // The profile and its map show a working copy of their own, which is read anew at every opening.
+    const bool of_profile = id == screen_id::profile || id == screen_id::location;
+    return of_profile ? profile_.loads() : state_.assessment;
+}
+
+void program::follow_assessment() {
+    for (const screen_row& row : screen_table())
+        if (screen(row.id) && screen(row.id)->isVisible()) follow_assessment(row.id);
+}
+
+// A hidden screen follows when it comes to view.
+void program::follow_assessment(screen_id id) {
+    const auto found = screens_.find(id);
+    if (found == screens_.end() || found->second.rows == rows_behind(id)) return;
+    if (id == screen_id::location) return leave(id, screen_id::profile);
+    if (!module_of(id)) return;
+    if (state_.assess_file.empty() && id != screen_id::profile) return leave(id, screen_id::front);
+    load_anew(id);
 }
 
 // A module that cannot load the assessment now open must not stay with the rows of the one before.
 void program::load_anew(screen_id id) {
+    standing& screen = screens_.at(id);
+    screen.rows = rows_behind(id);
+    screen.file = stamp_of(state_.assess_file);
+    screen.seen = screen.widget->isVisible();
     try {
         module_of(id)->reload_all();
-        module_of(id)->set_loaded_file(state_.assess_file);
     } catch (...) {
         leave(id, screen_id::front);
         throw;
     }
 }
 
-QWidget* program::make_front() {
+QWidget* program::make_front(screen_id /*id*/) {
     auto* front = new frmKEL_front(front_, state_, *this);
     connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
     return front;
 }
 
-QWidget* program::make_profile() {
+QWidget* program::make_profile(screen_id id) {
     auto* profile = new frmProfile(profile_, desk_, state_);
-    connect(profile, &frmProfile::left, this, [this, profile] {
-        show_screen(screen_id::front);
-        profile->hide();
-        // Cancel reads the store back only after this.
-        QMetaObject::invokeMethod(
-            this, [this] { refresh_front(); }, Qt::QueuedConnection);
-    });
-    connect(profile, &frmProfile::years_wanted, this, [this] { open(screen_id::years); });
     connect(profile, &frmProfile::location_wanted, this,
             [this] { open_in_place_of(screen_id::profile, screen_id::location); });
-    return profile;
+    return connected(id, profile);
 }
 
 // The screens that say they are left go in the next turn of the event loop: none is deleted under its own
 // feet.
-QWidget* program::make_location() {
+QWidget* program::make_location(screen_id /*id*/) {
     auto* map = new Scotland(state_, person_, profile_);
     connect(
         map, &Scotland::closed, this, [this] { leave(screen_id::location, screen_id::profile); },
@@ -161,44 +169,45 @@ QWidget* program::make_location() {
     return map;
 }
 
-template <class Screen>
-QWidget* program::make_module() {
-    module_screen* module = nullptr;
-    if constexpr (std::is_constructible_v<Screen, application_state&, prompts&, report_desk&, screens&>)
-        module = new Screen(state_, person_, desk_, *this);
-    else
-        module = new Screen(state_, person_, desk_);
+QWidget* program::connected(screen_id id, module_screen* module) {
     connect(
-        module, &module_screen::left, this,
-        [this, module] {
-            for (const auto& [id, screen] : screens_)
-                if (screen.get() == module) return leave(id, module->closes_to());
-        },
+        module, &module_screen::left, this, [this, id, module] { leave(id, module->closes_to()); },
         Qt::QueuedConnection);
     connect(module, &module_screen::years_wanted, this, [this] { open(screen_id::years); });
     return module;
 }
 
-QWidget* program::make_years() {
+template <class Screen>
+QWidget* program::make_module(screen_id id) {
+    if constexpr (std::is_constructible_v<Screen, application_state&, prompts&, report_desk&, screens&>)
+        return connected(id, new Screen(state_, person_, desk_, *this));
+    else
+        return connected(id, new Screen(state_, person_, desk_));
+}
+
+QWidget* program::make_years(screen_id /*id*/) {
     auto* years = new Year_Picker(years_);
     connect(
         years, &Year_Picker::closed, this, [this] { leave(screen_id::years, std::nullopt); },
         Qt::QueuedConnection);
     connect(years, &Year_Picker::changed, this, [this] {
-        load_modules_in_view();
+        follow_assessment();
         refresh_front();
     });
     return years;
 }
 
-QWidget* program::make_about() {
+QWidget* program::make_about(screen_id /*id*/) {
     auto* about = new frmKEL_splash;
     connect(about, &frmKEL_splash::page_wanted, this,
             [this](const QString& address) { front_.show_partner(from_qt(address)); });
+    connect(
+        about, &frmKEL_splash::closed, this, [this] { leave(screen_id::about, std::nullopt); },
+        Qt::QueuedConnection);
     return about;
 }
 
-QWidget* program::make_viewer() {
+QWidget* program::make_viewer(screen_id /*id*/) {
     auto* viewer = new FullScreen(state_, person_, report_folder_);
     connect(
         viewer, &FullScreen::closed, this, [this] { close_viewer(); }, Qt::QueuedConnection);
@@ -208,8 +217,10 @@ QWidget* program::make_viewer() {
 QWidget* program::made(screen_id id) {
     if (QWidget* there = screen(id)) return there;
     const screen_row& row = row_of(id);
-    QWidget* widget = (this->*row.make)();
-    screens_[id].reset(widget);
+    standing made{nullptr, rows_behind(id), stamp_of(state_.assess_file)};
+    made.widget.reset((this->*row.make)(id));
+    QWidget* widget = made.widget.get();
+    screens_[id] = std::move(made);
     const auto kept = sizes_.find(id);
     if (kept != sizes_.end())
         widget->restoreGeometry(kept->second);
@@ -219,28 +230,28 @@ QWidget* program::made(screen_id id) {
 }
 
 void program::show_screen(screen_id id) {
+    const bool there = screen(id) != nullptr;
+    follow_assessment(id);
+    if (there && !screen(id)) return;  // it went with its assessment, and showed what follows
     QWidget* widget = made(id);
+    screens_[id].seen = true;
     widget->show();
     widget->raise();
     widget->activateWindow();
 }
 
+// The screen goes first: one that cannot load what it leads back to must not stay because of that.
 void program::leave(screen_id id, std::optional<screen_id> back) {
-    if (back) show_screen(*back);
     const auto found = screens_.find(id);
-    if (found == screens_.end()) return;
-    sizes_[id] = found->second->saveGeometry();
-    found->second.release()->deleteLater();
-    screens_.erase(found);
+    if (found != screens_.end()) {
+        sizes_[id] = found->second.widget->saveGeometry();
+        found->second.widget.release()->deleteLater();
+        screens_.erase(found);
+    }
+    if (back) show_screen(*back);
+    follow_assessment();
     refresh_front();
-    if (id == screen_id::years) load_modules_in_view();
-}
-
-// The years dialog may have opened another assessment under a module, also by a Browse that was then
-// cancelled.
-void program::load_modules_in_view() {
-    for (const screen_row& row : screen_table())
-        if (module_of(row.id) && module_of(row.id)->isVisible()) load_if_other_file(row.id);
+    end_without_windows();
 }
 
 void program::open(screen_id id) {
@@ -248,16 +259,26 @@ void program::open(screen_id id) {
     {
         const waiting busy;
         made(id);
-        load_if_other_file(id);
+        follow_assessment(id);
+        // What was loaded hidden is shown as it was loaded, until somebody writes to its file.
+        const standing& screen = screens_[id];
+        if (module_of(id) && !screen.seen && screen.file != stamp_of(state_.assess_file)) load_anew(id);
     }
     if (id == screen_id::years && !(there && screen(id)->isVisible()))
         static_cast<Year_Picker*>(screen(id))->open();
     show_screen(id);
+    follow_assessment();
 }
 
 void program::open_in_place_of(screen_id opener, screen_id id) {
     open(id);
-    screen(opener)->hide();
+    if (screen(opener)) screen(opener)->hide();
+}
+
+// Nothing is left that could be closed: the program must not run on unseen.
+void program::end_without_windows() {
+    const auto visible = [](const auto& entry) { return entry.second.widget->isVisible(); };
+    if (!ended_ && std::none_of(screens_.begin(), screens_.end(), visible)) front_.close_window();
 }
 
 bool program::exists(screen_id id) const {
@@ -270,9 +291,14 @@ bool program::start_updater(const std::string& path) {
 }
 
 void program::end() {
-    for (const auto& [id, widget] : screens_)
-        widget->hide();
+    ended_ = true;
+    for (const auto& [id, screen] : screens_)
+        screen.widget->hide();
     emit ended();
+}
+
+bool program::in_view(screen_id id) const {
+    return screen(id) && screen(id)->isVisible();
 }
 
 void program::wait_cursor(bool on) {
@@ -284,8 +310,6 @@ void program::wait_cursor(bool on) {
 
 void program::hide_screen(screen_id id) {
     made(id)->hide();
-    if (module_screen* module = module_of(id))
-        if (module->loaded_file().empty()) module->set_loaded_file(state_.assess_file);
 }
 
 void program::show(const viewer_request& request) {
@@ -304,7 +328,6 @@ void program::reload(picker_module caller) {
 
 void program::refresh_front() {
     if (auto* front = static_cast<frmKEL_front*>(screen(screen_id::front))) front->refresh();
-    if (auto* profile = static_cast<frmProfile*>(screen(screen_id::profile))) profile->refresh();
 }
 
 }  // namespace kel

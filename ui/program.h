@@ -11,6 +11,7 @@
 #include <string>
 
 #include "core/application_state.h"
+#include "core/file_stamp.h"
 #include "core/prompts.h"
 #include "profile/profile_module.h"
 #include "reports/report_viewer.h"
@@ -44,6 +45,7 @@ class program : public QObject, public desktop, public report_viewer {
     void open(screen_id id) override;
     void open_in_place_of(screen_id opener, screen_id id) override;
     bool exists(screen_id id) const override;
+    bool in_view(screen_id id) const override;
     bool start_updater(const std::string& path) override;
     void end() override;
 
@@ -59,14 +61,24 @@ class program : public QObject, public desktop, public report_viewer {
     static std::span<const screen_row> screen_table();
     static const screen_row& row_of(screen_id id);
 
-    QWidget* make_front();
-    QWidget* make_profile();
-    QWidget* make_location();
-    QWidget* make_years();
-    QWidget* make_about();
-    QWidget* make_viewer();
+    /// A screen in being and what it holds.
+    struct standing {
+        std::unique_ptr<QWidget> widget;
+        int rows = 0;       // rows_behind as it was when they were loaded
+        file_stamp file{};  // the same of the file
+        bool seen = false;  // in view since: there may be work in it
+    };
+
+    // The factories of the table.
+    QWidget* make_front(screen_id id);
+    QWidget* make_profile(screen_id id);
+    QWidget* make_location(screen_id id);
+    QWidget* make_years(screen_id id);
+    QWidget* make_about(screen_id id);
+    QWidget* make_viewer(screen_id id);
     template <class Screen>
-    QWidget* make_module();
+    QWidget* make_module(screen_id id);
+    QWidget* connected(screen_id id, module_screen* module);
 
     QWidget* made(screen_id id);
     void show_screen(screen_id id);
@@ -74,10 +86,15 @@ class program : public QObject, public desktop, public report_viewer {
     /// time.
     void leave(screen_id id, std::optional<screen_id> back);
     module_screen* module_of(screen_id id) const;
-    void load_if_other_file(screen_id id);
-    void load_modules_in_view();
+    /// What moves on when other rows come to stand behind the screen.
+    int rows_behind(screen_id id) const;
+    /// Every screen in view shows the assessment that is now open, or goes. Called wherever a person can have
+    /// opened another one.
+    void follow_assessment();
+    void follow_assessment(screen_id id);
     void load_anew(screen_id id);
     void close_viewer();
+    void end_without_windows();
     void reload(picker_module caller);
     void refresh_front();
 
@@ -87,8 +104,9 @@ class program : public QObject, public desktop, public report_viewer {
     profile_module profile_;
     assessments_module front_;
     years_module years_;
-    std::map<screen_id, std::unique_ptr<QWidget>> screens_;
+    std::map<screen_id, standing> screens_;
     std::map<screen_id, QByteArray> sizes_;
+    bool ended_ = false;
     std::string report_folder_;  // of the viewer's last save
 };
 

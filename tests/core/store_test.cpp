@@ -10,6 +10,8 @@
 #include <array>
 #include <filesystem>
 
+#include "core/file_stamp.h"
+#include "core/text_grid.h"
 #include "core/whole_file.h"
 #include "tests/support/farm_files.h"
 
@@ -233,6 +235,27 @@ void in_a_process(const std::function<void()>& work) {
         _exit(0);
     }
     waitpid(child, nullptr, 0);
+}
+
+// Size and time alone would miss a quick save of as many rows.
+TEST_F(Store, AStampTellsReadingFromWritingAndNeverThrows) {
+    open_farm({});
+    save_items(state.assess_file, items(3, "old"));
+    const file_stamp before = stamp_of(state.assess_file);
+    column_of(state.assess_file, "Misc", "Value");
+    EXPECT_EQ(stamp_of(state.assess_file), before);
+    save_items(state.assess_file, items(3, "new"));
+    std::filesystem::last_write_time(state.assess_file, before.written);
+    EXPECT_NE(stamp_of(state.assess_file), before);
+    EXPECT_NE(stamp_of(path("gone.kel")), stamp_of(path("never.kel")));
+    EXPECT_EQ(stamp_of(""), file_stamp{});
+}
+
+TEST_F(Store, AGridRefusesToEraseARowThatItDoesNotHave) {
+    text_grid grid = items(2, "kept");
+    for (const int row : {-1, 3, 100})
+        EXPECT_THROW(grid.erase_row(row), std::out_of_range);
+    EXPECT_EQ(grid.row_count(), 3);
 }
 
 TEST_F(Store, AKillInTheMiddleOfASaveLeavesTheOldRowsWhole) {

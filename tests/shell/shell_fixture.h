@@ -32,6 +32,7 @@ struct recording_screens : desktop, report_viewer {
         hide_screen(opener);
     }
     bool exists(screen_id) const override { return true; }
+    bool in_view(screen_id) const override { return false; }
     bool start_updater(const std::string&) override { return told.push_back({"start"}), updater_starts; }
     void end() override { told.push_back({"end"}); }
     void wait_cursor(bool on) override { told.push_back({on ? "wait" : "ready"}); }

@@ -147,6 +147,7 @@ TEST_F(FirstFarm, CancelledNewFarmBringsTheOpenOneBack) {
     ASSERT_TRUE(in_view("front"));
     EXPECT_EQ(run->state().assess_file, state.assess_file);
     EXPECT_EQ(shown_text("front", "lblFront_farm"), "Test Farm");
+    press("front", "cmdFront_edit");
     EXPECT_EQ(cell(grid("profile", "MSFlexGridFields"), 0, 0), "Long Rig");
 }
 

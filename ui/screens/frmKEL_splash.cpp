@@ -1,5 +1,6 @@
 #include "ui/screens/frmKEL_splash.h"
 
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
@@ -76,6 +77,11 @@ void frmKEL_splash::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+void frmKEL_splash::closeEvent(QCloseEvent* event) {
+    event->accept();
+    emit closed();
 }
 
 }  // namespace kel

@@ -14,9 +14,11 @@ class frmKEL_splash : public QWidget {
   signals:
     /// A logo was pressed: its web page is to be shown.
     void page_wanted(const QString& address);
+    void closed();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 };
 
 }  // namespace kel

@@ -34,9 +34,7 @@ void show_text(QLineEdit* edit, const std::string& text) {
 }  // namespace
 
 frmProfile::frmProfile(profile_module& module, report_desk& desk, application_state& state)
-    : module_(module), desk_(desk), state_(state) {
-    setObjectName("frmProfile");
-    setWindowTitle(tr("Farm Profile"));
+    : module_screen("frmProfile", tr("Farm Profile")), module_(module), desk_(desk), state_(state) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(10);
     layout->addWidget(farm_entries());
@@ -44,7 +42,7 @@ frmProfile::frmProfile(profile_module& module, report_desk& desk, application_st
     grid_->setAccessibleName(tr("Fields"));
     layout->addWidget(field_entries());
     layout->addWidget(grid_, 1);
-    layout->addWidget(main_buttons());
+    layout->addLayout(main_buttons());
     add_entry_boxes();
     refresh();
 }
@@ -104,63 +102,39 @@ QWidget* frmProfile::field_entries() {
     count_->setFixedWidth(90);
     auto* caption = new QLabel(tr("Num&ber of fields:"), panel);
     caption->setBuddy(count_);
-    create_ = new QPushButton(panel);
-    create_->setObjectName("Command1");
-    auto* paste_both = new QPushButton(tr("&Paste from Excel (names and sizes)"), panel);
-    paste_both->setObjectName("Command3");
-    paste_both->setToolTip(tr("Field names and areas copied from two columns of a spreadsheet"));
-    auto* paste_names = new QPushButton(tr("Paste from E&xcel (names only)"), panel);
-    paste_names->setObjectName("Command2");
-    paste_names->setToolTip(tr("Field names copied from one column of a spreadsheet"));
     row->addWidget(caption);
     row->addWidget(count_);
-    row->addWidget(create_);
+    create_ = add_command(row, {}, "Command1", [this] { and_refresh([this] { module_.create_fields(); }); });
     row->addStretch();
-    row->addWidget(paste_both);
-    row->addWidget(paste_names);
+    const auto clipboard = [] { return from_qt(QApplication::clipboard()->text()); };
+    add_command(row, tr("&Paste from Excel (names and sizes)"), "Command3", [this, clipboard] {
+        and_refresh([&] { module_.paste_names_and_sizes(clipboard()); });
+    })->setToolTip(tr("Field names and areas copied from two columns of a spreadsheet"));
+    add_command(row, tr("Paste from E&xcel (names only)"), "Command2", [this, clipboard] {
+        and_refresh([&] { module_.paste_names(clipboard()); });
+    })->setToolTip(tr("Field names copied from one column of a spreadsheet"));
+    disable_meanwhile(count_);
     connect(count_, &QLineEdit::textChanged, this, [this](const QString& t) {
         module_.set_field_count(from_qt(t));
         create_->setText(qt(module_.create_caption()));
     });
     connect(count_, &QLineEdit::returnPressed, this,
             [this] { and_refresh([this] { module_.create_fields(); }); });
-    connect(create_, &QPushButton::clicked, this,
-            [this] { and_refresh([this] { module_.create_fields(); }); });
-    const auto clipboard = [] { return from_qt(QApplication::clipboard()->text()); };
-    connect(paste_both, &QPushButton::clicked, this,
-            [this, clipboard] { and_refresh([&] { module_.paste_names_and_sizes(clipboard()); }); });
-    connect(paste_names, &QPushButton::clicked, this,
-            [this, clipboard] { and_refresh([&] { module_.paste_names(clipboard()); }); });
-    main_buttons_ = {create_, paste_both, paste_names, count_};
     return panel;
 }
 
-QWidget* frmProfile::main_buttons() {
-    auto* panel = new QWidget(this);
-    auto* row = new QHBoxLayout(panel);
-    row->setContentsMargins(0, 0, 0, 0);
-    const auto button = [&](const QString& caption, const char* name, auto action) {
-        auto* made = new QPushButton(caption, panel);
-        made->setObjectName(name);
-        connect(made, &QPushButton::clicked, this, action);
-        main_buttons_.push_back(made);
-        row->addWidget(made);
-        return made;
-    };
-    button(tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
-    button(tr("&Open Assessments"), "cmdProfile_open", [this] {
+QLayout* frmProfile::main_buttons() {
+    auto* row = new QHBoxLayout;
+    add_command(row, tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
+    add_command(row, tr("&Open Assessments"), "cmdProfile_open", [this] {
         state_.picker_caller = picker_module::profile;
         emit years_wanted();
     });
-    auto* import = new QPushButton(tr("Add records from another file"), panel);
-    import->setObjectName("cmdProfile_import");
-    import->setEnabled(false);
-    import->setToolTip(tr("Not part of this version"));
-    row->addWidget(import);
+    add_missing_command(row, tr("Add records from another file"), "cmdProfile_import");
     row->addStretch();
-    button(tr("&Cancel"), "cmdProfile_cancel", [this] { cancel(); });
-    button(tr("&Set Profile"), "cmdProfile_set", [this] { set_profile(); });
-    return panel;
+    add_command(row, tr("&Cancel"), "cmdProfile_cancel", [this] { cancel(); });
+    add_command(row, tr("&Set Profile"), "cmdProfile_set", [this] { set_profile(); });
+    return row;
 }
 
 void frmProfile::add_entry_boxes() {
@@ -180,19 +154,12 @@ void frmProfile::add_entry_boxes() {
     const std::vector buttons{clear_button(runs(module_, &module::clear_cell)),
                               erase_button(runs(module_, &module::erase_row))};
     // clang-format off
-    auto* boxes = new box_set(*grid_, this);
-    for (const box_row& row : std::vector<box_row>{
+    add_boxes(*grid_, click, {
         {profile_box::name, "Profile_fname", runs(module_, &module::enter_name), buttons},
         {profile_box::area, "Profile_farea", enter_area, buttons},
         {profile_box::soil, "Profile_soil", enter_soil, buttons},
-    }) {
-        // clang-format on
-        boxes_.push_back(boxes->add(row));
-        boxes_.back()->set_disabled_meanwhile(&main_buttons_);
-        connect(boxes_.back(), &entry_box::closed, this, &frmProfile::refresh);
-    }
-    connect(grid_, &grid_view::cell_chosen, boxes,
-            [boxes, click](int row, int column) { boxes->open(click(row, column)); });
+    });
+    // clang-format on
 }
 
 template <class Work>
@@ -226,12 +193,9 @@ void frmProfile::set_profile() {
 }
 
 void frmProfile::cancel() {
-    for (entry_box* box : boxes_)
-        box->close_box();
     // The assessments screen comes back even if the last assessment cannot be read any more.
     emit left();
     module_.cancel();
-    refresh();
 }
 
 bool frmProfile::eventFilter(QObject* watched, QEvent* event) {
@@ -255,7 +219,7 @@ void frmProfile::showEvent(QShowEvent* event) {
 }
 
 void frmProfile::closeEvent(QCloseEvent* event) {
-    event->ignore();
+    event->accept();
     cancel();
 }
 

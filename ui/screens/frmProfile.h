@@ -1,36 +1,31 @@
-// The profile screen: the farm, its place and its fields. It stays alive between uses.
+// The profile screen: the farm, its place and its fields. What is entered stays in the module between uses.
 #pragma once
 
-#include <QWidget>
-
 #include "profile/profile_module.h"
+#include "ui/widgets/module_screen.h"
 
 class QComboBox;
 class QGroupBox;
+class QLayout;
 class QLineEdit;
-class QPushButton;
 
 namespace kel {
 
-class entry_box;
-class grid_view;
-
-class frmProfile : public QWidget {
+class frmProfile : public module_screen {
     Q_OBJECT
 
   public:
     frmProfile(profile_module& module, report_desk& desk, application_state& state);
 
-    /// Shows the working copy as it now is.
-    void refresh();
+    /// Shows the working copy, which the opening of an assessment has already filled.
+    void reload() override { refresh(); }
 
   signals:
-    /// Saved or cancelled: the assessments screen comes back.
-    void left();
     void location_wanted();
-    void years_wanted();
 
   protected:
+    bool may_close() override { return true; }
+    void refresh() override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,7 +33,7 @@ class frmProfile : public QWidget {
   private:
     QWidget* farm_entries();
     QWidget* field_entries();
-    QWidget* main_buttons();
+    QLayout* main_buttons();
     void add_entry_boxes();
     void set_profile();
     void cancel();
@@ -57,8 +52,6 @@ class frmProfile : public QWidget {
     QGroupBox* year_frame_;
     QPushButton* create_;
     grid_view* grid_;
-    std::vector<entry_box*> boxes_;
-    std::vector<QWidget*> main_buttons_;
 };
 
 }  // namespace kel

@@ -31,9 +31,6 @@ class module_screen : public QWidget {
     virtual void reload() = 0;
     /// The same, with every entry box closed first: its cell may be gone.
     void reload_all();
-    /// The assessment whose rows this screen holds.
-    const std::string& loaded_file() const { return loaded_file_; }
-    void set_loaded_file(const std::string& path) { loaded_file_ = path; }
     /// The screen to show when this one closes.
     virtual screen_id closes_to() const { return screen_id::front; }
 
@@ -65,7 +62,6 @@ class module_screen : public QWidget {
   private:
     std::vector<QWidget*> main_controls_;
     std::vector<entry_box*> boxes_;
-    std::string loaded_file_;
 };
 
 }  // namespace kel
