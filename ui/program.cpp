@@ -114,7 +114,10 @@ module_screen* program::module_of(screen_id id) const {
 int program::rows_behind(screen_id id) const {
     // The profile and its map show a working copy of their own, which is read anew at every opening.
     const bool of_profile = id == screen_id::profile || id == screen_id::location;
-    return of_profile ? profile_.loads() : state_.assessment;
+    if (of_profile) return profile_.loads();
+    // Step 3 works on this year's or on last year's file, as its opener has it.
+    if (id == screen_id::manure) return state_.assessment * 10 + static_cast<int>(state_.manure_caller);
+    return state_.assessment;
 }
 
 void program::follow_assessment() {

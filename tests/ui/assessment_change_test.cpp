@@ -123,6 +123,22 @@ TEST_F(AssessmentChange, AYearCreatedOntoTheOpenFileLoadsTheStepAnewThoughTheDia
     EXPECT_EQ(cell(grid("inorg", "MSFlexGridInorganic"), 0, 0), "");
 }
 
+// Last year's applications must not be saved into this year's file.
+TEST_F(AssessmentChange, Step3OpenedForThisYearDoesNotKeepTheRowsOfLastYear) {
+    const std::string last = make_farm("last.kel", {{"Long Rig", "15"}}, 2023);
+    add_row(last, "Manure_applic", {{"Field Area ID", "Long Rig"}, {"Manure Type", "Layer manure"}});
+    start_with({{"Long Rig", "15"}});
+    run->state().prev1_file = last;
+    run->state().manure_caller = manure_opener::old_crop;
+    run->open(screen_id::manure);
+    ASSERT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 0), "Long Rig");
+    press("front", "cmdFront_manure");
+    EXPECT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 0), "");
+    press("reduction", "cmdReductions_save");
+    EXPECT_TRUE(stored("Manure_applic", "Field Area ID").empty());
+    EXPECT_EQ(column_of(last, "Manure_applic", "Field Area ID"), texts{"Long Rig"});
+}
+
 // Step 1 is brought into being hidden behind the contents page.
 TEST_F(AssessmentChange, AStepLoadedHiddenIsLoadedAnewOnceItsFileHasChanged) {
     start_with({{"Long Rig", "15"}});
