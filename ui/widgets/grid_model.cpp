@@ -18,6 +18,11 @@ QColor calculated_ground() {
     return base.lightness() > 127 ? base.darker(112) : base.lighter(160);
 }
 
+// Figures, ranges and dates; a code that begins with a digit is none.
+bool is_figure(const std::string& text) {
+    return !text.empty() && text.find_first_not_of("0123456789.-/ ") == std::string::npos;
+}
+
 }  // namespace
 
 grid_model::grid_model(const text_grid& grid, QObject* parent)
@@ -57,9 +62,7 @@ QVariant grid_model::data(const QModelIndex& index, int role) const {
             return plain_tip(qt(grid_->cell(index.row(), index.column())).left(longest_tip));
         case Qt::TextAlignmentRole: {
             const std::string& text = grid_->cell(index.row(), index.column());
-            const bool figure =
-                !text.empty() && (text[0] == '-' || text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
-            const bool figures_column = index.column() > 0 && figure;
+            const bool figures_column = index.column() > 0 && is_figure(text);
             return QVariant(Qt::AlignVCenter | (figures_column ? Qt::AlignRight : Qt::AlignLeft));
         }
         case Qt::BackgroundRole:
