@@ -40,8 +40,12 @@ std::string join_path(std::string_view folder, std::string_view name) {
 std::string installation::blank_assessment() const {
     return join_path(program_folder, "dbases/blank.mdb");
 }
+// An adviser's own tables go before those that came with the program.
 std::string installation::grass_tables() const {
-    return join_path(program_folder, "dbases/wren_grass.mdb");
+    constexpr std::string_view tables = "dbases/wren_grass.mdb";
+    const std::string own = join_path(written_folder, tables);
+    std::error_code ignored;
+    return fs::exists(own, ignored) ? own : join_path(program_folder, tables);
 }
 std::string installation::climate_tables() const {
     return join_path(install_root, "scdb/scdb.mdb");

@@ -25,7 +25,7 @@ struct installation {
     std::string written_folder;  // settings store, reports, User_files
 
     std::string blank_assessment() const;  // dbases/blank.mdb
-    std::string grass_tables() const;      // dbases/wren_grass.mdb
+    std::string grass_tables() const;      // dbases/wren_grass.mdb, from the written folder if it is there
     std::string climate_tables() const;    // scdb/scdb.mdb
     std::string settings_store() const;    // kelstore.ini
     std::string user_files() const;        // User_files

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "core/file_error.h"
 #include "core/whole_file.h"
 #include "tests/support/farm_files.h"
@@ -73,9 +75,11 @@ TEST_F(DamagedGrassTables, AMissingRowIsRefused) {
         "in the table [Grass_adjust] the cell Clover High, Management Grazing, Cuts 0, Apps 1 is missing.");
 }
 
-TEST_F(DamagedGrassTables, AnAdvisersFiguresAreTaken) {
-    set("Grass_Recs", "Group 3", "-12.5");
-    EXPECT_EQ(grass_tables(database(copy)).grass_rec_value("High", "2", "Group 3"), -12.5F);
+TEST_F(DamagedGrassTables, AnAdvisersTablesGoBeforeTheProgramsOwn) {
+    EXPECT_EQ(state.places.grass_tables(), built);
+    std::filesystem::create_directory(path("dbases"));
+    std::filesystem::rename(copy, path("dbases/wren_grass.mdb"));
+    EXPECT_EQ(state.places.grass_tables(), path("dbases/wren_grass.mdb"));
 }
 
 }  // namespace kel::test

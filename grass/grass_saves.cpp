@@ -1,0 +1,133 @@
+// What the module writes into the file, and what it takes from another one.
+#include "core/file_choice.h"
+#include "core/whole_file.h"
+#include "grass/grass_messages.h"
+#include "grass/grass_module.h"
+#include "rules/recommendations.h"
+
+namespace kel {
+
+namespace text = grass_messages;
+
+bool grass_module::take_save_file() {
+    const std::string chosen = choose_file_to_save(state_, person_, text::save_title);
+    if (chosen.empty()) return false;
+    if (!state_.prev1_file.empty() && same_file(chosen, state_.prev1_file)) {
+        person_.tell(text::last_years_file);
+        return false;
+    }
+    if (same_file(chosen, state_.assess_file)) return true;
+    copy_whole_file(state_.assess_file, chosen);
+    state_.assess_file = chosen;
+    return true;
+}
+
+bool grass_module::save(void (*write)(const database&, const grass_farm&)) {
+    const database db(state_.assess_file);
+    save_transaction transaction(db);
+    write(db, farm_);
+    transaction.commit();
+    return true;
+}
+
+bool grass_module::cmdSite_save() {
+    if (!have_file_to_save(state_, person_)) return false;
+    return save([](const database& db, const grass_farm& farm) { save_site(db, farm.site); });
+}
+
+bool grass_module::cmdLU_save() {
+    if (!take_save_file()) return false;
+    save([](const database& db, const grass_farm& farm) {
+        save_livestock(db, farm.livestock);
+        save_stocking(db, farm.stocking);
+    });
+    take_saved_livestock();
+    return true;
+}
+
+bool grass_module::cmdGrass_SU_save() {
+    if (!take_save_file()) return false;
+    return save([](const database& db, const grass_farm& farm) { save_stocking(db, farm.stocking); });
+}
+
+bool grass_module::cmdGrass_rec_save() {
+    if (!take_save_file()) return false;
+    const database db(state_.assess_file);
+    save_transaction transaction(db);
+    save_silage_rates(db, silage_.plan());
+    transaction.commit();
+    silage_.keep_rates();
+    return true;
+}
+
+void grass_module::save_rec() {
+    const text_grid& results = site_.results();
+    std::vector<recommendation> found;
+    for (int row = 0; row < results.row_count(); ++row)
+        found.push_back({results.cell(row, grass_result_column::field),
+                         results.cell(row, grass_result_column::to_be_applied)});
+    const database db(state_.assess_file);
+    save_transaction transaction(db);
+    save_recommendations(db, found);
+    transaction.commit();
+}
+
+opening grass_module::change_database() const {
+    return {stocking_box::change_database,
+            text::change_database_caption,
+            {},
+            {{part_kind::options,
+              {},
+              {std::string(text::merge_choice), std::string(text::overwrite_choice),
+               std::string(text::new_assessment_choice)}}}};
+}
+
+outcome grass_module::enter_change_database(const std::string& choice) {
+    if (choice.empty()) return refuse(person_, text::no_value);
+    if (choice == text::new_assessment_choice) {
+        farm_.site = empty_site_grid();
+        farm_.livestock = empty_livestock_grid();
+    } else {
+        const bool replace = choice == text::overwrite_choice;
+        const std::string file =
+            choose_file_to_open(state_, person_, replace ? text::overwrite_title : text::merge_title);
+        if (file.empty()) return box_stays();
+        take_from(database(file), replace);
+    }
+    stocking_.fill();
+    silage_.clear();
+    return box_closes();
+}
+
+namespace {
+
+// The rows of `from` that `into` has no row of in its first column, or all of them in place of its own.
+void take_rows(text_grid& into, const text_grid& from, bool replace) {
+    if (from.data_row_count() == 0) return;
+    if (replace) {
+        into = from;
+        return;
+    }
+    for (int row = 0; row < from.data_row_count(); ++row) {
+        if (into.find(0, from.cell(row, 0)) >= 0) continue;
+        const int at = into.row_count() - 1;
+        for (int c = 0; c < into.column_count(); ++c)
+            into.set_cell(at, c, from.cell(row, c));
+        into.add_row();
+    }
+}
+
+}  // namespace
+
+// An empty table leaves the one here as it is, as with every import.
+void grass_module::take_from(const database& other, bool replace) {
+    load_messages told;
+    const text_grid site = load_site(other, farm_.fields, told);
+    const text_grid livestock = load_livestock(other);
+    take_rows(farm_.site, site, replace);
+    take_rows(farm_.livestock, livestock, replace);
+    site_.set_site_classes();
+    told.tell(person_);
+}
+
+}  // namespace kel

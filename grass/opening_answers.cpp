@@ -1,0 +1,69 @@
+#include "grass/opening_answers.h"
+
+#include "core/assessment_store.h"
+#include "grass/site_class.h"
+
+namespace kel {
+
+namespace {
+
+constexpr std::string_view table = "Grass_data";
+constexpr std::string_view rain_column = "Apr-Sep Rain";
+constexpr std::string_view altitude_column = "Altitude";
+
+int place_of(const rain_level* level) {
+    return static_cast<int>(level - rain_levels().data());
+}
+int place_of(const altitude_level* level) {
+    return static_cast<int>(level - altitude_levels().data());
+}
+
+void add_stored(const std::string& file, opening_answers& answers) {
+    if (file.empty() || (answers.rain && answers.altitude)) return;
+    const recordset row = database(file).open(table);
+    if (row.eof()) return;
+    if (!answers.rain)
+        if (const rain_level* const level = rain_level_stored_as(row.text(rain_column)))
+            answers.rain = place_of(level);
+    if (!answers.altitude)
+        if (const altitude_level* const level = altitude_level_stored_as(row.text(altitude_column)))
+            answers.altitude = place_of(level);
+}
+
+// At most one row; it is made when the first answer is kept.
+void store(const std::string& file, std::string_view column, std::string_view answer) {
+    const database db(file);
+    save_transaction transaction(db);
+    recordset row = db.open(table);
+    if (row.eof())
+        row.add_new();
+    else if (row.text(column) == answer)
+        return;
+    else
+        row.edit();
+    row.set(column, answer);
+    row.update();
+    transaction.commit();
+}
+
+}  // namespace
+
+opening_answers answers_in_advance(const application_state& state) {
+    opening_answers answers;
+    add_stored(state.assess_file, answers);
+    add_stored(state.prev1_file, answers);
+    if (!answers.rain)
+        if (const auto mm = apr_to_sep_rain_mm(database(state.places.climate_tables())))
+            answers.rain = place_of(&rain_level_of(*mm));
+    return answers;
+}
+
+void store_rain(const application_state& state, int answer) {
+    store(state.assess_file, rain_column, rain_levels()[static_cast<std::size_t>(answer)].stored);
+}
+
+void store_altitude(const application_state& state, int answer) {
+    store(state.assess_file, altitude_column, altitude_levels()[static_cast<std::size_t>(answer)].stored);
+}
+
+}  // namespace kel
