@@ -14,6 +14,7 @@
 #include "ui/screens/Scotland.h"
 #include "ui/screens/Year_Picker.h"
 #include "ui/screens/frmCrops_new.h"
+#include "ui/screens/frmGrass_new.h"
 #include "ui/screens/frmInorganic.h"
 #include "ui/screens/frmKEL_front.h"
 #include "ui/screens/frmKEL_splash.h"
@@ -50,7 +51,7 @@ struct program::screen_row {
 // Every screen of the program. A new one is a row here.
 std::span<const program::screen_row> program::screen_table() {
     // clang-format off
-    static constexpr std::array<screen_row, 11> table{{
+    static constexpr std::array<screen_row, 12> table{{
         // identity             text          years dialog              width height  made by
         {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
         {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
@@ -60,6 +61,7 @@ std::span<const program::screen_row> program::screen_table() {
         {screen_id::manure,     "reduction",  picker_module::manure,     1250, 720,  &program::make_module<frmReductions>},
         {screen_id::inorganic,  "inorg",      picker_module::inorganic,  1220, 720,  &program::make_module<frmInorganic>},
         {screen_id::crops,      "crop",       picker_module::crops,      1220, 720,  &program::make_module<frmCrops_new>},
+        {screen_id::grass,      "grass",      picker_module::grass,      1220, 720,  &program::make_module<frmGrass_new>},
         {screen_id::years,      "years",      picker_module::front,         0,   0,  &program::make_years},
         {screen_id::about,      "splash",     picker_module::front,         0,   0,  &program::make_about},
         {screen_id::viewer,     "viewer",     picker_module::front,      1040, 740,  &program::make_viewer},

@@ -1,0 +1,265 @@
+// The grassland screen: both routes through its real widgets, the ways between them, and the keyboard alone.
+#include <QRadioButton>
+#include <QTabWidget>
+
+#include "core/module_messages.h"
+#include "grass/grass_messages.h"
+#include "tests/ui/screen_fixture.h"
+
+namespace kel::test {
+
+namespace text = grass_messages;
+
+class GrassScreen : public screen_test {
+  protected:
+    /// Two grass fields, of which one is stored, and a herd.
+    void start_farm() {
+        open_farm({{"Low Park", "20"}, {"Haugh", "10", "Sands"}});
+        add_row(state.assess_file, "Site",
+                {{"Field Area ID", "Haugh"},
+                 {"Soil Type", "Sands"},
+                 {"N residue group", "6"},
+                 {"Previous crop", "PG"},
+                 {"Clover", "Low"},
+                 {"Site Use", "Silage"},
+                 {"Cuts", "2"},
+                 {"Applications", "1"},
+                 {"Adjustment", "0"}});
+        write_store(state);
+        start();
+        press("front", "cmdFront_grassland");
+    }
+    void answer_opening() {
+        drive::control<QRadioButton>(screen("grass"), "optGrass_rain_2")->click();
+        press("grass", "cmdGrass_rain_enter");
+        drive::control<QRadioButton>(screen("grass"), "optGrass_altitude_1")->click();
+        press("grass", "cmdGrass_altitude_enter");
+    }
+    grid_view* table(const char* name) const { return grid("grass", name); }
+    void choose(grid_view* in, int row, int column, const char* box, const char* entry) {
+        drive::enter_choice(screen("grass"), in, row, column, box, entry);
+    }
+    void option(const char* name) { drive::control<QRadioButton>(screen("grass"), name)->click(); }
+    bool seen(const char* control) const { return drive::control(screen("grass"), control)->isVisible(); }
+    std::string told() const { return shown_text("grass", "lblGrass_instruction"); }
+    void expect_save() { person.expect_file(std::string(text::save_title), state.assess_file); }
+};
+
+TEST_F(GrassScreen, TheSiteRouteThroughItsButtons) {
+    start_farm();
+    ASSERT_TRUE(in_view("grass"));
+    EXPECT_EQ(told(), text::rain_instruction);
+    press("grass", "cmdGrass_rain_enter");
+    person.expect(text::no_value);
+    press("grass", "cmdGrass_altitude_enter");
+    press("grass", "cmdGrass_altitude_back");
+    answer_opening();
+    EXPECT_EQ(told(), text::table_instruction);
+    press("grass", "cmdSite_back");
+    EXPECT_TRUE(drive::control<QRadioButton>(screen("grass"), "optGrass_rain_2")->isChecked());
+    answer_opening();
+
+    grid_view* site = table("MSFlexGridSite");
+    choose(site, 1, 0, "Site_fieldID", "Low Park");
+    EXPECT_EQ(cell(site, 1, 2), "2");
+    drive::click_cell(site, 1, 3);
+    drive::choose_in_list(screen("grass"), "lstSite_pcrop", "Permanent grass");
+    press("grass", "cmdSite_pcrop_enter");
+    EXPECT_EQ(cell(site, 1, 4), "6");
+    drive::click_cell(site, 1, 5);
+    EXPECT_FALSE(drive::control(screen("grass"), "cmdSite_continue")->isEnabled());
+    option("optSite_clover_2");
+    press("grass", "cmdSite_clover_enter");
+    option("optSite_use_1");
+    press("grass", "cmdSite_use_enter");
+    press("grass", "cmdSite_cuts_low_enter");
+    press("grass", "cmdSite_after_low_enter");
+    EXPECT_EQ(cell(site, 1, 9), "-75");
+    drive::click_cell(site, 1, 10);
+    press("grass", "cmdSite_manure_transfer");
+    press("grass", "cmdSite_manure_enter");
+    EXPECT_EQ(cell(site, 1, 10), "0");
+    press("grass", "cmdSite_save");
+    EXPECT_EQ(column_of(state.assess_file, "Site", "Field Area ID"), (texts{"Haugh", "Low Park"}));
+    press("grass", "cmdSite_continue");
+    EXPECT_EQ(cell(table("MSFlexGridSite_result"), 1, 5), "110");
+    EXPECT_NE(shown_text("grass", "lblGrass_source").find("not an official table"), std::string::npos);
+    press("grass", "cmdGrass_report");
+    EXPECT_TRUE(in_view("viewer"));
+    press("viewer", "Command1");
+    ASSERT_TRUE(in_view("grass"));
+    press("grass", "cmdGrass_back");
+    EXPECT_EQ(column_of(state.assess_file, "Recommendations", "N required"), (texts{"170", "110"}));
+    drive::click_cell(site, 1, 5);
+    press("grass", "cmdSite_clover_delete");
+    EXPECT_EQ(site->model()->rowCount(), 2);
+    person.expect(module_messages::close_the_module, answer::yes);
+    press("grass", "cmdSite_cancel");
+    EXPECT_TRUE(in_view("front"));
+}
+
+TEST_F(GrassScreen, TheManureModuleComesBackToTheBoxThatOpenedIt) {
+    start_farm();
+    answer_opening();
+    grid_view* site = table("MSFlexGridSite");
+    drive::click_cell(site, 0, 11);
+    person.expect(text::no_linked_file);
+    press("grass", "cmdSite_pmanure_manures");
+    drive::key(focus(), Qt::Key_Escape);
+    drive::click_cell(site, 0, 10);
+    drive::type(screen("grass"), "txtSite_manure", "12");
+    press("grass", "cmdSite_manure_manures");
+    ASSERT_TRUE(in_view("reduction"));
+    EXPECT_FALSE(in_view("grass"));
+    person.expect(module_messages::close_module, answer::yes);
+    press("reduction", "cmdReductions_cancel");
+    ASSERT_TRUE(in_view("grass"));
+    EXPECT_TRUE(seen("fraSite_manure"));
+    press("grass", "cmdSite_manure_enter");
+    EXPECT_EQ(cell(site, 0, 10), "12");
+}
+
+TEST_F(GrassScreen, TheStockingRouteForwardAndBack) {
+    start_farm();
+    answer_opening();
+    drive::click_cell(table("MSFlexGridSite"), 0, 10);
+    drive::type(screen("grass"), "txtSite_manure", "12");
+    press("grass", "cmdSite_manure_enter");
+    choose(table("MSFlexGridSite"), 1, 0, "Site_fieldID", "Low Park");
+    press("grass", "cmdSite_stocking");
+    grid_view* livestock = table("MSFlexGridGrass_LU");
+    choose(livestock, 0, 0, "LU_type", "Dairy cows");
+    drive::enter_number(screen("grass"), livestock, 0, 1, "LU_number", "100");
+    drive::enter_number(screen("grass"), livestock, 0, 2, "LU_time", "100");
+    choose(livestock, 1, 0, "LU_type", "Horses");
+    drive::click_cell(livestock, 1, 0);
+    press("grass", "cmdLU_type_erase");
+    expect_save();
+    press("grass", "cmdLU_save");
+    expect_save();
+    person.expect(text::average_stocking_rate("3.3"));
+    press("grass", "cmdLU_continue");
+    EXPECT_EQ(told(), text::stocking_instruction);
+
+    grid_view* stocking = table("MSFlexGridSU");
+    drive::click_cell(stocking, 1, 4);
+    option("optSU_use_1");
+    press("grass", "cmdSU_use_enter");
+    choose(stocking, 1, 5, "SU_type", "Dairy cows");
+    drive::enter_number(screen("grass"), stocking, 1, 6, "SU_number", "50");
+    drive::enter_number(screen("grass"), stocking, 1, 7, "SU_time", "100");
+    press("grass", "cmdSU_back");
+    EXPECT_EQ(told(), text::table_instruction);
+    EXPECT_EQ(cell(table("MSFlexGridSite"), 1, 6), "Grazing");
+    press("grass", "cmdSite_stocking");
+    EXPECT_EQ(told(), text::stocking_instruction);
+    drive::control<QTabWidget>(screen("grass"), "SSTabGrass")->setCurrentIndex(0);
+    EXPECT_EQ(told(), text::livestock_instruction);
+    press("grass", "cmdLU_back");
+    press("grass", "cmdSite_stocking");
+    drive::control<QTabWidget>(screen("grass"), "SSTabGrass")->setCurrentIndex(1);
+    expect_save();
+    press("grass", "cmdGrass_SU_save");
+    EXPECT_EQ(column_of(state.assess_file, "Site", "Livestock Group 1 (Number)"), (texts{"", "50"}));
+    EXPECT_EQ(column_of(state.assess_file, "Site", "Clover"), (texts{"Low", ""}));
+    expect_save();
+    press("grass", "cmdSU_continue");
+    grid_view* silage = table("MSFlexGridSilage");
+    EXPECT_EQ(cell(silage, 1, 4), "2.50");
+    EXPECT_EQ(cell(silage, 0, 3), "50.00");
+    EXPECT_NE(shown_text("grass", "lblGrass_summary").find("Left for silage: 50.00"), std::string::npos);
+
+    press("grass", "cmdGrass_vary");
+    EXPECT_FALSE(seen("cmdGrass_rec_save"));
+    person.expect(text::no_decrease);
+    press("grass", "cmdGrass_alter");
+    press("grass", "cmdGrass_finish");
+    EXPECT_FALSE(seen("fraGrass_vary"));
+    expect_save();
+    press("grass", "cmdGrass_rec_save");
+    EXPECT_EQ(column_of(state.assess_file, "Site", "Silage Rate"), (texts{"5.00", "2.50"}));
+    press("grass", "cmdGrass_rec_report");
+    press("viewer", "Command1");
+    press("grass", "cmdGrass_rec_back");
+    press("grass", "cmdSU_back");
+    EXPECT_EQ(cell(table("MSFlexGridSite"), 0, 10), "12");
+    EXPECT_TRUE(in_view("grass"));
+}
+
+TEST_F(GrassScreen, MovingFeedAndAnotherDatabase) {
+    start_farm();
+    answer_opening();
+    choose(table("MSFlexGridSite"), 1, 0, "Site_fieldID", "Low Park");
+    press("grass", "cmdSite_stocking");
+    drive::control<QTabWidget>(screen("grass"), "SSTabGrass")->setCurrentIndex(1);
+    grid_view* stocking = table("MSFlexGridSU");
+    drive::click_cell(stocking, 1, 4);
+    option("optSU_use_2");
+    press("grass", "cmdSU_use_enter");
+    expect_save();
+    press("grass", "cmdSU_continue");
+    press("grass", "cmdGrass_vary");
+    drive::choose_in_list(screen("grass"), "lstGrass_decrease", "Haugh");
+    drive::choose_in_list(screen("grass"), "lstGrass_increase", "Low Park");
+    press("grass", "cmdGrass_alter");
+    press("grass", "cmdGrass_alter");
+    EXPECT_EQ(cell(table("MSFlexGridSilage"), 1, 3), "0.2");
+    EXPECT_EQ(cell(table("MSFlexGridSilage"), 0, 3), "-0.2");
+    press("grass", "cmdGrass_finish");
+    press("grass", "cmdGrass_rec_back");
+    press("grass", "cmdSU_database");
+    option("optSU_database_3");
+    press("grass", "cmdSU_database_enter");
+    EXPECT_EQ(stocking->model()->rowCount(), 0);
+    person.expect(module_messages::close_the_module, answer::no);
+    press("grass", "cmdSU_cancel");
+    EXPECT_TRUE(in_view("grass"));
+}
+
+TEST_F(GrassScreen, AnotherAssessmentBeginsWithTheQuestionsAnew) {
+    start_farm();
+    answer_opening();
+    press("grass", "cmdSite_open");
+    ASSERT_TRUE(in_view("years"));
+    const std::string other = make_farm("other.kel", {{"Nook", "3"}});
+    add_row(other, "Grass_data", {{"Apr-Sep Rain", "<350"}, {"Altitude", "High"}});
+    person.expect_file("Open an existing assessment", other);
+    press("years", "cmdYear_browse1");
+    drive::control<QAbstractButton>(screen("years"), "chkYear_nolink")->click();
+    press("years", "cmdYear_ok");
+    EXPECT_EQ(told(), text::rain_instruction);
+    EXPECT_TRUE(drive::control<QRadioButton>(screen("grass"), "optGrass_rain_4")->isChecked());
+    EXPECT_EQ(table("MSFlexGridSite")->model()->rowCount(), 1);
+}
+
+// From the assessments screen to a recommendation and back without a mouse.
+TEST_F(GrassScreen, TheKeyboardAlone) {
+    start_farm();
+    press_key(Qt::Key_Down);
+    press_key(Qt::Key_Return);
+    press_key(Qt::Key_Down);
+    press_key(Qt::Key_Return);
+    ASSERT_EQ(focus_name(), "MSFlexGridSite");
+    press_key(Qt::Key_Down);
+    enter_text("Low");
+    press_key(Qt::Key_Right, 3);
+    press_key(Qt::Key_Return);
+    type_text("Perm");
+    press_key(Qt::Key_Return);
+    press_key(Qt::Key_Right, 2);
+    press_key(Qt::Key_Return);
+    press_key(Qt::Key_Down);
+    press_key(Qt::Key_Return);
+    press_key(Qt::Key_Down);
+    press_key(Qt::Key_Return, 3);
+    ASSERT_EQ(focus_name(), "MSFlexGridSite");
+    const texts expected{"Low Park", "Other mineral soils", "6", "Low", "Hay", "1", "1", "-110"};
+    const grid_view* site = table("MSFlexGridSite");
+    EXPECT_EQ((texts{cell(site, 1, 0), cell(site, 1, 1), cell(site, 1, 4), cell(site, 1, 5), cell(site, 1, 6),
+                     cell(site, 1, 7), cell(site, 1, 8), cell(site, 1, 9)}),
+              expected);
+    press_key(Qt::Key_C, 1, Qt::AltModifier);
+    EXPECT_EQ(focus_name(), "MSFlexGridSite_result");
+}
+
+}  // namespace kel::test
