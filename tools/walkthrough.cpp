@@ -78,6 +78,7 @@ class walk {
     void step4();
     void crops();
     void refused_malting_barley(grid_view* table);
+    void grassland();
     void reports();
     void help();
 
@@ -285,6 +286,51 @@ void walk::refused_malting_barley(grid_view* table) {
     drive::press(crops, "cmdCrops_field_erase");
 }
 
+// Both routes: the site table to its results, and from the livestock to the silage fields.
+void walk::grassland() {
+    drive::press(screen("front"), "cmdFront_grassland");
+    QWidget* grass = screen("grass");
+    const std::string file = program_.state().assess_file;
+    picture("grass", "grass_rainfall");
+    drive::press(grass, "cmdGrass_rain_enter");
+    drive::press(grass, "cmdGrass_altitude_enter");
+    picture("grass", "grass_site");
+    auto* site = drive::control<grid_view>(grass, "MSFlexGridSite");
+    drive::click_cell(site, 1, 3);
+    picture("grass", "grass_previous_sward");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    drive::click_cell(site, 1, 10);
+    drive::press(grass, "cmdSite_manure_transfer");
+    picture("grass", "grass_manures");
+    drive::press(grass, "cmdSite_manure_enter");
+    drive::press(grass, "cmdSite_save");
+    drive::press(grass, "cmdSite_stocking");
+    picture("grass", "grass_livestock");
+    person_.lay_ready(file);
+    drive::press(grass, "cmdLU_continue");
+    drive::click_cell(drive::control<grid_view>(grass, "MSFlexGridSU"), 4, 8);
+    picture("grass", "grass_stocking");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    person_.lay_ready(file);
+    drive::press(grass, "cmdSU_continue");
+    drive::press(grass, "cmdGrass_vary");
+    drive::choose_in_list(grass, "lstGrass_decrease", "Long Rig");
+    drive::choose_in_list(grass, "lstGrass_increase", "Lade Haugh");
+    drive::press(grass, "cmdGrass_alter");
+    picture("grass", "grass_silage");
+    drive::press(grass, "cmdGrass_finish");
+    picture("grass", "grass_silage_commands");
+    drive::press(grass, "cmdGrass_rec_back");
+    drive::press(grass, "cmdSU_back");
+    drive::press(grass, "cmdSite_continue");
+    picture("grass", "grass_results");
+    drive::press(grass, "cmdGrass_report");
+    picture("viewer", "report_grassland");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(grass, "cmdGrass_back");
+    drive::press(grass, "cmdSite_cancel");
+}
+
 void walk::reports() {
     drive::press(screen("front"), "cmdFront_edit");
     drive::press(screen("profile"), "cmdReport");
@@ -319,6 +365,7 @@ void walk::all() {
     step3();
     step4();
     crops();
+    grassland();
     reports();
     help();
 }
