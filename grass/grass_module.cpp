@@ -43,14 +43,17 @@ void grass_module::grass_load_stuff() {
     grass_farm farm;
     load_messages told;
     opening_answers answers;
+    loaded_rows loaded = loaded_;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
+        loaded.remember(db);
         farm.fields = read_farm_fields(db);
         farm.site = load_site(db, farm.fields, told);
         farm.livestock = load_livestock(db);
-        answers = answers_in_advance(state_);
+        answers = answers_in_advance(db, state_);
     }
     farm_ = std::move(farm);
+    loaded_ = std::move(loaded);
     take_saved_livestock();
     rain_answer_ = answers.rain;
     altitude_answer_ = answers.altitude;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "grass/grass_farm.h"
@@ -100,6 +101,7 @@ class grass_module {
     livestock_page livestock_;
     stocking_page stocking_;
     silage_page silage_;
+    loaded_rows loaded_{{{"Site"}, {"LU"}}};
     grass_page page_ = grass_page::rain;
     stock_tab tab_ = stock_tab::livestock;
     std::optional<int> rain_answer_;

@@ -23,10 +23,10 @@ bool grass_module::take_save_file() {
 }
 
 bool grass_module::save(void (*write)(const database&, const grass_farm&)) {
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    write(db, farm_);
-    transaction.commit();
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    write(file.db(), farm_);
+    file.commit();
     return true;
 }
 
@@ -37,12 +37,12 @@ bool grass_module::cmdSite_save() {
 
 bool grass_module::cmdLU_save() {
     if (!take_save_file()) return false;
-    save([](const database& db, const grass_farm& farm) {
+    const bool saved = save([](const database& db, const grass_farm& farm) {
         save_livestock(db, farm.livestock);
         save_stocking(db, farm.stocking);
     });
-    take_saved_livestock();
-    return true;
+    if (saved) take_saved_livestock();
+    return saved;
 }
 
 bool grass_module::cmdGrass_SU_save() {
@@ -52,10 +52,10 @@ bool grass_module::cmdGrass_SU_save() {
 
 bool grass_module::cmdGrass_rec_save() {
     if (!take_save_file()) return false;
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    save_silage_rates(db, silage_.plan());
-    transaction.commit();
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    save_silage_rates(file.db(), silage_.plan());
+    file.commit();
     silage_.keep_rates();
     return true;
 }

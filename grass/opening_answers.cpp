@@ -1,6 +1,5 @@
 #include "grass/opening_answers.h"
 
-#include "core/assessment_store.h"
 #include "grass/site_class.h"
 
 namespace kel {
@@ -18,9 +17,8 @@ int place_of(const altitude_level* level) {
     return static_cast<int>(level - altitude_levels().data());
 }
 
-void add_stored(const std::string& file, opening_answers& answers) {
-    if (file.empty() || (answers.rain && answers.altitude)) return;
-    const recordset row = database(file).open(table);
+void add_stored(const database& db, opening_answers& answers) {
+    const recordset row = db.open(table);
     if (row.eof()) return;
     if (!answers.rain)
         if (const rain_level* const level = rain_level_stored_as(row.text(rain_column)))
@@ -48,10 +46,11 @@ void store(const std::string& file, std::string_view column, std::string_view an
 
 }  // namespace
 
-opening_answers answers_in_advance(const application_state& state) {
+opening_answers answers_in_advance(const database& assessment, const application_state& state) {
     opening_answers answers;
-    add_stored(state.assess_file, answers);
-    add_stored(state.prev1_file, answers);
+    add_stored(assessment, answers);
+    const bool complete = answers.rain && answers.altitude;
+    if (!complete && !state.prev1_file.empty()) add_stored(database(state.prev1_file), answers);
     if (!answers.rain)
         if (const auto mm = apr_to_sep_rain_mm(database(state.places.climate_tables())))
             answers.rain = place_of(&rain_level_of(*mm));

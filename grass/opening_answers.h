@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/application_state.h"
+#include "core/assessment_store.h"
 
 namespace kel {
 
@@ -15,7 +16,7 @@ struct opening_answers {
 
 /// From this assessment, else last year's; the rain else from the climate tables. A stored text that is no
 /// answer counts as none. Throws file_error.
-opening_answers answers_in_advance(const application_state& state);
+opening_answers answers_in_advance(const database& assessment, const application_state& state);
 
 // Keep an answer in [Grass_data] of the assessment, in one transaction. Throw file_error.
 void store_rain(const application_state& state, int answer);

@@ -77,6 +77,28 @@ TEST_F(grass_file_test, AnotherNameMakesACopyAndLastYearsFileIsRefused) {
     EXPECT_EQ(column_of(state.assess_file, "Field Data", "Field Name").size(), 2U);
 }
 
+TEST_F(grass_file_test, SavesAskBeforeTheyWriteOverRowsChangedMeanwhile) {
+    open_stored_farm();
+    module.to_stock();
+    const message asked = rows_changed_meanwhile(state.assess_file);
+    add_lu("Horses", "8");
+    person.expect(asked, answer::no);
+    EXPECT_FALSE(module.cmdSite_save());
+    expect_save_to(state.assess_file);
+    person.expect(asked, answer::no);
+    EXPECT_FALSE(module.cmdGrass_rec_save());
+    expect_save_to(state.assess_file);
+    person.expect(asked, answer::no);
+    module.cmdLU_continue();
+    EXPECT_EQ(module.tab(), stock_tab::livestock);
+    EXPECT_EQ(column_of(state.assess_file, "LU", "Stock Type").size(), 2U);
+    expect_save_to(state.assess_file);
+    person.expect(asked, answer::yes);
+    EXPECT_TRUE(module.cmdLU_save());
+    EXPECT_TRUE(module.cmdSite_save());
+    EXPECT_EQ(column_of(state.assess_file, "LU", "Stock Type"), texts{"Dairy cows"});
+}
+
 TEST_F(grass_file_test, AFileThatCannotBeWrittenKeepsItsRowsAndWhatWasTyped) {
     open_stored_farm();
     site().enter_manure(0, site_column::manure_current, "12");

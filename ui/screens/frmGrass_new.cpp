@@ -73,14 +73,6 @@ QPushButton* frmGrass_new::add_step(QBoxLayout* row, const QString& caption, con
     });
 }
 
-QPushButton* frmGrass_new::add_save(QBoxLayout* row, const QString& caption, const QString& name,
-                                    std::function<void()> action) {
-    return add_step(row, caption, name, [this, run = std::move(action)] {
-        run();
-        set_loaded_file(state_.assess_file);
-    });
-}
-
 void frmGrass_new::open_assessments() {
     state_.picker_caller = picker_module::grass;
     emit years_wanted();

@@ -37,9 +37,6 @@ class frmGrass_new : public module_screen {
     /// A command after which the page that the module has turned to is shown.
     QPushButton* add_step(QBoxLayout* row, const QString& caption, const QString& name,
                           std::function<void()> action);
-    /// A command that saves: another file may be the open one afterwards.
-    QPushButton* add_save(QBoxLayout* row, const QString& caption, const QString& name,
-                          std::function<void()> action);
     void open_assessments();
     void report() { module_.report(desk_); }
     /// Shows the page that the module has turned to.
