@@ -25,6 +25,7 @@ struct opened_screens : screens {
     void open(screen_id) override {}
     void open_in_place_of(screen_id opener, screen_id id) override { in_place_of.emplace_back(opener, id); }
     bool exists(screen_id) const override { return true; }
+    bool in_view(screen_id) const override { return false; }
 };
 
 class crops_test : public farm_test {

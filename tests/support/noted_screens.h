@@ -13,7 +13,7 @@ class noted_screens : public screens {
     void open(screen_id) override {}
     void open_in_place_of(screen_id opener, screen_id id) override { opened.emplace_back(opener, id); }
     bool exists(screen_id) const override { return true; }
-    bool in_view(screen_id) const { return false; }
+    bool in_view(screen_id) const override { return false; }
 
     std::vector<std::pair<screen_id, screen_id>> opened;
 };

@@ -30,6 +30,7 @@ class no_screens : public screens {
     void open(screen_id) override {}
     void open_in_place_of(screen_id, screen_id) override {}
     bool exists(screen_id) const override { return true; }
+    bool in_view(screen_id) const override { return false; }
 };
 
 // A cereal, a potato and a vegetable in turn, with most of what a row can hold.

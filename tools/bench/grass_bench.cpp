@@ -63,7 +63,7 @@ class no_screens : public screens {
     void open(screen_id) override {}
     void open_in_place_of(screen_id, screen_id) override {}
     bool exists(screen_id) const override { return false; }
-    bool in_view(screen_id) const { return false; }
+    bool in_view(screen_id) const override { return false; }
 };
 
 /// Every column of [Site] has a text, as both routes leave it.
