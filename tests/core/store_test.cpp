@@ -6,11 +6,13 @@
 #include <unistd.h>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
 
 #include <array>
 #include <filesystem>
 
 #include "core/file_stamp.h"
+#include "core/strangers_file.h"
 #include "core/text_grid.h"
 #include "core/whole_file.h"
 #include "tests/support/farm_files.h"
@@ -153,6 +155,17 @@ TEST_F(Store, TriggersAndHugeTextsOfAStrangersFileDoNothing) {
     run_sql(state.assess_file, "INSERT INTO [Misc] VALUES ('big', zeroblob(200000))");
     EXPECT_EQ(trouble_with([&] { column_of(state.assess_file, "Misc", "Value"); }),
               "it holds a text that is too long.");
+}
+
+TEST_F(Store, AFunctionThatADefinitionNamesIsNotRun) {
+    SQLite::Database db(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    const auto run = [](sqlite3_context* call, int, sqlite3_value**) { sqlite3_result_int(call, 1); };
+    sqlite3_create_function(db.getHandle(), "run", 1, SQLITE_UTF8, nullptr, run, nullptr, nullptr);
+    const auto insert = [&db] { return db.tryExec("INSERT INTO t (a) VALUES ('x')"); };
+    ASSERT_EQ(db.tryExec("CREATE TABLE t (a TEXT, b TEXT DEFAULT (run(1)))"), SQLITE_OK);
+    EXPECT_EQ(insert(), SQLITE_OK);
+    harden(db.getHandle());
+    EXPECT_NE(insert(), SQLITE_OK);
 }
 
 // What such a definition brings costs its size and its time once per row.

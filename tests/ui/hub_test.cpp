@@ -8,6 +8,7 @@
 
 #include "shell/assessments_messages.h"
 #include "tests/ui/screen_fixture.h"
+#include "ui/widgets/page_view.h"
 
 namespace kel::test {
 
@@ -38,6 +39,69 @@ TEST_F(Hub, OpensNothingWithoutAnAssessmentNorWhatThisVersionLacks) {
         EXPECT_THROW(run->open(id), std::invalid_argument);
     }
     EXPECT_THROW(run->screen("viewr"), std::invalid_argument);
+}
+
+TEST_F(Hub, EveryCommandOpensItsOwnScreenAlsoFromTheMenu) {
+    open_farm({{"Long Rig", "15"}});
+    write_store(state);
+    const message& land = says::land_first;
+    const message& closed = says::closed_periods_first;
+    struct command_case {
+        QString command;
+        const char* tag;
+        const char* page;
+        std::vector<std::pair<message, answer>> boxes;
+    };
+    const std::vector<command_case> cases{
+        {"new", "profile", "", {}},
+        {"open", "years", "", {}},
+        {"edit", "profile", "", {}},
+        {"land", "land", "", {}},
+        {"storage", "storage", "", {{land, answer::yes}}},
+        {"storage", "land", "", {{land, answer::no}}},
+        {"storage", "front", "", {{land, answer::cancel}}},
+        {"manure", "reduction", "", {{closed, answer::yes}}},
+        {"manure", "storage", "", {{closed, answer::no}, {land, answer::yes}}},
+        {"inorganic", "inorg", "", {{closed, answer::yes}}},
+        {"inorganic", "front", "", {{closed, answer::cancel}}},
+        {"crops", "crop", "", {}},
+        {"show_me", "viewer", "KEL_showme_contents.htm", {}},
+        {"whats_this", "viewer", "kel_software_intro.htm", {}},
+        {"guidelines", "viewer", "kel_cont.htm", {}},
+        {"update", "front", "", {{says::update_question, answer::no}}},
+        {"about", "splash", "", {}},
+        {"reports", "viewer", "KEL_report_contents.htm", {}}};
+    const auto expect_screen = [&](const command_case& c) {
+        EXPECT_TRUE(in_view(c.tag)) << from_qt(c.command) << " should open " << c.tag;
+        if (!*c.page || !in_view(c.tag)) return;
+        const auto* page = drive::control<page_view>(screen(c.tag), "WebBrowser1");
+        EXPECT_EQ(page->source().fileName(), c.page);
+    };
+    for (const command_case& c : cases) {
+        for (const QString& from : {QString("cmdFront_"), QString("mnuFront_")}) {
+            start();
+            auto* there = screen("front")->findChild<QObject*>(from + c.command);
+            if (!there) continue;
+            for (const auto& [box, reply] : c.boxes)
+                person.expect(box, reply);
+            if (auto* entry = qobject_cast<QAction*>(there))
+                entry->trigger();
+            else
+                press("front", (from + c.command).toLatin1());
+            drive::settle();
+            expect_screen(c);
+        }
+    }
+}
+
+TEST_F(Hub, SaveAsGoesOnInTheCopy) {
+    start_with({{"Long Rig", "15"}});
+    person.expect_file(std::string(says::save_as_title), path("copy.kel"));
+    screen("front")->findChild<QAction*>("mnuFront_save_as")->trigger();
+    drive::settle();
+    EXPECT_EQ(column_of(path("copy.kel"), "Field Data", "Field Name"), texts{"Long Rig"});
+    EXPECT_EQ(run->state().assess_file, path("copy.kel"));
+    EXPECT_NE(shown_text("front", "lblFront_file").find("copy.kel"), std::string::npos);
 }
 
 TEST_F(Hub, ExitAsksAndTheCloseBoxDoesNot) {

@@ -1,4 +1,5 @@
 // The map of Scotland: a click finds the zone whose colour is seen there.
+#include <QAction>
 #include <QImage>
 #include <QLineEdit>
 
@@ -87,6 +88,23 @@ TEST_F(Location, EnterRefusesTheSeaAndAZoneWithoutATown) {
     EXPECT_TRUE(in_view("profile"));
     EXPECT_EQ(drive::control<QLineEdit>(screen("profile"), "txtLocation")->text(), "");
     EXPECT_EQ(run->state().farm_zone, "");
+}
+
+TEST_F(Location, EnterTakesTheTownThatIsChosenAndTheMenuHidesTheGrid) {
+    open_map();
+    screen("location")->findChild<QAction*>("mnuScotland_grid")->trigger();
+    drive::settle();
+    EXPECT_NE(map->grab().toImage(), picture);
+    const auto entry = map->legend().back();
+    click_map(pixels_of(entry.colour).front());
+    auto* towns = drive::control<QListWidget>(screen("location"), "lstScotland_town");
+    ASSERT_GT(towns->count(), 1);
+    towns->setCurrentRow(1);
+    const std::string town = from_qt(towns->item(1)->text());
+    press("location", "cmdScotland_enter");
+    EXPECT_EQ((texts{run->state().farm_town, run->state().farm_zone}), (texts{town, entry.zone}));
+    EXPECT_EQ(from_qt(drive::control<QLineEdit>(screen("profile"), "txtLocation")->text()),
+              town + " - " + entry.zone);
 }
 
 }  // namespace kel::test

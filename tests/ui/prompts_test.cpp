@@ -41,6 +41,60 @@ TEST_F(Prompts, FileDialogsOpenWithoutANameAlsoWhenTheirFolderIsGone) {
     }
 }
 
+TEST_F(Prompts, EachKindOfBoxHasItsIconItsButtonsAndTheAnswerOfTheOnePressed) {
+    using button = QMessageBox::StandardButton;
+    struct box_row {
+        message_kind kind;
+        QMessageBox::Icon icon;
+        message_buttons buttons;
+        std::vector<std::pair<button, answer>> answers;
+    };
+    const std::vector<box_row> rows{
+        {message_kind::warning, QMessageBox::Warning, message_buttons::ok, {{button::Ok, answer::ok}}},
+        {message_kind::information,
+         QMessageBox::Information,
+         message_buttons::ok,
+         {{button::Ok, answer::ok}}},
+        {message_kind::question,
+         QMessageBox::Question,
+         message_buttons::yes_no,
+         {{button::Yes, answer::yes}, {button::No, answer::no}}},
+        {message_kind::stop,
+         QMessageBox::Critical,
+         message_buttons::yes_no_cancel,
+         {{button::Yes, answer::yes}, {button::No, answer::no}, {button::Cancel, answer::cancel}}}};
+    for (const box_row& row : rows)
+        for (const auto& [pressed, reply] : row.answers) {
+            QTimer::singleShot(0, qApp, [&row, button = pressed] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                EXPECT_EQ(box->icon(), row.icon);
+                EXPECT_EQ(box->windowTitle(), "A title");
+                EXPECT_EQ(box->text(), "<b>A text");
+                EXPECT_EQ(box->textFormat(), Qt::PlainText);
+                EXPECT_EQ(box->buttons().size(), static_cast<qsizetype>(row.answers.size()));
+                box->button(button)->click();
+            });
+            EXPECT_EQ(boxes.ask({"A title", "<b>A text", row.kind, row.buttons}), reply);
+        }
+}
+
+TEST_F(Prompts, FileDialogsGiveTheFileThatWasChosenAndSaveAddsTheExtension) {
+    write_file(path("farm.kel"), "a file");
+    const auto choose = [](const QString& name) {
+        QTimer::singleShot(0, qApp, [name] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            EXPECT_EQ(dialog->windowTitle(), "A title");
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+            dialog->accept();
+        });
+    };
+    const file_request request{"A title", "KEL database (*.kel)|*.kel", path("")};
+    choose("farm.kel");
+    EXPECT_EQ(boxes.file_to_open(request), path("farm.kel"));
+    choose("new farm");
+    EXPECT_EQ(boxes.file_to_save(request), path("new farm.kel"));
+}
+
 TEST_F(Prompts, ABoxThatNamesAThousandFieldsStaysOnTheScreen) {
     std::vector<std::string> names;
     for (int i = 1; i <= 1000; ++i)

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QRadioButton>
 #include <QTest>
 #include <memory>
 #include <stdexcept>
@@ -66,6 +69,27 @@ inline void click(QWidget* screen, const QString& name) {
     drive::settle();
 }
 
+// A cell, the box that opens on it, what is put in, and what the cell then shows.
+struct box_case {
+    int row;
+    int column;
+    const char* box;
+    QString put;
+    const char* shown;
+};
+/// Types it, or chooses it from the list, the options or the calendar of that name.
+inline void put_in(QWidget* box, const QString& name, const QString& text) {
+    for (auto* option : box->findChildren<QRadioButton*>())
+        if (option->text() == text) return option->click();
+    if (auto* calendar = box->findChild<QCalendarWidget*>("cal" + name))
+        calendar->setSelectedDate(QDate::fromString(text, "dd/MM/yyyy"));
+    else if (box->findChild<QListWidget*>("lst" + name))
+        drive::choose_in_list(box, "lst" + name, text);
+    else
+        drive::type(box, "txt" + name, text);
+}
+using column_texts = std::vector<std::pair<const char*, texts>>;
+
 class screen_test : public farm_test {
   public:
     screen_test() { application().set_prompts(&person); }
@@ -105,6 +129,47 @@ class screen_test : public farm_test {
     }
     static texts current_cell(const grid_view* grid) {
         return {std::to_string(grid->current_row()), std::to_string(grid->current_column())};
+    }
+
+    /// The box of that name, which must be open; without a row the one that is.
+    QWidget* open_box(std::string_view tag, const QString& name, grid_view* grid = nullptr, int row = 0,
+                      int column = 0) const {
+        if (grid) drive::click_cell(grid, row, column);
+        QWidget* box = drive::control(screen(tag), "fra" + name);
+        if (!box->isVisible()) throw std::runtime_error(from_qt(name) + " is not open");
+        return box;
+    }
+    /// Fills the open box and presses its Enter.
+    void fill_box(std::string_view tag, const QString& name, const QString& text) const {
+        QWidget* box = open_box(tag, name);
+        put_in(box, name, text);
+        const bool usual = box->findChild<QWidget*>("cmd" + name + "_enter");
+        drive::press(box, "cmd" + name + (usual ? "_enter" : ""));
+    }
+    void fill_boxes(std::string_view tag, grid_view* grid, const std::vector<box_case>& cases) const {
+        for (const box_case& c : cases) {
+            open_box(tag, c.box, grid, c.row, c.column);
+            fill_box(tag, c.box, c.put);
+            EXPECT_EQ(cell(grid, c.row, c.column), c.shown) << c.box << ' ' << c.row << ", " << c.column;
+        }
+    }
+    /// Opens the box and presses the button of that ending in it.
+    void press_in_box(std::string_view tag, grid_view* grid, int row, int column, const QString& name,
+                      const char* button) const {
+        drive::press(open_box(tag, name, grid, row, column), "cmd" + name + '_' + button);
+    }
+    static void expect_stored(const std::string& file, const std::string& table, const column_texts& rows) {
+        for (const auto& [column, stored] : rows)
+            EXPECT_EQ(column_of(file, table, column), stored) << column;
+    }
+    /// Close is asked about; No keeps the screen, Yes brings the assessments screen back.
+    void close_screen(std::string_view tag, const char* button, const message& question) {
+        person.expect(question, answer::no).expect(question, answer::yes);
+        press(tag, button);
+        EXPECT_TRUE(in_view(tag));
+        press(tag, button);
+        EXPECT_FALSE(screen(tag));
+        EXPECT_TRUE(in_view("front"));
     }
 
     scripted_prompts person;

@@ -1,6 +1,5 @@
-// The boxes of Steps 2 to 4 and of the profile through their real widgets: each part goes into its own cell.
+// The boxes of Steps 3 and 4 and of the profile through their real widgets: each part goes into its own cell.
 #include <QCalendarWidget>
-#include <QDateEdit>
 #include <QLineEdit>
 
 #include "inorganic/inorganic_grid.h"
@@ -8,8 +7,6 @@
 #include "manure/manure_grids.h"
 #include "profile/farm_profile.h"
 #include "shell/assessments_messages.h"
-#include "storage/land_plan.h"
-#include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
 
 namespace kel::test {
@@ -36,27 +33,6 @@ class StepBoxes : public screen_test {
         return found;
     }
 };
-
-TEST_F(StepBoxes, AFieldsUseTakesItsTwoCropsAndItsHarvestEachFromItsOwnEditor) {
-    open_step("cmdFront_storage", "Grass / Grass", assessments_messages::land_first);
-    QWidget* storage = screen("storage");
-    drive::type(storage, "txtStorage3_water_cows", "0");
-    drive::type(storage, "txtStorage3_water_pigs", "0");
-    press("storage", "cmdStorage_continue");
-    person.expect(storage_messages::no_stores, answer::yes).expect(storage_messages::capacity_not_assessed);
-    press("storage", "cmdStores_continue");
-    auto* land = grid("storage", "MSFlexGridStorage_land");
-    drive::click_cell(land, 0, plan_column::crop);
-    ASSERT_EQ(focus_name(), "lstStorage_crop_first");
-    drive::choose_in_list(storage, "lstStorage_crop_first", "Other");
-    drive::choose_in_list(storage, "lstStorage_crop_second", "In grass");
-    drive::control<QDateEdit>(storage, "dtpStorage_crop_harvest")->setDate({2025, 1, 31});
-    click(storage, "cmdStorage_crop");
-    EXPECT_EQ(cell(land, 0, plan_column::crop), "Other / Grass");
-    EXPECT_EQ(row_cells(land, plan_column::january, plan_column::january + 1), (texts{"0", "10"}));
-    drive::enter_number(storage, land, 0, plan_column::january + 1, "Storage_land_month", "4");
-    EXPECT_EQ(cell(land, 0, plan_column::january + 1), "4");
-}
 
 TEST_F(StepBoxes, AManureLeadsToItsIncorporationAndEveryBoxWritesItsOwnCell) {
     open_step("cmdFront_manure", "Grass / Grass", assessments_messages::closed_periods_first);

@@ -1,8 +1,10 @@
 // The viewer: pages, its third button, links, and the screen that comes back.
 #include <QAbstractButton>
 #include <QDesktopServices>
+#include <QDialog>
 #include <QImage>
 #include <QSignalSpy>
+#include <QTimer>
 #include <filesystem>
 
 #include "core/module_messages.h"
@@ -145,6 +147,25 @@ TEST_F(Viewer, TheLastWindowsEndIsTheProgramsEnd) {
     run->hide_screen(screen_id::front);
     press("splash", "cmdSplash_close");
     EXPECT_EQ(ended.count(), 1);
+}
+
+TEST_F(Viewer, PrintAsksForThePrinterOnTheViewerAndOnAResult) {
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_land");
+    press("land", "cmdLand_continue");
+    const auto printer_asked = [this](const char* tag, const char* button) {
+        bool asked = false;
+        QTimer::singleShot(0, qApp, [&asked] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            asked = dialog && dialog->inherits("QPrintDialog");
+            if (dialog) dialog->reject();
+        });
+        press(tag, button);
+        return asked;
+    };
+    EXPECT_TRUE(printer_asked("land", "cmdLand_print"));
+    press("land", "cmdReport");
+    EXPECT_TRUE(printer_asked("viewer", "Command7"));
 }
 
 // The chart in the folder may be another farm's.
