@@ -49,12 +49,14 @@ std::uint64_t loaded_rows::digest(const database& db) const {
 }
 
 void loaded_rows::remember(const database& db) {
+    stamp_ = stamp_of(db.path());
     digest_ = digest(db);
     path_ = db.path();
 }
 
 bool loaded_rows::changed(const database& db) const {
-    return !path_.empty() && same_file(path_, db.path()) && digest(db) != digest_;
+    if (path_.empty() || !same_file(path_, db.path()) || stamp_of(path_) == stamp_) return false;
+    return digest(db) != digest_;
 }
 
 bool loaded_rows::may_be_replaced(const std::string& path, prompts& person) const {

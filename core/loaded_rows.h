@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/assessment_store.h"
+#include "core/file_stamp.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 
@@ -41,6 +42,7 @@ class loaded_rows {
 
     std::vector<saved_table> tables_;
     std::string path_;
+    file_stamp stamp_;  // nobody has written since: the rows need not be read
     std::uint64_t digest_ = 0;
 };
 

@@ -171,6 +171,52 @@ consteval std::array<int, stocking_columns.size()> places_in_site() {
 }
 constexpr auto in_site = places_in_site();
 
+// Whether the file has the page's fields in the page's order.
+bool stands_in_order(const database& db, const text_grid& page, int rows) {
+    recordset file = db.open(site_table);
+    const int field = file.column(page.columns().front().stored);
+    int row = 0;
+    for (; !file.eof(); file.move_next(), ++row)
+        if (row == rows || file.text(field) != page.cell(row, 0)) return false;
+    return row == rows;
+}
+
+// The columns that a page saves, behind that of the field.
+std::vector<int> own_columns_of(const text_grid& page, int area) {
+    std::vector<int> own;
+    for (int c = 1; c < page.column_count(); ++c)
+        if (c == area || page.columns()[static_cast<std::size_t>(c)].kind != carried) own.push_back(c);
+    return own;
+}
+
+void update_in_place(const database& db, const text_grid& page, int rows, const std::vector<int>& own) {
+    recordset file = db.open(site_table);
+    const std::vector<int> stored = stored_columns(file, page);
+    for (int row = 0; row < rows; ++row, file.move_next()) {
+        file.edit();
+        for (const int c : own) {
+            const auto at = static_cast<std::size_t>(c);
+            const auto day = page.columns()[at].is_date ? parse_date(page.cell(row, c)) : std::nullopt;
+            if (day)
+                file.set(stored[at], iso_date_text(*day));
+            else
+                file.set_kept(stored[at], page.cell(row, c));
+        }
+        file.update();
+    }
+}
+
+// Rows that stand as they stood get the page's own columns only. Otherwise all rows are written anew with the
+// other columns taken from the file; a field that is new to it brings its area from the profile.
+void save_page(const database& db, const text_grid& page, int rows, int area) {
+    if (stands_in_order(db, page, rows)) return update_in_place(db, page, rows, own_columns_of(page, area));
+    text_grid whole = page;
+    take_carried(db, site_table, whole, rows);
+    for (int row = 0; row < rows; ++row)
+        whole.set_cell(row, area, page.cell(row, area));
+    save_grid(db, site_table, whole, rows);
+}
+
 }  // namespace
 
 text_grid empty_site_grid() {
@@ -283,19 +329,12 @@ text_grid load_livestock(const database& db) {
     return livestock;
 }
 
-// A field that is new to the file brings its area, which the site table has from the profile.
 void save_site(const database& db, const text_grid& site) {
-    text_grid rows = site;
-    take_carried(db, site_table, rows, rows.data_row_count());
-    for (int row = 0; row < rows.data_row_count(); ++row)
-        rows.set_cell(row, site_column::area, site.cell(row, site_column::area));
-    save_grid(db, site_table, rows, rows.data_row_count());
+    save_page(db, site, site.data_row_count(), site_column::area);
 }
 
 void save_stocking(const database& db, const text_grid& stocking) {
-    text_grid rows = stocking;
-    take_carried(db, site_table, rows, rows.row_count());
-    save_grid(db, site_table, rows, rows.row_count());
+    save_page(db, stocking, stocking.row_count(), stocking_column::area);
 }
 
 void save_livestock(const database& db, const text_grid& livestock) {
