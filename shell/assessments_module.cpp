@@ -95,6 +95,7 @@ void assessments_module::copy_to(const std::string& target) {
     if (target == state_.assess_file) return;
     copy_whole_file(state_.assess_file, target);
     state_.assess_file = target;
+    profile_.mark_open_file();
 }
 
 bool assessments_module::assessment_is_open() {

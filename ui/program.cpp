@@ -84,12 +84,14 @@ program::~program() = default;
 void program::start(const std::string& assessment) {
     made(screen_id::front);
     front_.start_up();
+    show_screen(screen_id::front);
+    if (assessment.empty()) return;
     try {
-        if (!assessment.empty()) years_.open_file(assessment);
+        if (!years_.open_from_desktop(assessment)) open(screen_id::years);
     } catch (const file_error& failure) {
         person_.tell(stop_box(failure));
     }
-    show_screen(screen_id::front);
+    refresh_front();
 }
 
 const program::screen_row& program::row_of(screen_id id) {

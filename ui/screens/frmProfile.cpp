@@ -178,6 +178,10 @@ void frmProfile::refresh() {
     create_->setText(qt(module_.create_caption()));
     const QString year = qt(farm.year);
     // A file may start its year on a day that the list does not offer.
+    // It stands in the list only as long as that file is shown.
+    const QSignalBlocker quiet(year_);
+    while (year_->count() > static_cast<int>(year_choices().size()))
+        year_->removeItem(year_->count() - 1);
     if (!year.isEmpty() && year_->findText(year) < 0) year_->addItem(year);
     year_->setCurrentIndex(year_->findText(year));
     year_frame_->setEnabled(module_.year_list_enabled());
