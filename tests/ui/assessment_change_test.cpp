@@ -1,5 +1,7 @@
 // Screens that stand side by side while another assessment is opened, or while another screen saves: none
 // shows or saves one farm's rows over another's, and nothing that was saved is undone.
+#include <QComboBox>
+
 #include "profile/profile_messages.h"
 #include "shell/years_messages.h"
 #include "tests/ui/screen_fixture.h"
@@ -173,6 +175,37 @@ TEST_F(AssessmentChange, StepsSideBySideSaveEachItsOwnColumns) {
     EXPECT_EQ(stored("Land", "Area In Grass (ha)"), texts{"10"});
     EXPECT_EQ(stored("Land", "January"), texts{"7"});
     EXPECT_EQ(stored("Land", "Crop"), texts{"Grass / Grass"});
+}
+
+TEST_F(AssessmentChange, ADoubleClickOpensAsBrowseAndOkDo) {
+    const std::string other = make_farm("other.kel", {{"Haugh", "2"}}, 2021);
+    state.no_related_prompt = 0;
+    for (const answer link_first : {answer::no, answer::yes}) {
+        start_with({{"Long Rig", "15"}});
+        person.expect(years_messages::nothing_linked, link_first);
+        start(other);
+        EXPECT_EQ(in_view("years"), link_first == answer::no);
+        EXPECT_TRUE(in_view("front"));
+        EXPECT_EQ(run->state().assess_file, other);
+    }
+    start_with({{"Long Rig", "15"}});
+    start(state.assess_file);  // the one that is open already: no question
+    EXPECT_FALSE(in_view("years"));
+}
+
+TEST_F(AssessmentChange, TheYearsOnOfferAreTheSameAfterAFileOfAnotherDate) {
+    const std::string odd = make_farm("odd.kel", {{"Haugh", "2"}});
+    database(odd).update_rows("Type", {{"Year", "01/01/2025"}}, "Year", "2024-12-19");
+    const auto offered = [this] { return drive::control<QComboBox>(screen("profile"), "cboAssess_year"); };
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_edit");
+    const int years = offered()->count();
+    press("profile", "cmdProfile_open");
+    browse(odd);
+    EXPECT_EQ(offered()->count(), years + 1);
+    browse(state.assess_file);
+    EXPECT_EQ(offered()->count(), years);
+    EXPECT_EQ(from_qt(offered()->currentText()), "19/12/2024");
 }
 
 }  // namespace kel::test

@@ -98,11 +98,12 @@ class screen_test : public farm_test {
   protected:
     static kel_application& application() { return *static_cast<kel_application*>(qApp); }
 
-    /// Starts the program, or ends it and starts it again, in the same folder.
-    void start() {
+    /// Starts the program, or ends it and starts it again, in the same folder; the path is one that the
+    /// desktop hands over.
+    void start(const std::string& assessment = {}) {
         run.reset();
         run = std::make_unique<program>(state.places, person, [] { return make_date(15, 11, 2026); });
-        run->start();
+        run->start(assessment);
         drive::settle();
     }
     /// Starts with this farm open.
