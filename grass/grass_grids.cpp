@@ -1,5 +1,6 @@
 #include "grass/grass_grids.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <unordered_map>
@@ -189,19 +190,25 @@ std::vector<int> own_columns_of(const text_grid& page, int area) {
     return own;
 }
 
+std::string stored_text(const text_grid& page, int row, int column) {
+    const std::string& text = page.cell(row, column);
+    if (!page.columns()[static_cast<std::size_t>(column)].is_date) return text;
+    const auto day = parse_date(text);
+    return day ? iso_date_text(*day) : text;
+}
+
+// Rows whose own columns hold what the page shows are not written.
 void update_in_place(const database& db, const text_grid& page, int rows, const std::vector<int>& own) {
     recordset file = db.open(site_table);
     const std::vector<int> stored = stored_columns(file, page);
     for (int row = 0; row < rows; ++row, file.move_next()) {
+        const auto differs = [&](int c) {
+            return file.text(stored[static_cast<std::size_t>(c)]) != stored_text(page, row, c);
+        };
+        if (std::ranges::none_of(own, differs)) continue;
         file.edit();
-        for (const int c : own) {
-            const auto at = static_cast<std::size_t>(c);
-            const auto day = page.columns()[at].is_date ? parse_date(page.cell(row, c)) : std::nullopt;
-            if (day)
-                file.set(stored[at], iso_date_text(*day));
-            else
-                file.set_kept(stored[at], page.cell(row, c));
-        }
+        for (const int c : own)
+            file.set(stored[static_cast<std::size_t>(c)], stored_text(page, row, c));
         file.update();
     }
 }

@@ -143,6 +143,9 @@ TEST_F(stocking_test, ContinueOfTheStockingFillsTheSilageTable) {
     EXPECT_EQ(site_column_texts("Silage Rate"), (texts{"3.00", "4.00"}));
     module.back();
     EXPECT_EQ(stocking(1, su::silage_rate), "4.00");
+    module.back();
+    module.to_stock();
+    EXPECT_EQ(stocking(1, su::silage_rate), "4.00");
 }
 
 TEST_F(stocking_test, FieldsWithoutAnAreaAreNamedInOneMessage) {
