@@ -61,8 +61,10 @@ void crop_module::load(std::string winter_status) {
     text_grid crops = empty_crop_grid();
     std::vector<std::string> names;
     load_messages told;
+    loaded_rows loaded = loaded_;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
+        loaded.remember(db);
         const std::vector<farm_field> fields = read_farm_fields(db);
         const known_fields known(fields);
         names = kel::field_names(fields);
@@ -74,6 +76,7 @@ void crop_module::load(std::string winter_status) {
         crops.add_row();
     }
     crops_ = std::move(crops);
+    loaded_ = std::move(loaded);
     results_ = empty_crop_results();
     field_names_ = std::move(names);
     winter_status_ = std::move(winter_status);
@@ -144,16 +147,19 @@ bool crop_module::save() {
     text_grid crops = crops_;
     for (int row = 0; row < crops.data_row_count(); ++row)
         crops.set_cell(row, crop_column::winter_status, winter_status_);
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    save_crops(db, crops);
-    transaction.commit();
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    save_crops(file.db(), crops);
+    file.commit();
     return true;
 }
 
 bool crop_module::close() {
     if (phase_ == crop_phase::winter_question) return true;
-    back();
+    if (phase_ == crop_phase::results) {
+        back();
+        phase_ = crop_phase::results;
+    }
     return person_.ask(module_messages::close_the_module) != answer::no;
 }
 

@@ -11,6 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/text_grid.h"
@@ -122,6 +123,7 @@ class crop_module {
     crop_phase phase_ = crop_phase::winter_question;
     text_grid crops_;
     text_grid results_;
+    loaded_rows loaded_{{{"Crops"}}};
     std::vector<std::string> field_names_;
     std::string opened_file_;
     std::string winter_status_;             // "High", "Low" or empty

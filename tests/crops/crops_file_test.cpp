@@ -210,6 +210,7 @@ TEST_F(CropFile, BackAndCloseStoreTheRecommendationsInView) {
     ASSERT_TRUE(module.calculate());
     person.expect(module_messages::close_the_module, answer::no);
     EXPECT_FALSE(module.close());
+    EXPECT_EQ(module.phase(), crop_phase::results);
     EXPECT_EQ(recommended(), (texts{"Grassy: 2", "North: 140 - 110", "South: 60"}));
 }
 
@@ -231,6 +232,17 @@ TEST_F(CropFile, AFileThatCannotBeWrittenLeavesTheTableAndItsOldRows) {
     write_file(state.prev1_file, "");
     EXPECT_THROW(follow(0, "Beans"), file_error);
     EXPECT_EQ(cell(0, col::previous_crop), "WW");
+}
+
+TEST_F(CropFile, SaveAsksBeforeItWritesOverRowsChangedMeanwhile) {
+    open({{"North", "5", "Sands"}});
+    store_crop(state.assess_file, {{"Field Area ID", "North"}});
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::no);
+    EXPECT_FALSE(module.save());
+    EXPECT_EQ(column_of(state.assess_file, "Crops", "Field Area ID"), (texts{"North"}));
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);
+    EXPECT_TRUE(module.save());
+    EXPECT_TRUE(column_of(state.assess_file, "Crops", "Field Area ID").empty());
 }
 
 TEST_F(CropFile, WithoutAnAssessmentSaveAsksForOne) {

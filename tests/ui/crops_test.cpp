@@ -258,6 +258,17 @@ TEST_F(Crops, AFileThatCannotBeReadIsToldAndTheBoxKeepsWhatWasChosen) {
     click(screen("crop"), "cmdCrops_field_enter");
     EXPECT_TRUE(shows("fraCrops_field"));
     EXPECT_EQ(cell(crops, 0, 0), "");
+    press_key(Qt::Key_Escape);
+
+    // Results that cannot be stored do not hold the person.
+    click(screen("crop"), "cmdCrops_continue");
+    EXPECT_FALSE(crops->isVisible());
+    person.expect(stop_box(
+        file_error(state.assess_file, "it cannot be opened. It may have been deleted, moved or protected.")));
+    click(screen("crop"), "cmdCrops_cancel");
+    EXPECT_TRUE(crops->isVisible());
+    close_module();
+    EXPECT_TRUE(in_view("front"));
 }
 
 }  // namespace kel::test
