@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <map>
 #include <utility>
@@ -78,6 +79,26 @@ bool same_name(std::string_view a, std::string_view b) {
                                 [](char x, char y) { return lower(x) == lower(y); });
 }
 
+// A word at a time: a save waits for it.
+std::uint64_t mixed(std::uint64_t digest, std::string_view text) {
+    constexpr std::uint64_t prime = 0x9e3779b97f4a7c15U;
+    const auto mix = [&](std::uint64_t word) {
+        digest = (digest ^ word) * prime;
+        digest ^= digest >> 32U;
+    };
+    mix(text.size());  // "ab", "c" is not "a", "bc"
+    for (; !text.empty(); text.remove_prefix(std::min(text.size(), sizeof(std::uint64_t)))) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data(), std::min(text.size(), sizeof word));
+        mix(word);
+    }
+    return digest;
+}
+
+struct statement_end {
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+
 }  // namespace
 
 struct database::connection {
@@ -141,6 +162,35 @@ database database::attach(const std::string& path) const {
         check_layout(shared_->sqlite, schema, path);
     });
     return {shared_, std::move(schema), path};
+}
+
+// Beside the wrapper, whose cells each count their references.
+std::uint64_t database::digest(std::string_view table, const std::vector<std::string_view>& columns,
+                               std::uint64_t from) const {
+    std::string names;
+    for (const std::string_view column : columns)
+        names += (names.empty() ? "" : ", ") + bracketed(column);
+    const std::string sql =
+        "SELECT " + (names.empty() ? "*" : names) + " FROM " + quoted(table) + " ORDER BY rowid";
+    return guarded(path_, [&] {
+        sqlite3* handle = shared_->sqlite.getHandle();
+        sqlite3_stmt* prepared = nullptr;
+        const auto check = [&](int result) {
+            if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE)
+                throw SQLite::Exception(handle, result);
+            return result;
+        };
+        check(sqlite3_prepare_v2(handle, sql.c_str(), -1, &prepared, nullptr));
+        const std::unique_ptr<sqlite3_stmt, statement_end> rows(prepared);
+        std::uint64_t digest = mixed(from, table);
+        while (check(sqlite3_step(prepared)) == SQLITE_ROW)
+            for (int column = 0; column < sqlite3_column_count(prepared); ++column) {
+                const auto* text = static_cast<const char*>(sqlite3_column_blob(prepared, column));
+                const auto size = static_cast<std::size_t>(sqlite3_column_bytes(prepared, column));
+                digest = mixed(digest, text ? std::string_view(text, size) : std::string_view{});
+            }
+        return digest;
+    });
 }
 
 std::optional<std::string> database::lookup(std::string_view column, std::string_view table,

@@ -5,33 +5,6 @@
 
 namespace kel {
 
-namespace {
-
-// FNV-1a: quick, and the same in every run.
-constexpr std::uint64_t digest_start = 14695981039346656037U;
-constexpr std::uint64_t digest_prime = 1099511628211U;
-
-void add(std::uint64_t& digest, std::string_view text) {
-    const auto add_byte = [&](unsigned char byte) { digest = (digest ^ byte) * digest_prime; };
-    for (const char c : text)
-        add_byte(static_cast<unsigned char>(c));
-    add_byte(0xff);  // in no text: "ab", "c" is not "a", "bc"
-}
-
-void add_rows(std::uint64_t& digest, recordset rows, const std::vector<std::string_view>& names) {
-    std::vector<int> columns;
-    for (const std::string_view name : names)
-        columns.push_back(rows.column(name));
-    if (names.empty())
-        for (int c = 0; c < rows.column_count(); ++c)
-            columns.push_back(c);
-    for (; !rows.eof(); rows.move_next())
-        for (const int c : columns)
-            add(digest, rows.text(c));
-}
-
-}  // namespace
-
 std::vector<std::string_view> own_columns(std::span<const grid_column> columns) {
     std::vector<std::string_view> own;
     for (const grid_column& column : columns)
@@ -40,11 +13,9 @@ std::vector<std::string_view> own_columns(std::span<const grid_column> columns) 
 }
 
 std::uint64_t loaded_rows::digest(const database& db) const {
-    std::uint64_t digest = digest_start;
-    for (const saved_table& saved : tables_) {
-        add(digest, saved.table);
-        add_rows(digest, db.open(saved.table), saved.columns);
-    }
+    std::uint64_t digest = 0;
+    for (const saved_table& saved : tables_)
+        digest = db.digest(saved.table, saved.columns, digest);
     return digest;
 }
 
