@@ -52,7 +52,7 @@ void crop_module::open() {
 }
 
 void crop_module::crop_load_stuff() {
-    if (state_.assess_file != opened_file_) return open();
+    if (state_.assessment != opened_assessment_) return open();
     load(winter_status_);
     if (phase_ == crop_phase::results) phase_ = crop_phase::table;
 }
@@ -80,7 +80,7 @@ void crop_module::load(std::string winter_status) {
     results_ = empty_crop_results();
     field_names_ = std::move(names);
     winter_status_ = std::move(winter_status);
-    opened_file_ = state_.assess_file;
+    opened_assessment_ = state_.assessment;
     told.tell(person_);
 }
 
@@ -143,7 +143,6 @@ void crop_module::back() {
 
 bool crop_module::save() {
     if (!have_file_to_save(state_, person_, text::cannot_save_title)) return false;
-    opened_file_ = state_.assess_file;
     text_grid crops = crops_;
     for (int row = 0; row < crops.data_row_count(); ++row)
         crops.set_cell(row, crop_column::winter_status, winter_status_);

@@ -125,7 +125,7 @@ class crop_module {
     text_grid results_;
     loaded_rows loaded_{{{"Crops"}}};
     std::vector<std::string> field_names_;
-    std::string opened_file_;
+    int opened_assessment_ = -1;
     std::string winter_status_;             // "High", "Low" or empty
     std::string sowing_shown_;              // the sowing date that the box held last
     std::span<const crop_question> asked_;  // the open question and those behind it

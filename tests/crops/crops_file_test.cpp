@@ -90,6 +90,7 @@ TEST_F(CropFile, AnotherAssessmentBeginsAnewAndTheSameOneLoadsAgain) {
     EXPECT_EQ(module.phase(), crop_phase::table);
     EXPECT_EQ(module.crops().row_count(), 1);
     state.assess_file = make_farm("other.kel", {{"West", "5"}});
+    ++state.assessment;
     module.crop_load_stuff();
     EXPECT_EQ(module.phase(), crop_phase::winter_question);
 }

@@ -17,7 +17,8 @@ module_screen::module_screen(const QString& name, const QString& title) {
 }
 
 void module_screen::closeEvent(QCloseEvent* event) {
-    if (!may_close()) return event->ignore();
+    event->ignore();  // also when the question fails: what cannot be stored must not go out of view
+    if (!may_close()) return;
     event->accept();
     emit left();
 }
