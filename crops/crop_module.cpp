@@ -48,6 +48,7 @@ std::string_view crop_module::instruction() const {
 void crop_module::open() {
     const database climate(state_.places.climate_tables());
     load(std::string(winter_rain_default(climate, state_.farm_town).value_or("")));
+    sowing_shown_.clear();
     phase_ = crop_phase::winter_question;
 }
 

@@ -115,9 +115,11 @@ std::string_view planned_crop_code(std::string_view planned_name) {
 }
 
 std::string_view planned_list_name(std::string_view code) {
+    // Sown grass: the code does not say in which season.
+    if (code.empty() || code == "G" || code == "G/C") return {};
     if (std::ranges::count(potato_types(), code, &potato_type::code) > 0) return "Potatoes";
     for (const std::string_view name : planned_crop_list())
-        if (!code.empty() && planned_crop_code(name) == code) return name;
+        if (planned_crop_code(name) == code) return name;
     return {};
 }
 

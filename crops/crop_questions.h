@@ -38,7 +38,7 @@ std::span<const crop_question> questions_of_summer_rain();
 /// Code of a crop of the planned crop list; empty for "Potatoes", whose type has to be asked, and for a name
 /// that the list does not offer.
 std::string_view planned_crop_code(std::string_view planned_name);
-/// The name that the planned crop list has for a code; empty for none.
+/// The name that the planned crop list has for a code; empty for none, and for sown grass, which has two.
 std::string_view planned_list_name(std::string_view code);
 
 /// The question with its instruction and answers, none chosen.

@@ -9,6 +9,7 @@
 #include "rules/crop_catalogue.h"
 #include "rules/crop_lists.h"
 #include "rules/residue_groups.h"
+#include "rules/soils.h"
 
 namespace kel {
 
@@ -129,6 +130,7 @@ outcome crop_module::enter_field(int row, const std::string& name) {
     std::string soil = db.lookup("Soil", "Field Data", "Field Name", name).value_or("");
     crops_.set_cell(row, crop_column::field, name);
     crops_.set_cell(row, crop_column::soil, std::move(soil));
+    rain_.soil_code = soil_code(crops_.cell(row, crop_column::soil)).value_or(rain_.soil_code);
     guard_malting(row);
     set_winter_rain(row);
     set_spring_rain(row);

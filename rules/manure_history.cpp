@@ -11,9 +11,10 @@ manure_history::manure_history(const manure_years& years) {
 
 void manure_history::read(const database& file) {
     for (recordset rows = file.open("Manure_applic"); !rows.eof(); rows.move_next()) {
-        const auto day = rows.date_value("Date");
+        const std::string stored = rows.text("Date");
+        const auto day = parse_date(stored);  // what is no date is shown as it stands
         by_field_[rows.text("Field Area ID")].push_back({rows.text("Manure Type"), rows.text("Incorporation"),
-                                                         day ? short_date_text(*day) : "",
+                                                         day ? short_date_text(*day) : stored,
                                                          rows.text("Applic Rate")});
     }
 }

@@ -101,6 +101,7 @@ TEST_F(CropQuestions, PotatoesAndGrassGetTheirCodeOnceItIsKnown) {
     plan(0, "Direct sown grass and grass/clover (autumn sown)");
     EXPECT_EQ(module.enter_answer(0, chosen(1)), box_closes());
     EXPECT_EQ(cell(0, col::planned_crop), "G/C");
+    EXPECT_EQ(module.click(0, col::planned_crop).parts.front().text, "");
 }
 
 TEST_F(CropQuestions, AQuestionWithoutAnAnswerLeavesItsCellAndGoesOn) {

@@ -91,8 +91,10 @@ TEST_F(CropFile, AnotherAssessmentBeginsAnewAndTheSameOneLoadsAgain) {
     EXPECT_EQ(module.crops().row_count(), 1);
     state.assess_file = make_farm("other.kel", {{"West", "5"}});
     ++state.assessment;
+    state.kel_year_start = make_date(19, 12, 2025);
     module.crop_load_stuff();
     EXPECT_EQ(module.phase(), crop_phase::winter_question);
+    EXPECT_EQ(module.click(0, col::planned_crop).parts.back().text, "01/10/2025");
 }
 
 TEST_F(CropFile, StoredCellsOfNoKnownMeaningAreTakenAsTheyStand) {
