@@ -99,9 +99,9 @@ void grass_module::back() {
             page_ = grass_page::rain;
             break;
         case grass_page::results:
+            page_ = grass_page::site;  // also when the file cannot be written
             save_rec();
             site_.clear_results();
-            page_ = grass_page::site;
             break;
         case grass_page::stock:
             page_ = grass_page::site;
@@ -155,7 +155,7 @@ void grass_module::cmdSU_continue() {
 
 bool grass_module::close() {
     if (person_.ask(module_messages::close_the_module) != answer::yes) return false;
-    if (page_ == grass_page::results) save_rec();
+    if (page_ == grass_page::results) back();
     return true;
 }
 

@@ -81,7 +81,8 @@ class grass_module {
     opening change_database() const;
     outcome enter_change_database(const std::string& choice);
 
-    /// Asks whether the module may close; if so, the results in view are written. Throws file_error.
+    /// Asks whether the module may close; if so, the results in view are written. Throws file_error, with the
+    /// site table in view.
     bool close();
     /// Shows the report of the results and of the silage table, as far as they have been worked out. Throws
     /// file_error.

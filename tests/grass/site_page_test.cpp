@@ -1,4 +1,6 @@
 // The opening questions, the entries of the site table with the order of their tests, and the results.
+#include <filesystem>
+
 #include "core/module_messages.h"
 #include "grass/site_class.h"
 #include "rules/crop_catalogue.h"
@@ -266,6 +268,19 @@ TEST_F(grass_test, LeavingTheResultsStoresTheRecommendations) {
     person.expect(module_messages::close_the_module, answer::yes);
     EXPECT_TRUE(module.close());
     EXPECT_EQ(column_of(state.assess_file, "Recommendations", "N required"), (texts{"2", "110"}));
+}
+
+TEST_F(grass_test, AFileThatCannotBeWrittenDoesNotHoldThePersonInTheResults) {
+    open_farm({{"Low Park", "10"}});
+    add_site("Low Park");
+    load();
+    module.calculate();
+    std::filesystem::remove(state.assess_file);
+    person.expect(module_messages::close_the_module, answer::yes);
+    EXPECT_THROW(module.close(), file_error);
+    EXPECT_EQ(module.page(), grass_page::site);
+    person.expect(module_messages::close_the_module, answer::yes);
+    EXPECT_TRUE(module.close());
 }
 
 }  // namespace kel::test

@@ -67,10 +67,24 @@ void frmGrass_new::add_close(QBoxLayout* row, const QString& name) {
 
 QPushButton* frmGrass_new::add_step(QBoxLayout* row, const QString& caption, const QString& name,
                                     std::function<void()> action) {
-    return add_command(row, caption, name, [this, run = std::move(action)] {
-        run();
+    return add_command(row, caption, name, [this, run = std::move(action)] { and_show_page(run); });
+}
+
+// A step that failed may have turned the page, too.
+void frmGrass_new::and_show_page(const std::function<void()>& step) {
+    try {
+        step();
+    } catch (...) {
         show_page();
-    });
+        throw;
+    }
+    show_page();
+}
+
+bool frmGrass_new::may_close() {
+    bool closes = false;
+    and_show_page([&] { closes = module_.close(); });
+    return closes;
 }
 
 void frmGrass_new::open_assessments() {

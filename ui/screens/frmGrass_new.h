@@ -43,13 +43,14 @@ class frmGrass_new : public module_screen {
     void show_page();
 
   protected:
-    bool may_close() override { return module_.close(); }
+    bool may_close() override;
     void refresh() override;
 
   private:
     question_page* new_question(const char* name, std::string_view question,
                                 const std::vector<std::string>& choices);
     void add_questions();
+    void and_show_page(const std::function<void()>& step);
     void confirm_rain();
     void confirm_altitude();
     void focus_page();
