@@ -1,5 +1,6 @@
 // The boxes and file dialogs that a person really sees, looked at from within their own event loops.
 #include <QDialog>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -80,18 +81,21 @@ TEST_F(Prompts, EachKindOfBoxHasItsIconItsButtonsAndTheAnswerOfTheOnePressed) {
 
 TEST_F(Prompts, FileDialogsGiveTheFileThatWasChosenAndSaveAddsTheExtension) {
     write_file(path("farm.kel"), "a file");
-    const auto choose = [](const QString& name) {
-        QTimer::singleShot(0, qApp, [name] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            EXPECT_EQ(dialog->windowTitle(), "A title");
+    const auto choose = [](const QString& name, QFileDialog::AcceptMode mode) {
+        QTimer::singleShot(0, qApp, [name, mode] {
+            QWidget* shown = QApplication::activeModalWidget();
+            EXPECT_EQ(shown->windowTitle(), "A title");
+            auto* dialog = qobject_cast<QDialog*>(shown);
+            const bool as_asked = qobject_cast<QFileDialog*>(shown)->acceptMode() == mode;
+            if (!as_asked) return dialog->reject();
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
             dialog->accept();
         });
     };
     const file_request request{"A title", "KEL database (*.kel)|*.kel", path("")};
-    choose("farm.kel");
+    choose("farm.kel", QFileDialog::AcceptOpen);
     EXPECT_EQ(boxes.file_to_open(request), path("farm.kel"));
-    choose("new farm");
+    choose("new farm", QFileDialog::AcceptSave);
     EXPECT_EQ(boxes.file_to_save(request), path("new farm.kel"));
 }
 
