@@ -51,6 +51,8 @@ void list_editor::show_part(const entry_part& part) {
     list_->ensurePolished();
     const int rows_px = list_->count() * list_->sizeHintForRow(0) + 2 * list_->frameWidth() + slack_px;
     list_->setFixedHeight(alone_ ? list_height_px : std::min(rows_px, list_height_px));
+    const bool all_in_view = !alone_ && rows_px <= list_height_px;
+    list_->setVerticalScrollBarPolicy(all_in_view ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     show_text(part.text);
 }
 
