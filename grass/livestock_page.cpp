@@ -59,10 +59,9 @@ outcome livestock_page::enter_time(int row, const std::string& entered) {
     return write(row, col::time, entered);
 }
 
-// The ratio goes with the type that it belongs to.
+// A type that is cleared leaves its ratio, and with it the units of the row.
 outcome livestock_page::clear_cell(int row, int column) {
     farm_.livestock.set_cell(row, column, "");
-    if (column == col::type) farm_.livestock.set_cell(row, col::ratio, "");
     recalculate(farm_.livestock, row);
     return box_closes();
 }

@@ -38,6 +38,8 @@ TEST_F(stocking_test, EachEntryWorksOutTheLivestockUnitsOfItsRow) {
     EXPECT_EQ(livestock(lu::units), "0");
     page.enter_time(0, "50");
     EXPECT_EQ(livestock(lu::units), "2");
+    page.clear_cell(0, lu::type);
+    EXPECT_EQ(livestock(lu::type) + livestock(lu::ratio) + livestock(lu::units), "0.042");
     page.clear_cell(0, lu::time);
     EXPECT_EQ(livestock(lu::units), "0");
     person.expect(text::stock_calculation).expect(module_messages::cannot_delete);
