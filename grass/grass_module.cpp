@@ -99,9 +99,7 @@ void grass_module::back() {
             page_ = grass_page::rain;
             break;
         case grass_page::results:
-            page_ = grass_page::site;  // also when the file cannot be written
-            save_rec();
-            site_.clear_results();
+            leave_results();
             break;
         case grass_page::stock:
             page_ = grass_page::site;
@@ -111,6 +109,14 @@ void grass_module::back() {
             page_ = grass_page::stock;
             break;
     }
+}
+
+// The site table first: a file that cannot be written must not keep the person in the results.
+void grass_module::leave_results() {
+    const text_grid results = site_.results();
+    site_.clear_results();
+    page_ = grass_page::site;
+    save_rec(results);
 }
 
 void grass_module::calculate() {

@@ -54,7 +54,7 @@ class grass_module {
     // The ways between the pages.
     /// From the altitude to the rainfall, from the site table to the rainfall, from the results or the
     /// stocking route to the site table, from the silage table to the stocking table. Leaving the results
-    /// writes [Recommendations]. Throws file_error.
+    /// writes [Recommendations]. Throws file_error; the results are left all the same.
     void back();
     /// cmdSite_continue: works out the results and shows them. Throws file_error.
     void calculate();
@@ -92,7 +92,8 @@ class grass_module {
     bool take_save_file();
     bool save(void (*write)(const database&, const grass_farm&));
     void take_saved_livestock();
-    void save_rec();
+    void leave_results();
+    void save_rec(const text_grid& results);
     void take_from(const database& other, bool replace);
 
     application_state& state_;

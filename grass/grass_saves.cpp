@@ -60,8 +60,7 @@ bool grass_module::cmdGrass_rec_save() {
     return true;
 }
 
-void grass_module::save_rec() {
-    const text_grid& results = site_.results();
+void grass_module::save_rec(const text_grid& results) {
     std::vector<recommendation> found;
     for (int row = 0; row < results.row_count(); ++row)
         found.push_back({results.cell(row, grass_result_column::field),

@@ -184,6 +184,7 @@ bool site_page::calculate() {
         results.set_cell(row, grass_result_column::manures, found.manures);
         results.set_cell(row, grass_result_column::to_be_applied, found.to_be_applied);
     }
+    tables();  // the results tell where the figures come from, also when there are none
     results_ = std::move(results);
     return true;
 }

@@ -171,6 +171,9 @@ TEST_F(grass_test, WithoutReferenceTablesTheCellsStayAndTheFileIsNamed) {
     state.places.program_folder = path("nowhere");
     EXPECT_THROW(site().enter_applications(0, "1"), file_error);
     EXPECT_EQ(cell(0, col::applications), "");
+    site().erase_row(0);
+    EXPECT_THROW(module.calculate(), file_error);
+    EXPECT_EQ(module.page(), grass_page::site);
 }
 
 TEST_F(grass_test, ManuresAreTransferredFromTheStoredApplications) {
@@ -279,6 +282,7 @@ TEST_F(grass_test, AFileThatCannotBeWrittenDoesNotHoldThePersonInTheResults) {
     person.expect(module_messages::close_the_module, answer::yes);
     EXPECT_THROW(module.close(), file_error);
     EXPECT_EQ(module.page(), grass_page::site);
+    EXPECT_EQ(site().results().row_count(), 0);  // no report of rows that the site table may lose
     person.expect(module_messages::close_the_module, answer::yes);
     EXPECT_TRUE(module.close());
 }

@@ -82,9 +82,12 @@ void frmGrass_new::and_show_page(const std::function<void()>& step) {
 }
 
 bool frmGrass_new::may_close() {
-    bool closes = false;
-    and_show_page([&] { closes = module_.close(); });
-    return closes;
+    try {
+        return module_.close();
+    } catch (...) {
+        show_page();
+        throw;
+    }
 }
 
 void frmGrass_new::open_assessments() {
