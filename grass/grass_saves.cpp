@@ -100,15 +100,17 @@ outcome grass_module::enter_change_database(const std::string& choice) {
 
 namespace {
 
-// The rows of `from` that `into` has no row of in its first column, or all of them in place of its own.
+// The rows of `from` that `into` has no row of in its first column, or all of them in place of its own. Two
+// rows of one text, as of two herds, come together.
 void take_rows(text_grid& into, const text_grid& from, bool replace) {
     if (from.data_row_count() == 0) return;
     if (replace) {
         into = from;
         return;
     }
+    const text_grid before = into;
     for (int row = 0; row < from.data_row_count(); ++row) {
-        if (into.find(0, from.cell(row, 0)) >= 0) continue;
+        if (before.find(0, from.cell(row, 0)) >= 0) continue;
         const int at = into.row_count() - 1;
         for (int c = 0; c < into.column_count(); ++c)
             into.set_cell(at, c, from.cell(row, c));

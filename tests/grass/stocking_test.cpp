@@ -189,7 +189,8 @@ TEST_F(stocking_test, AnotherDatabaseIsMergedOrTakesThePlaceOfTheTables) {
     const std::string other = make_farm("other.kel", {}, 2024);
     for (const char* field : {"Haugh", "Nook", "Wester"})
         add_row(other, "Site", {{"Field Area ID", field}, {"Site Use", "Grazing"}, {"Soil Type", "Sands"}});
-    add_row(other, "LU", {{"Stock Type", "Horses"}, {"Livestock Units", "8"}});
+    for (const char* units : {"8", "2"})
+        add_row(other, "LU", {{"Stock Type", "Horses"}, {"Livestock Units", units}});
     add_row(state.assess_file, "Field Data", {{"Field Name", "Nook"}, {"Size", "3"}});
     load();
     module.to_stock();
@@ -201,7 +202,7 @@ TEST_F(stocking_test, AnotherDatabaseIsMergedOrTakesThePlaceOfTheTables) {
     EXPECT_EQ(module.stocking().table().row_count(), 3);
     EXPECT_EQ(stocking(1, su::use), "Silage");
     EXPECT_EQ(stocking(2, su::field) + stocking(2, su::area) + stocking(2, su::site_class), "Nook33");
-    EXPECT_EQ(livestock(lu::type, 1), "Horses");
+    EXPECT_EQ(livestock(lu::units, 1) + livestock(lu::units, 2), "82");
     person.expect_file("Replace with data from another assessment", "");
     EXPECT_FALSE(module.enter_change_database("Overwrite").closes);
     person.expect_file("Replace with data from another assessment", other);
