@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "core/numbers.h"
+#include "rules/nitrogen_limits.h"
 
 namespace kel {
 

@@ -14,8 +14,6 @@
 
 namespace kel {
 
-inline constexpr float rolling_field_limit_kg_per_ha = 250.0F;
-
 struct dated_rate {
     std::string field;
     date day;

@@ -25,7 +25,31 @@ std::optional<int> base_year_of(const std::string& path, const application_state
     return std::nullopt;
 }
 
+closed_answer answer_of(bool closed) {
+    return closed ? closed_answer::closed : closed_answer::open;
+}
+
 }  // namespace
+
+land_use read_land_use(const recordset& row) {
+    land_use use{row.text("Crop"), {}};
+    for (int month = 1; month <= 12; ++month)
+        use.closed_months.at(static_cast<std::size_t>(month - 1)) =
+            row.text(month_name(month)) == closed_month;
+    return use;
+}
+
+closed_answer closed_for_inorganic(const std::optional<land_use>& use, date day, int base_year,
+                                   std::string_view zone) {
+    const auto pair = split_crop_pair(use ? use->crop_pair : "");
+    if (!pair) return closed_answer::field_unknown;
+    return answer_of(closed_by_calendar(day, base_year, zone, pair->second));
+}
+
+closed_answer closed_for_manure(const std::optional<land_use>& use, date day) {
+    if (!use) return closed_answer::field_unknown;
+    return answer_of(use->closed_months.at(static_cast<std::size_t>(month_of(day) - 1)));
+}
 
 closed_answer closed_for_inorganic(const database& file, std::string_view field, date day,
                                    const application_state& state) {
@@ -33,8 +57,7 @@ closed_answer closed_for_inorganic(const database& file, std::string_view field,
     if (!pair || !state.kel_year_start) return closed_answer::field_unknown;
     const auto base_year = base_year_of(file.path(), state);
     if (!base_year) return closed_answer::open;
-    const bool closed = closed_by_calendar(day, *base_year, state.farm_zone, pair->second);
-    return closed ? closed_answer::closed : closed_answer::open;
+    return answer_of(closed_by_calendar(day, *base_year, state.farm_zone, pair->second));
 }
 
 closed_answer closed_for_inorganic(const std::string& path, std::string_view field, date day,
@@ -46,7 +69,7 @@ closed_answer closed_for_inorganic(const std::string& path, std::string_view fie
 closed_answer closed_for_manure(const database& file, std::string_view field, date day) {
     const auto cell = month_cell(file, field, month_of(day));
     if (!cell) return closed_answer::field_unknown;
-    return *cell == closed_month ? closed_answer::closed : closed_answer::open;
+    return answer_of(*cell == closed_month);
 }
 
 closed_answer closed_for_manure(const std::string& path, std::string_view field, date day) {

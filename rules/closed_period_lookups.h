@@ -4,6 +4,8 @@
 // Failures of the file throw file_error.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +20,20 @@ enum class closed_answer { open = 0, closed = 1, field_unknown = 2 };
 inline constexpr std::string_view field_not_assessed = "Field not assessed";
 /// Instead of an area of a field that has no row.
 inline constexpr float no_land_row = -1.0F;
+
+/// What the row of a field in [Land] says of its closed periods.
+struct land_use {
+    std::string crop_pair;               // as stored; empty: not assessed
+    std::array<bool, 12> closed_months;  // to slurries and manures, from January
+};
+/// Of the current row of [Land], for those who read the table in one pass; a field's first row counts.
+land_use read_land_use(const recordset& row);
+
+/// The two rules for a field whose row is at hand; nothing: it has none. `base_year` is the year in which the
+/// KEL year of that row's file ends.
+closed_answer closed_for_inorganic(const std::optional<land_use>& use, date day, int base_year,
+                                   std::string_view zone);
+closed_answer closed_for_manure(const std::optional<land_use>& use, date day);
 
 /// The calendar rule for inorganic nitrogen. The file must be this year's or last year's of the state, which
 /// gives the base year; in any other file every day is open. A row without a crop pair, or a state without a

@@ -16,12 +16,12 @@
 #include "inorganic/inorganic_messages.h"
 #include "inorganic/inorganic_module.h"
 #include "land/land_module.h"
-#include "manure/field_limit_check.h"
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "profile/profile_module.h"
 #include "rules/closed_periods.h"
 #include "rules/crop_lists.h"
+#include "rules/nitrogen_limits.h"
 #include "storage/storage_module.h"
 #include "tests/support/farm_files.h"
 
