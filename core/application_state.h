@@ -67,7 +67,8 @@ struct application_state {
     std::string last_report_path;                   // last report shown in the viewer
     std::vector<std::string> last_report_pictures;  // that it shows beside the logo, in the report folder
     manure_opener manure_caller = manure_opener::front;
-    std::string last_dir;  // last folder of a file dialog; not kept between runs
+    std::string last_dir;      // last folder of a file dialog; not kept between runs
+    std::string last_csv_dir;  // last folder of a CSV export; not kept either
 
     std::string short_date_format;  // of calendars and date boxes, forced at start-up
     std::string long_date_format;

@@ -1,0 +1,90 @@
+#include "composting/composting_rules.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "core/numbers.h"
+
+namespace kel {
+
+namespace {
+
+// Nitrogen of the residues left on the field, kg N/ha.
+// clang-format off
+constexpr std::array<crop_residue, 16> residues{{
+    // name             n_kg_per_ha
+    {"Broccoli",         78},
+    {"Brussel sprouts",  99},
+    {"Cabbage (green)",  25},
+    {"Carrot",           19},
+    {"Cauliflower",     104},
+    {"Celery",           21},
+    {"Green beans",      45},
+    {"Iceberg lettuce",  30},
+    {"Leeks",            35},
+    {"Lettuce (round)",  12},
+    {"Onion",             6},
+    {"Peas",            104},
+    {"Red cabbage",      69},
+    {"Savoy cabbage",    80},
+    {"Spinach",          23},
+    {"White cabbage",    66},
+}};
+
+// The factors as straight lines over the N content n (%): immobilised = a - b n, released = c n - d, in kg N
+// per tonne of dry matter. A row holds up to and including its N content; the last row of a waste for any.
+struct factor_line {
+    std::string_view waste;
+    float up_to_percent;
+    float a, b;
+    float c, d;
+};
+constexpr float any = 3.4e38F;
+constexpr std::array<factor_line, 3> factor_lines{{
+    // waste              up to     a      b     c     d
+    {straw,               any,   14.5F, 8.0F, 1.5F, 1.3F},
+    {paper_mill_sludge,   0.8F,   9.6F, 9.5F, 3.5F, 2.3F},
+    {paper_mill_sludge,   any,    8.4F, 8.0F, 1.5F, 0.7F},
+}};
+// clang-format on
+
+// A tie is what seven digits show as one, not what the binary fraction makes of it.
+std::string one_decimal(float value) {
+    return default_text(round_shown_half_away(value, 1));
+}
+
+}  // namespace
+
+std::span<const crop_residue> crop_residues() {
+    return residues;
+}
+
+std::optional<crop_residue> find_residue(std::string_view name) {
+    const auto found =
+        std::find_if(residues.begin(), residues.end(), [&](const auto& r) { return r.name == name; });
+    if (found == residues.end()) return std::nullopt;
+    return *found;
+}
+
+waste_factors factors_of(std::string_view waste, float n_percent) {
+    const std::string_view kind = waste == straw ? straw : paper_mill_sludge;
+    const auto line = std::find_if(factor_lines.begin(), factor_lines.end(), [&](const auto& l) {
+        return l.waste == kind && n_percent <= l.up_to_percent;
+    });
+    if (line == factor_lines.end()) return {0, 0};
+    return {line->a - line->b * n_percent, line->c * n_percent - line->d};
+}
+
+std::optional<composting_result> compost(float residue_kg_per_ha, float soil_kg_per_ha,
+                                         std::string_view waste, float n_percent) {
+    const waste_factors factors = factors_of(waste, n_percent);
+    const float rate = (residue_kg_per_ha + soil_kg_per_ha) / factors.immobilised_kg_per_t_dm;
+    if (!std::isfinite(rate)) return std::nullopt;
+    const std::string rounded_rate = one_decimal(rate);
+    const float release = factors.released_kg_per_t_dm * leading_single(rounded_rate);
+    if (!std::isfinite(release)) return std::nullopt;
+    return composting_result{rounded_rate, one_decimal(release)};
+}
+
+}  // namespace kel

@@ -1,0 +1,50 @@
+// In-field composting: the straw or paper mill sludge that locks up the nitrogen of a vegetable crop's
+// residues and of the soil, and what of it comes back in the next spring. Source of the figures: the
+// composting table of the KEL guidelines.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace kel {
+
+/// A residue of the list with the nitrogen that it adds to that of the soil.
+struct crop_residue {
+    std::string_view name;
+    float n_kg_per_ha;
+};
+
+/// The 16 residues in the order of the list.
+std::span<const crop_residue> crop_residues();
+/// Nothing for a text that the list does not hold.
+std::optional<crop_residue> find_residue(std::string_view name);
+
+// The waste products, as they are stored and named in the results.
+inline constexpr std::string_view paper_mill_sludge = "PMS";
+inline constexpr std::string_view straw = "Straw";
+
+/// What a tonne of dry matter of a waste product does, by its N content.
+struct waste_factors {
+    float immobilised_kg_per_t_dm;
+    float released_kg_per_t_dm;
+};
+waste_factors factors_of(std::string_view waste, float n_percent);
+
+/// From this N content (%) on the person is asked whether it is right, whatever the waste product.
+inline constexpr float high_n_percent = 1.2F;
+
+/// The figures as they are shown and kept, each a number with at most one decimal.
+struct composting_result {
+    std::string rate;     // t dry matter of the waste per ha
+    std::string release;  // kg N/ha in the next spring; below 0: more is locked up
+    bool operator==(const composting_result&) const = default;
+};
+
+/// The rate is rounded to one decimal before the release is worked out from it, both halves away from zero.
+/// Nothing for a waste that immobilises exactly no nitrogen, or for figures beyond all measure.
+std::optional<composting_result> compost(float residue_kg_per_ha, float soil_kg_per_ha,
+                                         std::string_view waste, float n_percent);
+
+}  // namespace kel

@@ -1,0 +1,124 @@
+#include "record/record_grid.h"
+
+#include <array>
+
+#include "core/prompts.h"
+#include "record/record_messages.h"
+
+namespace kel {
+
+namespace {
+
+constexpr auto calculated = column_kind::calculated;
+constexpr auto carried = column_kind::carried;
+
+// The record; inorganic nitrogen fills columns 3 to 5 and 10, a manure columns 6 to 9.
+// clang-format off
+constexpr std::array<grid_column, 11> record_columns{{
+    // heading                                stored  kind    width
+    {"Crop",                                  "", calculated, 18},
+    {"Date planted",                          "", calculated, 11},
+    {"Date fertiliser/ manure applied",       "", calculated, 13},
+    {"Type of inorganic N",                   "", calculated, 18},
+    {"Amount inorganic N applied kg/ha",      "", calculated, 13},
+    {"Total N applied",                       "", calculated, 10},
+    {"Manure type",                           "", calculated, 24},
+    {"Analysis of N content (kg/t or m3)",    "", calculated, 13},
+    {"Quantity applied (t or m3/ha)",         "", calculated, 12},
+    {"Total N applied",                       "", calculated, 10},
+    {"Additional comments",                   "", calculated, 34},
+}};
+
+constexpr std::array<grid_column, 3> warnings_columns{{
+    // heading                            stored  kind    width
+    {"",                                  "", calculated,   6},
+    {record_messages::warnings_heading,   "", calculated, 120},
+    {"",                                  "", carried,     10},
+}};
+// clang-format on
+
+std::string quoted(std::string_view text) {
+    std::string cell = "\"";
+    for (const char c : text) {
+        if (c == '"') cell += '"';
+        cell += c;
+    }
+    return cell + '"';
+}
+
+template <class cell_text>
+void add_line(std::string& table, int columns, char separator, const cell_text& cell) {
+    for (int column = 0; column < columns; ++column) {
+        if (column > 0) table += separator;
+        table += quoted(cell(column));
+    }
+    table += line_break;
+}
+
+// Headings and rows, one to a line.
+std::string table_text(const text_grid& grid, char separator) {
+    std::string table;
+    add_line(table, grid.column_count(), separator,
+             [&](int column) { return grid.columns()[static_cast<std::size_t>(column)].heading; });
+    for (int row = 0; row < grid.row_count(); ++row)
+        add_line(table, grid.column_count(), separator,
+                 [&](int column) -> const std::string& { return grid.cell(row, column); });
+    return table;
+}
+
+std::string warnings_text(const text_grid& warnings) {
+    std::string text = "Warnings:" + std::string(line_break);
+    for (int row = 0; row < warnings.row_count(); ++row)
+        text.append(warnings.cell(row, record_warning_column::text)).append(line_break);
+    return text;
+}
+
+}  // namespace
+
+text_grid empty_record_grid() {
+    return text_grid(record_columns);
+}
+
+text_grid empty_warnings_grid() {
+    return text_grid(warnings_columns);
+}
+
+text_grid record_grid(const std::vector<record_row>& rows) {
+    text_grid grid = empty_record_grid();
+    for (const record_row& r : rows) {
+        const int row = grid.add_row();
+        int column = 0;
+        for (const std::string& text :
+             {r.crop, r.date_planted, short_date_text(r.day), r.inorganic_type, r.amount, r.inorganic_n,
+              r.manure, r.n_content, r.rate, r.manure_n, r.comments})
+            grid.set_cell(row, column++, text);
+    }
+    return grid;
+}
+
+text_grid warnings_grid(const std::vector<record_warning>& warnings) {
+    text_grid grid = empty_warnings_grid();
+    for (const record_warning& warning : warnings) {
+        const int row = grid.add_row();
+        grid.set_cell(row, record_warning_column::text, warning.text);
+        grid.set_cell(row, record_warning_column::icon_path, std::string(icon_path(warning.kind)));
+    }
+    return grid;
+}
+
+std::string copied_text(const std::string& field, const text_grid& record, const text_grid& warnings) {
+    const std::string ending(line_break);
+    std::string text = std::string(record_messages::heading) + '\t' + quoted(field) + ending + ending;
+    text += table_text(record, '\t');
+    if (warnings.row_count() > 0) text += ending + warnings_text(warnings);
+    return text;
+}
+
+std::string csv_text(const std::string& field, const text_grid& record, const text_grid& warnings) {
+    std::string text = std::string(record_messages::heading) + field + std::string(line_break);
+    text += table_text(record, ',');
+    if (warnings.row_count() > 0) text += warnings_text(warnings);
+    return text;
+}
+
+}  // namespace kel
