@@ -43,9 +43,9 @@ struct factor_line {
 constexpr float any = 3.4e38F;
 constexpr std::array<factor_line, 3> factor_lines{{
     // waste              up to     a      b     c     d
-    {straw,               any,   14.5F, 8.0F, 1.5F, 1.3F},
-    {paper_mill_sludge,   0.8F,   9.6F, 9.5F, 3.5F, 2.3F},
-    {paper_mill_sludge,   any,    8.4F, 8.0F, 1.5F, 0.7F},
+    {straw_waste,               any,   14.5F, 8.0F, 1.5F, 1.3F},
+    {pms_waste,   0.8F,   9.6F, 9.5F, 3.5F, 2.3F},
+    {pms_waste,   any,    8.4F, 8.0F, 1.5F, 0.7F},
 }};
 // clang-format on
 
@@ -68,7 +68,7 @@ std::optional<crop_residue> find_residue(std::string_view name) {
 }
 
 waste_factors factors_of(std::string_view waste, float n_percent) {
-    const std::string_view kind = waste == straw ? straw : paper_mill_sludge;
+    const std::string_view kind = waste == straw_waste ? straw_waste : pms_waste;
     const auto line = std::find_if(factor_lines.begin(), factor_lines.end(), [&](const auto& l) {
         return l.waste == kind && n_percent <= l.up_to_percent;
     });

@@ -22,8 +22,8 @@ std::span<const crop_residue> crop_residues();
 std::optional<crop_residue> find_residue(std::string_view name);
 
 // The waste products, as they are stored and named in the results.
-inline constexpr std::string_view paper_mill_sludge = "PMS";
-inline constexpr std::string_view straw = "Straw";
+inline constexpr std::string_view pms_waste = "PMS";
+inline constexpr std::string_view straw_waste = "Straw";
 
 /// What a tonne of dry matter of a waste product does, by its N content.
 struct waste_factors {

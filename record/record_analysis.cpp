@@ -1,6 +1,7 @@
 #include "record/record_analysis.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/numbers.h"
 #include "record/record_messages.h"
@@ -12,6 +13,23 @@ namespace kel {
 namespace {
 
 namespace text = record_messages;
+
+// clang-format off
+struct icon {
+    warning_kind kind;
+    std::string_view word;
+    std::string_view path;
+};
+constexpr std::array<icon, 3> icons{{
+    {warning_kind::information,   "Information",   "graphics/info.ico"},
+    {warning_kind::alert,         "Alert",         "graphics/alert.ico"},
+    {warning_kind::closed_period, "Closed period", "graphics/closed.ico"},
+}};
+// clang-format on
+
+const icon& icon_of(warning_kind kind) {
+    return *std::find_if(icons.begin(), icons.end(), [kind](const icon& i) { return i.kind == kind; });
+}
 
 // Added as it stands and made single once.
 float inorganic_sum(const std::vector<record_row>& rows) {
@@ -75,16 +93,12 @@ record_warning not_assessed_closed() {
 
 }  // namespace
 
+std::string_view icon_word(warning_kind kind) {
+    return icon_of(kind).word;
+}
+
 std::string_view icon_path(warning_kind kind) {
-    switch (kind) {
-        case warning_kind::information:
-            return "graphics/info.ico";
-        case warning_kind::alert:
-            return "graphics/alert.ico";
-        case warning_kind::closed_period:
-            return "graphics/closed.ico";
-    }
-    return {};
+    return icon_of(kind).path;
 }
 
 std::vector<float> twelve_month_totals(const std::vector<record_row>& rows) {

@@ -12,6 +12,8 @@ namespace kel {
 
 enum class warning_kind { information, alert, closed_period };
 
+/// What the icon of a kind says.
+std::string_view icon_word(warning_kind kind);
 /// The icon of a kind, relative to the program's folder and to the report.
 std::string_view icon_path(warning_kind kind);
 

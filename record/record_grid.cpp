@@ -22,11 +22,11 @@ constexpr std::array<grid_column, 11> record_columns{{
     {"Type of inorganic N",                   "", calculated, 18},
     {"Amount inorganic N applied kg/ha",      "", calculated, 13},
     {"Total N applied",                       "", calculated, 10},
-    {"Manure type",                           "", calculated, 24},
+    {"Manure type",                           "", calculated, 34},
     {"Analysis of N content (kg/t or m3)",    "", calculated, 13},
     {"Quantity applied (t or m3/ha)",         "", calculated, 12},
     {"Total N applied",                       "", calculated, 10},
-    {"Additional comments",                   "", calculated, 34},
+    {"Additional comments",                   "", calculated, 24},
 }};
 
 constexpr std::array<grid_column, 3> warnings_columns{{
@@ -100,6 +100,7 @@ text_grid warnings_grid(const std::vector<record_warning>& warnings) {
     text_grid grid = empty_warnings_grid();
     for (const record_warning& warning : warnings) {
         const int row = grid.add_row();
+        grid.set_cell(row, record_warning_column::icon, std::string(icon_word(warning.kind)));
         grid.set_cell(row, record_warning_column::text, warning.text);
         grid.set_cell(row, record_warning_column::icon_path, std::string(icon_path(warning.kind)));
     }

@@ -90,7 +90,7 @@ void record_module::report(report_desk& desk) {
     if (reply == answer::cancel) return;
     generate_report(desk, record_report_file,
                     reply == answer::no ? all_sections() : record_section(field(), record(), warnings()),
-                    "record", "record");
+                    screen_id::record, screen_id::record);
 }
 
 }  // namespace kel

@@ -2,6 +2,7 @@
 // every report in a folder: a demonstration without a display, the source of the guides' pictures, and a look
 // at what was built.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -79,6 +80,8 @@ class walk {
     void crops();
     void refused_malting_barley(grid_view* table);
     void grassland();
+    void composting();
+    void field_record();
     void reports();
     void help();
 
@@ -331,6 +334,44 @@ void walk::grassland() {
     drive::press(grass, "cmdSite_cancel");
 }
 
+void walk::composting() {
+    drive::press(screen("front"), "cmdFront_composting");
+    QWidget* straw = screen("straw");
+    drive::control<QComboBox>(straw, "cboStraw_residue_type")->setCurrentText("Onion");
+    drive::type(straw, "txtStraw_soilN", "40");
+    drive::control<QAbstractButton>(straw, "optStraw_type2")->click();
+    drive::type(straw, "txtStraw_waste_N", "0.5");
+    drive::press(straw, "cmdStraw_calculate");
+    picture("straw", "composting_result");
+    drive::press(straw, "cmdStraw_print");
+    picture("viewer", "report_composting_result");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(straw, "cmdStraw_viewDB");
+    drive::press(straw, "cmdStraw_DB_add");
+    picture("straw", "composting_field_box");
+    drive::key(drive::focused(), Qt::Key_Escape);
+    picture("straw", "composting_recorded");
+    drive::press(straw, "cmdReport");
+    picture("viewer", "report_composting");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(straw, "cmdStraw_DB_close");
+    drive::press(straw, "cmdStraw_exit");
+}
+
+void walk::field_record() {
+    drive::press(screen("front"), "cmdFront_record");
+    QWidget* record = screen("record");
+    picture("record", "record_quiet");
+    drive::control<QComboBox>(record, "Combo1")->setCurrentText("Steading Park");
+    picture("record", "record_warnings");
+    person_.lay_ready(folder_ + "/Steading Park.csv");
+    drive::press(record, "cmdRecord_csv");
+    drive::press(record, "cmdReport");
+    picture("viewer", "report_record");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(record, "cmdRecord_close");
+}
+
 void walk::reports() {
     drive::press(screen("front"), "cmdFront_edit");
     drive::press(screen("profile"), "cmdReport");
@@ -366,6 +407,8 @@ void walk::all() {
     step4();
     crops();
     grassland();
+    composting();
+    field_record();
     reports();
     help();
 }

@@ -10,6 +10,7 @@
 
 #include "core/file_error.h"
 #include "ui/kel_application.h"
+#include "ui/screens/Field_Record.h"
 #include "ui/screens/FullScreen.h"
 #include "ui/screens/Scotland.h"
 #include "ui/screens/Year_Picker.h"
@@ -22,6 +23,7 @@
 #include "ui/screens/frmProfile.h"
 #include "ui/screens/frmReductions.h"
 #include "ui/screens/frmStorage.h"
+#include "ui/screens/frmStraw.h"
 #include "ui/widgets/module_screen.h"
 #include "ui/widgets/qt_text.h"
 
@@ -51,7 +53,8 @@ struct program::screen_row {
 // Every screen of the program. A new one is a row here.
 std::span<const program::screen_row> program::screen_table() {
     // clang-format off
-    static constexpr std::array<screen_row, 12> table{{
+    static constexpr std::array<screen_row, 14> table{{
+    static constexpr std::array<screen_row, 14> table{{
         // identity             text          years dialog              width height  made by
         {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
         {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
@@ -62,6 +65,8 @@ std::span<const program::screen_row> program::screen_table() {
         {screen_id::inorganic,  "inorg",      picker_module::inorganic,  1220, 720,  &program::make_module<frmInorganic>},
         {screen_id::crops,      "crop",       picker_module::crops,      1220, 720,  &program::make_module<frmCrops_new>},
         {screen_id::grass,      "grass",      picker_module::grass,      1220, 720,  &program::make_module<frmGrass_new>},
+        {screen_id::straw,      "straw",      picker_module::straw,      1100, 680,  &program::make_module<frmStraw>},
+        {screen_id::record,     "record",     picker_module::record,     1220, 720,  &program::make_module<Field_Record>},
         {screen_id::years,      "years",      picker_module::front,         0,   0,  &program::make_years},
         {screen_id::about,      "splash",     picker_module::front,         0,   0,  &program::make_about},
         {screen_id::viewer,     "viewer",     picker_module::front,      1040, 740,  &program::make_viewer},
@@ -180,6 +185,8 @@ QWidget* program::connected(screen_id id, module_screen* module) {
     connect(
         module, &module_screen::left, this, [this, id, module] { leave(id, module->closes_to()); },
         Qt::QueuedConnection);
+    connect(module, &module_screen::help_wanted, this,
+            [this, id](const std::string& topic) { front_.run_help(6, "TP", topic, id); });
     connect(module, &module_screen::years_wanted, this, [this] { open(screen_id::years); });
     return module;
 }

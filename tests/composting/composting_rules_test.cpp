@@ -15,14 +15,14 @@ TEST(Composting, RateIsRoundedBeforeTheReleaseIsWorkedOut) {
         float n;
         composting_result result;
     } cases[] = {
-        {"Onion", 40, straw, 0.5F, {"4.4", "-2.4"}},                   // 46 / 10.5, -0.55 x 4.4 = -2.42
-        {"Broccoli", 50, paper_mill_sludge, 0.8F, {"64", "32"}},       // 128 / 2, 0.5 x 64
-        {"Broccoli", 50, paper_mill_sludge, 0.81F, {"66.7", "34.4"}},  // 128 / 1.92; unrounded it were 34.3
-        {"Peas", 0, straw, 1.2F, {"21.2", "10.6"}},                    // 104 / 4.9
-        {"Lettuce (round)", 0, straw, 0.88F, {"1.6", "0"}},            // 12 / 7.46, 0.02 x 1.6
-        {"Onion", 0.5F, paper_mill_sludge, 0.4F, {"1.1", "-1"}},       // 6.5 / 5.8, -0.9 x 1.1 = -0.99
-        {"Onion", 0.525F, straw, 0, {"0.5", "-0.7"}},                  // 0.45 and -0.65: halves go up in size
-        {"Onion", 40, straw, 2, {"-30.7", "-52.2"}},                   // 46 / -1.5
+        {"Onion", 40, straw_waste, 0.5F, {"4.4", "-2.4"}},         // 46 / 10.5, -0.55 x 4.4 = -2.42
+        {"Broccoli", 50, pms_waste, 0.8F, {"64", "32"}},           // 128 / 2, 0.5 x 64
+        {"Broccoli", 50, pms_waste, 0.81F, {"66.7", "34.4"}},      // 128 / 1.92; unrounded it were 34.3
+        {"Peas", 0, straw_waste, 1.2F, {"21.2", "10.6"}},          // 104 / 4.9
+        {"Lettuce (round)", 0, straw_waste, 0.88F, {"1.6", "0"}},  // 12 / 7.46, 0.02 x 1.6
+        {"Onion", 0.5F, pms_waste, 0.4F, {"1.1", "-1"}},           // 6.5 / 5.8, -0.9 x 1.1 = -0.99
+        {"Onion", 0.525F, straw_waste, 0, {"0.5", "-0.7"}},        // 0.45 and -0.65: halves go up in size
+        {"Onion", 40, straw_waste, 2, {"-30.7", "-52.2"}},         // 46 / -1.5
     };
     for (const auto& c : cases) {
         const auto residue = find_residue(c.residue);
@@ -36,18 +36,18 @@ TEST(Composting, RateIsRoundedBeforeTheReleaseIsWorkedOut) {
 }
 
 TEST(Composting, SludgeChangesItsLinesAboveTheirBound) {
-    EXPECT_FLOAT_EQ(factors_of(paper_mill_sludge, 0.8F).immobilised_kg_per_t_dm, 2);
-    EXPECT_FLOAT_EQ(factors_of(paper_mill_sludge, 0.801F).immobilised_kg_per_t_dm, 1.992F);
-    EXPECT_FLOAT_EQ(factors_of(straw, 0.801F).released_kg_per_t_dm, -0.0985F);
+    EXPECT_FLOAT_EQ(factors_of(pms_waste, 0.8F).immobilised_kg_per_t_dm, 2);
+    EXPECT_FLOAT_EQ(factors_of(pms_waste, 0.801F).immobilised_kg_per_t_dm, 1.992F);
+    EXPECT_FLOAT_EQ(factors_of(straw_waste, 0.801F).released_kg_per_t_dm, -0.0985F);
 }
 
 TEST(Composting, AWasteThatImmobilisesNothingHasNoRate) {
-    EXPECT_FALSE(compost(78, 50, paper_mill_sludge, 1.05F));
-    EXPECT_FALSE(compost(78, 50, straw, 1.8125F));
-    EXPECT_TRUE(compost(78, 50, paper_mill_sludge, 1.0501F));
+    EXPECT_FALSE(compost(78, 50, pms_waste, 1.05F));
+    EXPECT_FALSE(compost(78, 50, straw_waste, 1.8125F));
+    EXPECT_TRUE(compost(78, 50, pms_waste, 1.0501F));
     const std::string beyond_measure(60, '9');
-    EXPECT_FALSE(compost(78, leading_single("3" + std::string(38, '0')), straw, 1.8124F));
-    EXPECT_TRUE(compost(78, leading_single(beyond_measure), straw, 0.5F)) << "read as no number";
+    EXPECT_FALSE(compost(78, leading_single("3" + std::string(38, '0')), straw_waste, 1.8124F));
+    EXPECT_TRUE(compost(78, leading_single(beyond_measure), straw_waste, 0.5F)) << "read as no number";
 }
 
 }  // namespace kel

@@ -21,9 +21,9 @@ using texts = std::vector<std::string>;
 
 struct viewer_stub : report_viewer {
     void wait_cursor(bool /*on*/) override {}
-    void hide_screen(std::string_view tag) override { hidden = tag; }
+    void hide_screen(screen_id id) override { hidden = id; }
     void show(const viewer_request& request) override { shown = request; }
-    std::string hidden;
+    screen_id hidden = screen_id::front;
     viewer_request shown;
 };
 
@@ -198,7 +198,8 @@ TEST_F(FieldRecord, ReportsOneFieldOrAll) {
     EXPECT_EQ(report(answer::cancel), "");
     const std::string one = report(answer::yes);
     EXPECT_EQ(viewer.shown.page, path("KEL_report_record.htm"));
-    EXPECT_EQ(viewer.hidden + state.viewer_back, "recordrecord");
+    EXPECT_EQ(viewer.hidden, screen_id::record);
+    EXPECT_EQ(state.viewer_back, screen_id::record);
     std::size_t at = 0;
     for (const char* text :
          {"Field Record: Long Rig", "Date of fertiliser/ manure application", "Amount of inorganic N (kg/ha)",

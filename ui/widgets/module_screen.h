@@ -38,6 +38,8 @@ class module_screen : public QWidget {
     /// The module was closed.
     void left();
     void years_wanted();
+    /// A topic of the program's help: "kel_1_6.htm".
+    void help_wanted(const std::string& topic);
 
   protected:
     /// Asks the module's close question.

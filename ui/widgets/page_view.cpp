@@ -5,6 +5,20 @@
 
 namespace kel {
 
+namespace {
+
+// The tag of an icon in the field record is not closed, so that what fills its cell follows the address.
+QUrl address_alone(const QUrl& name) {
+    const QString path = name.path(QUrl::FullyDecoded);
+    const auto end = path.indexOf(QChar::Nbsp);
+    if (end < 0) return name;
+    QUrl alone = name;
+    alone.setPath(path.left(end));
+    return alone;
+}
+
+}  // namespace
+
 page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
     setOpenLinks(false);
     setAccessibleName(tr("Page"));
@@ -44,7 +58,7 @@ bool page_view::follow(const QUrl& url) {
 }
 
 QVariant page_view::loadResource(int type, const QUrl& name) {
-    const QUrl url = source().resolved(name);
+    const QUrl url = source().resolved(address_alone(name));
     // Report text is not escaped, so a page may ask for anything: it gets plain files and nothing else.
     return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile() ? QTextBrowser::loadResource(type, url)
                                                                       : QVariant();
