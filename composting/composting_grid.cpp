@@ -45,6 +45,12 @@ text_grid load_calculations(const database& db, const std::vector<farm_field>& f
     return calculations;
 }
 
+void import_calculations(const import_source& source, import_mode mode, text_grid& calculations,
+                         load_messages& told) {
+    const known_fields known(source.farm);
+    import_rows(source.file, table, calculations, {}, mode, {.fields = &known}, told);
+}
+
 void save_calculations(const database& db, const text_grid& calculations) {
     save_grid(db, table, calculations, calculations.data_row_count());
 }

@@ -46,6 +46,7 @@ void composting_module::get_straw_data() {
         const database db(state_.assess_file);
         const std::vector<farm_field> fields = read_farm_fields(db);
         names = field_names(fields);
+        loaded_.remember(db);
         calculations = load_calculations(db, fields, told);
     }
     calculations_ = std::move(calculations);
@@ -123,12 +124,21 @@ void composting_module::delete_row(int row) {
     erase_data_row(person_, calculations_, row);
 }
 
+bool composting_module::import_records(import_mode mode) {
+    const auto source = open_import(state_, person_, mode);
+    if (!source) return false;
+    load_messages told;
+    import_calculations(*source, mode, calculations_, told);
+    told.tell(person_);
+    return true;
+}
+
 bool composting_module::save() {
     if (!have_file_to_save(state_, person_, text::cannot_save)) return false;
-    const database db(state_.assess_file);
-    save_transaction transaction(db);
-    save_calculations(db, calculations_);
-    transaction.commit();
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    save_calculations(file.db(), calculations_);
+    file.commit();
     return true;
 }
 

@@ -12,6 +12,8 @@
 #include "composting/composting_rules.h"
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_rows.h"
+#include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "reports/report_viewer.h"
@@ -59,8 +61,11 @@ class composting_module {
     /// after a message, for the entry row.
     bool edit_row(int row);
     void delete_row(int row);
-    /// Replaces the recorded calculations in the file in one transaction. False: no file was chosen. Throws
-    /// file_error; the file then holds its old rows.
+    /// Takes over those of another assessment. False: no file was chosen. Throws file_error and leaves the
+    /// table as it was.
+    bool import_records(import_mode mode);
+    /// Replaces the recorded calculations in the file in one transaction. False: no file was chosen,
+    /// or the person keeps what another program wrote there. Throws file_error; the file then holds its old rows.
     bool save();
     /// Saves and closes the panel; it stays open when nothing was saved.
     void close_panel();
@@ -85,6 +90,7 @@ class composting_module {
     composting_inputs inputs_;
     std::optional<worked_out> worked_;
     bool panel_open_ = false;
+    loaded_rows loaded_{{{"Straw"}}};
     text_grid calculations_;
     std::vector<std::string> field_names_;
 };

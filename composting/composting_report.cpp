@@ -1,7 +1,5 @@
 #include "composting/composting_report.h"
 
-#include <array>
-
 #include "composting/composting_grid.h"
 #include "composting/composting_messages.h"
 
@@ -12,25 +10,13 @@ namespace {
 namespace col = composting_column;
 
 page_lines summary(const text_grid& calculations) {
-    // The table shows the columns in the order of the grid.
-    constexpr std::array<const char*, 7> headings{"Field Name",
-                                                  "Soil Mineral N At Harvest (kg/ha)",
-                                                  "Crop Residue Type",
-                                                  "Applied Waste",
-                                                  "N Content Of Waste (%)",
-                                                  "Recommended Rate Of Application (t/ha)",
-                                                  "Extra Release Of N (kg N/ha)"};
     report_table table;
-    std::vector<report_cell> heading_row;
-    for (const char* text : headings)
-        heading_row.push_back({.text = text});
-    table.add_heading_row(heading_row);
-    for (int row = 0; row < calculations.data_row_count(); ++row) {
-        std::vector<std::string> texts;
-        for (int column = 0; column < calculations.column_count(); ++column)
-            texts.push_back(calculations.cell(row, column));
-        table.add_row(texts);
-    }
+    table.add_heading_row(std::vector<std::string>{
+        "Field Name", "Soil Mineral N At Harvest (kg/ha)", "Crop Residue Type", "Applied Waste",
+        "N Content Of Waste (%)", "Recommended Rate Of Application (t/ha)", "Extra Release Of N (kg N/ha)"});
+    table.add_grid(
+        calculations, calculations.data_row_count(),
+        {col::field, col::soil_n, col::residue, col::waste, col::waste_n, col::rate, col::release});
     return table.lines();
 }
 
@@ -51,18 +37,15 @@ void append_field(page_lines& body, const text_grid& calculations, int row) {
 }  // namespace
 
 page_lines composting_result_report(const composting_shown& shown) {
-    report_table table;
-    for (const auto& [label, value] : {
-             std::pair{"Crop Residue:", &shown.residue},
-             std::pair{"Residual soil mineral N at harvest (kg/ha):", &shown.soil_n},
-             std::pair{"Waste product:", &shown.waste},
-             std::pair{"N content of the waste product:", &shown.waste_n},
-             std::pair{"Quantity of waste product to be applied:", &shown.rate},
-             std::pair{"Expected extra release of N:", &shown.release},
-             std::pair{"Notes:", &shown.note},
-         })
-        table.add_row(std::vector<std::string>{label, *value});
-    return table.lines();
+    return label_table({
+        {"Crop Residue:", shown.residue},
+        {"Residual soil mineral N at harvest (kg/ha):", shown.soil_n},
+        {"Waste product:", shown.waste},
+        {"N content of the waste product:", shown.waste_n + "%"},
+        {"Quantity of waste product to be applied:", shown.rate},
+        {"Expected extra release of N:", shown.release},
+        {"Notes:", shown.note},
+    });
 }
 
 page_lines composting_report(const text_grid& calculations) {

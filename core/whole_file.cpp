@@ -29,4 +29,11 @@ void copy_whole_file(const std::string& from, const std::string& to) {
     fresh_file(from, to).put_in_place();
 }
 
+void copy_between(const std::string& from_folder, const std::string& to_folder, const std::string& path) {
+    const fs::path target = fs::path(to_folder) / path;
+    std::error_code ignored;  // the copy tells of it
+    fs::create_directories(target.parent_path(), ignored);
+    copy_whole_file((fs::path(from_folder) / path).string(), target.string());
+}
+
 }  // namespace kel

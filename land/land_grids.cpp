@@ -75,6 +75,23 @@ static_assert(land_columns[land_column::soil].heading == "Soil" &&
               land_columns[land_column::applic_january].heading == "Applic_January" &&
               land_columns[land_column::total_area].heading == "Total Area");
 
+constexpr std::string_view land_table = "Land";
+constexpr std::string_view stock_table = "Land_animals";
+
+// The field limit follows from the available area as it is stored.
+row_rules land_rules(const known_fields& fields) {
+    return {.fields = &fields, .complete = [](text_grid& land, int row, const recordset&) {
+                land.set_cell(row, land_column::field_limit,
+                              shortest_text(field_limit(land.number(row, land_column::available))));
+            }};
+}
+
+row_rules stock_rules(float& working_constant) {
+    return {.complete = [&working_constant](text_grid& animals, int row, const recordset&) {
+        recalculate_stock_row(animals, row, working_constant);
+    }};
+}
+
 }  // namespace
 
 text_grid empty_land_grid() {
@@ -124,23 +141,29 @@ text_grid fields_to_grid(const std::vector<farm_field>& fields) {
 
 text_grid load_land(const database& db, const std::vector<farm_field>& fields, load_messages& told) {
     const known_fields known(fields);
-    const auto set_limit = [](text_grid& land, int row, const recordset&) {
-        land.set_cell(row, land_column::field_limit,
-                      shortest_text(field_limit(land.number(row, land_column::available))));
-    };
     text_grid land(land_columns);
-    append_rows(db, "Land", land, {.fields = &known, .complete = set_limit}, told);
+    append_rows(db, land_table, land, land_rules(known), told);
     land.add_row();
     return land;
 }
 
 text_grid load_stock(const database& db, float& working_constant) {
+    load_messages none;
     text_grid animals(stock_columns);
-    append_rows(db, "Land_animals", animals);
-    for (int row = 0; row < animals.row_count(); ++row)
-        recalculate_stock_row(animals, row, working_constant);
+    append_rows(db, stock_table, animals, stock_rules(working_constant), none);
     animals.add_row();
     return animals;
+}
+
+void import_land(const import_source& source, import_mode mode, text_grid& land, load_messages& told) {
+    const known_fields known(source.farm);
+    import_rows(source.file, land_table, land, {}, mode, land_rules(known), told);
+}
+
+void import_stock(const import_source& source, import_mode mode, text_grid& animals,
+                  float& working_constant) {
+    load_messages none;
+    import_rows(source.file, stock_table, animals, {}, mode, stock_rules(working_constant), none);
 }
 
 void fill_deductions(text_grid& land) {

@@ -7,6 +7,7 @@
 #include "core/assessment_store.h"
 #include "core/farm_fields.h"
 #include "core/grid_rows.h"
+#include "core/record_import.h"
 #include "core/text_grid.h"
 
 namespace kel {
@@ -48,8 +49,13 @@ text_grid fields_to_grid(const std::vector<farm_field>& fields);
 
 /// [Land] with the field limits, without the rows of fields that the profile lacks.
 text_grid load_land(const database& db, const std::vector<farm_field>& fields, load_messages& told);
+/// The rows of [Land] in another assessment, total area and carried columns included, below those of the
+/// table or in their place; a field may come twice.
+void import_land(const import_source& source, import_mode mode, text_grid& land, load_messages& told);
 /// [Land_animals], recalculated, so that the program's constants replace those of the file.
 text_grid load_stock(const database& db, float& working_constant);
+
+void import_stock(const import_source& source, import_mode mode, text_grid& animals, float& working_constant);
 
 /// Fills empty deductions of the data rows with "0", as they are saved.
 void fill_deductions(text_grid& land);

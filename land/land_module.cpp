@@ -202,6 +202,24 @@ outcome land_module::erase_stock_row(int row) {
     return erase_data_row(person_, animals_, row);
 }
 
+bool land_module::import_land(import_mode mode) {
+    const auto source = open_import(state_, person_, mode);
+    if (!source) return false;
+    load_messages told;
+    kel::import_land(*source, mode, land_, told);
+    told.tell(person_);
+    return true;
+}
+
+bool land_module::import_animals(import_mode mode) {
+    const auto source = open_import(state_, person_, mode);
+    if (!source) return false;
+    float constant = working_constant_;
+    import_stock(*source, mode, animals_, constant);
+    working_constant_ = constant;
+    return true;
+}
+
 void land_module::calculate() {
     const int fields = land_.data_row_count();
     result_ = compare_with_limits({

@@ -55,6 +55,11 @@ class land_module {
     outcome erase_land_row(int row);
     outcome erase_stock_row(int row);
 
+    // The rows of the table in another assessment. False: no file was chosen. Throws file_error and leaves
+    // the tables as they were.
+    bool import_land(import_mode mode);
+    bool import_animals(import_mode mode);
+
     /// Opens the result panel.
     void calculate();
     /// Closes the result panel.

@@ -5,6 +5,7 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
+#include "manure/manure_messages.h"
 
 namespace kel {
 
@@ -64,6 +65,20 @@ std::string one_decimal(float value) {
     return shortest_text(round_half_even(value, 1));
 }
 
+constexpr std::string_view stored_table = "Manure_applic";
+
+// A date outside the window is left empty, with the cells that depend on it.
+row_rules application_rules(const known_fields& fields, const date_window& window, load_messages& told) {
+    const auto check_date = [&window, &told](text_grid& table, int row, const recordset&) {
+        const auto day = parse_date(table.cell(row, col::date));
+        if (day && window.contains(*day)) return;
+        if (!table.cell(row, col::date).empty()) told.add({"", window.refusal});
+        for (const int c : {col::date, col::percentage, col::available, col::available_next, col::month})
+            table.set_cell(row, c, "");
+    };
+    return {.fields = &fields, .nameless_rows_pass = true, .complete = check_date};
+}
+
 }  // namespace
 
 text_grid empty_manure_grid() {
@@ -113,22 +128,22 @@ void write_rates(text_grid& table, int row) {
 
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
                             load_messages& told) {
-    const auto check_date = [&](text_grid& table, int row, const recordset&) {
-        const auto day = parse_date(table.cell(row, col::date));
-        if (day && window.contains(*day)) return;
-        if (!table.cell(row, col::date).empty()) told.add({"", window.refusal});
-        for (const int c : {col::date, col::percentage, col::available, col::available_next, col::month})
-            table.set_cell(row, c, "");
-    };
     text_grid table(manure_columns);
-    append_rows(db, "Manure_applic", table,
-                {.fields = &fields, .nameless_rows_pass = true, .complete = check_date}, told);
+    append_rows(db, stored_table, table, application_rules(fields, window, told), told);
     table.add_row();
     return table;
 }
 
+void import_applications(const import_source& source, import_mode mode, const date_window& window,
+                         text_grid& table, load_messages& told) {
+    const known_fields known(source.farm);
+    row_rules rules = application_rules(known, window, told);
+    rules.unknown = manure_messages::imported_field_does_not_exist;
+    import_rows(source.file, stored_table, table, {}, mode, rules, told);
+}
+
 void save_applications(const database& db, const text_grid& table) {
-    save_grid(db, "Manure_applic", table, table.data_row_count());
+    save_grid(db, stored_table, table, table.data_row_count());
 }
 
 std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table) {

@@ -10,6 +10,7 @@
 #include "core/farm_fields.h"
 #include "core/grid_rows.h"
 #include "core/prompts.h"
+#include "core/record_import.h"
 #include "core/text_grid.h"
 #include "manure/field_limit_check.h"
 #include "rules/available_nitrogen.h"
@@ -66,6 +67,9 @@ struct date_window {
 /// window is left empty, with the cells that depend on it. What is to be said goes into `told`, in order.
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
                             load_messages& told);
+/// Those of another assessment, below the rows of the table or in their place.
+void import_applications(const import_source& source, import_mode mode, const date_window& window,
+                         text_grid& table, load_messages& told);
 /// Replaces the rows of [Manure_applic]. Call within a save_transaction.
 void save_applications(const database& db, const text_grid& table);
 

@@ -1,5 +1,7 @@
 #include "manure/manure_messages.h"
 
+#include "core/module_messages.h"
+
 namespace kel::manure_messages {
 
 namespace {
@@ -42,6 +44,12 @@ std::string closed_warning(const std::string& manure, const std::string& field, 
     return "An application of " + manure + " to " + field + " on " + day +
            " is during a closed period for this crop and soil type. You should review the manure "
            "applications to this field";
+}
+
+message imported_field_does_not_exist(const std::string& name) {
+    message box = module_messages::field_does_not_exist(name);
+    box.title = "field does not exist";
+    return box;
 }
 
 }  // namespace kel::manure_messages

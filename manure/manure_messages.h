@@ -109,6 +109,8 @@ inline constexpr std::string_view examine_applications =
     "not applied more than 250 Kg N/ha to the available spreading area of any field!";
 /// Both sentences with the fields between them, one a line, as they follow the result instruction.
 std::string limit_warning(const std::vector<std::string>& fields);
+/// A row of another assessment whose field the farm profile lacks.
+message imported_field_does_not_exist(const std::string& name);
 /// Without a full stop at its end.
 std::string closed_warning(const std::string& manure, const std::string& field, const std::string& day);
 

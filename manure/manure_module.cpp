@@ -33,8 +33,22 @@ date_window manure_module::window(const year_limits& limits) const {
     return {limits.year_start, limits.year_end, std::string(text::outside_kel_year)};
 }
 
+// The lookups of other modules leave their own bounds in the state.
+year_limits manure_module::limits_of_year() const {
+    return state_.kel_year_start ? year_limits_of(*state_.kel_year_start) : state_.limits;
+}
+
+bool manure_module::import_records(import_mode mode) {
+    const auto source = open_import(state_, person_, mode);
+    if (!source) return false;
+    load_messages told;
+    import_applications(*source, mode, window(limits_of_year()), applications_, told);
+    told.tell(person_);
+    return true;
+}
+
 void manure_module::manure_load_stuff() {
-    const year_limits limits = state_.kel_year_start ? year_limits_of(*state_.kel_year_start) : state_.limits;
+    const year_limits limits = limits_of_year();
     text_grid applications = empty_manure_grid();
     std::vector<farm_field> fields;
     load_messages told;

@@ -53,6 +53,10 @@ class manure_module {
 
     outcome erase_row(int row);
 
+    /// The applications of another assessment. False: no file was chosen. Throws file_error and leaves the
+    /// table as it was.
+    bool import_records(import_mode mode);
+
     /// Sums the fields and tests limit and closed periods. False, after a message, leaves the table in view.
     /// Each file is read once; throws file_error before anything has changed.
     bool calculate();
@@ -74,6 +78,7 @@ class manure_module {
     opening incorporation_box(int row, const incorporation_choices& choices) const;
     bool proceeds(const message& question) { return person_.ask(question) == answer::yes; }
     bool for_previous_year() const { return kel::for_previous_year(state_.manure_caller); }
+    year_limits limits_of_year() const;
     date_window window(const year_limits& limits) const;
     bool land_allows(const std::string& field, int month);
     void take_default_n_content(int row);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/prompts.h"
+#include "core/record_import.h"
 
 namespace kel::profile_messages {
 
@@ -80,6 +81,14 @@ inline const message areas_changed{
     "One or more of the fields have changed in size. You will need to re-assess the land availability for "
     "spreading manure for these fields (the old data has been deleted).",
     message_kind::stop};
+
+// Fields of another farm.
+inline constexpr import_titles profile_titles{"Add data from another profile",
+                                              "Replace with data from another profile"};
+inline const message name_in_new_file{"Field Name",
+                                      "A field in the new file is named the same as one in the open Farm "
+                                      "Profile. This field will not be added to the "
+                                      "list!"};
 
 // Location.
 inline constexpr std::string_view town_prompt = "Please the select the nearest town to your farm:";

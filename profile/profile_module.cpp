@@ -9,6 +9,7 @@
 #include "core/assessment_files.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
+#include "profile/field_import.h"
 #include "profile/profile_messages.h"
 #include "profile/profile_report.h"
 #include "rules/soils.h"
@@ -146,6 +147,15 @@ outcome profile_module::erase_row(int row) {
 std::string profile_module::create_caption() const {
     const double count = leading_number(farm_.field_count);
     return count == 0 ? "Create Fields" : "Create " + shortest_text(count) + " Fields";
+}
+
+bool profile_module::import_records(import_mode mode) {
+    const auto source = open_import(state_, person_, mode, profile_messages::profile_titles);
+    if (!source) return false;
+    load_messages told;
+    if (import_fields(source->file, mode, fields_, told)) show_field_count();
+    told.tell(person_);
+    return true;
 }
 
 void profile_module::create_fields() {

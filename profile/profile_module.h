@@ -9,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_rows.h"
 #include "core/open_mark.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
@@ -73,6 +74,10 @@ class profile_module {
     outcome enter_soil(int row, int row_selection, const std::string& text);
     outcome clear_cell(int row, int column);
     outcome erase_row(int row);
+
+    /// The fields of another farm; in adding, one whose name is in the list is told and left out. False: no
+    /// file was chosen. Throws file_error and leaves the list as it was.
+    bool import_records(import_mode mode);
 
     std::string create_caption() const;
     void create_fields();

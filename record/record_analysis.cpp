@@ -101,6 +101,13 @@ std::string_view icon_path(warning_kind kind) {
     return icon_of(kind).path;
 }
 
+std::vector<std::string> icon_paths() {
+    std::vector<std::string> paths;
+    for (const icon& i : icons)
+        paths.emplace_back(i.path);
+    return paths;
+}
+
 std::vector<float> twelve_month_totals(const std::vector<record_row>& rows) {
     std::vector<float> totals;
     for (auto row = rows.begin(); row != rows.end(); ++row)

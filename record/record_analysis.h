@@ -16,6 +16,7 @@ enum class warning_kind { information, alert, closed_period };
 std::string_view icon_word(warning_kind kind);
 /// The icon of a kind, relative to the program's folder and to the report.
 std::string_view icon_path(warning_kind kind);
+std::vector<std::string> icon_paths();
 
 struct record_warning {
     warning_kind kind;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/whole_file.h"
+
 namespace kel {
 
 namespace {
@@ -32,6 +34,12 @@ void generate_report(report_desk& desk, std::string_view file_name, const page_l
         desk.viewer.show(request);
     }
     desk.state.viewer_back = back;
+}
+
+void lay_out_pictures(const installation& places, const std::vector<std::string>& pictures) {
+    if (places.written_folder == places.program_folder) return;
+    for (const std::string& picture : pictures)
+        copy_between(places.program_folder, places.written_folder, picture);
 }
 
 }  // namespace kel

@@ -45,4 +45,8 @@ void generate_report(report_desk& desk, std::string_view file_name, const page_l
                      screen_id hidden_screen, screen_id back, viewer_request request = {},
                      std::vector<std::string> pictures = {});
 
+/// Copies pictures of the program's folder, by their paths within it, into the report folder, where a page
+/// that shows them looks for them. Throws file_error.
+void lay_out_pictures(const installation& places, const std::vector<std::string>& pictures);
+
 }  // namespace kel

@@ -42,7 +42,7 @@ void save_report(const application_state& state, prompts& person, std::string& r
     copy_whole_file(state.last_report_path, chosen);
     copy_whole_file(join_path(state.places.program_folder, logo_file), join_path(report_folder, logo_file));
     for (const std::string& picture : state.last_report_pictures)
-        copy_whole_file(state.places.report(picture), join_path(report_folder, picture));
+        copy_between(state.places.written_folder, report_folder, picture);
 }
 
 }  // namespace kel

@@ -113,7 +113,8 @@ land_plan empty_land_plan() {
     return plan;
 }
 
-land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told) {
+land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told,
+                         const std::function<message(const std::string&)>& unknown) {
     const known_fields known(fields);
     land_plan plan{text_grid(land_columns), text_grid(spreading_columns)};
     std::vector<int> stored;  // looked up once for all rows
@@ -122,7 +123,7 @@ land_plan load_land_plan(const database& db, const std::vector<farm_field>& fiel
         if (stored.empty()) stored = stored_columns(source, plan.spreading);
         load_grid_row(source, stored, plan.spreading, plan.spreading.add_row());
     };
-    append_rows(db, "Land", plan.land, {.fields = &known, .complete = complete}, told);
+    append_rows(db, "Land", plan.land, {.fields = &known, .unknown = unknown, .complete = complete}, told);
     add_last_rows(plan);
     return plan;
 }

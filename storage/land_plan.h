@@ -3,6 +3,7 @@
 // follow. Rows count from 0 without the heading.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,7 +37,10 @@ struct land_plan {
 land_plan empty_land_plan();
 
 /// [Land], without the rows of fields that the profile lacks. An empty month takes the available area.
-land_plan load_land_plan(const database& db, const std::vector<farm_field>& fields, load_messages& told);
+/// `unknown` is what is told of those.
+land_plan load_land_plan(
+    const database& db, const std::vector<farm_field>& fields, load_messages& told,
+    const std::function<message(const std::string&)>& unknown = module_messages::field_does_not_exist);
 /// Writes what is entered here and not empty into the fields' rows of [Land]. Call it within a
 /// save_transaction.
 void save_land_plan(const database& db, const land_plan& plan);

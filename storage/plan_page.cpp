@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/numbers.h"
+#include "core/record_import.h"
 #include "storage/field_use_checks.h"
 #include "storage/slurry_production.h"
 #include "storage/slurry_transfer.h"
@@ -49,6 +50,33 @@ void plan_page::begin(const store_totals& stores, const monthly_values& dirty_wa
     set_inputs(production_, inputs);
     rebuild();
     tab_ = balance_ ? plan_tab::production : plan_tab::land;
+}
+
+void plan_page::changed_by_import() {
+    changed_ = true;
+    rebuild();
+}
+
+bool plan_page::import_production(import_mode mode) {
+    const auto source = open_import(state_, person_, mode);
+    if (!source) return false;
+    kel::import_production(*source, mode, production_);
+    changed_by_import();
+    return true;
+}
+
+// A table without a row leaves the fields that are there.
+bool plan_page::import_land() {
+    const auto source = open_import(state_, person_, import_mode::over_write);
+    if (!source) return false;
+    load_messages told;
+    if (!source->file.open("Land").eof()) {
+        plan_ =
+            load_land_plan(source->file, source->farm, told, storage_messages::imported_field_does_not_exist);
+        changed_by_import();
+    }
+    told.tell(person_);
+    return true;
 }
 
 void plan_page::rebuild() {

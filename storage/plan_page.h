@@ -9,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_rows.h"
 #include "core/prompts.h"
 #include "storage/land_plan.h"
 #include "storage/production_grid.h"
@@ -70,6 +71,11 @@ class plan_page {
     /// Command10, "Get Slurry Data": the slurries of Step 3 in place of the rates. Throws file_error.
     void get_slurry_data();
 
+    // The tables of another assessment; [Land] only in place of what is there. False: no file was chosen.
+    // Throws file_error and leaves the tables as they were.
+    bool import_production(import_mode mode);
+    bool import_land();
+
     /// Whether there are entries that save_storage has not written.
     bool changed() const { return changed_; }
     void set_saved() { changed_ = false; }
@@ -87,6 +93,7 @@ class plan_page {
     crop_pair shown_field_use(int row) const;
     outcome set_stock_cell(int row, int column, const std::string& text);
     outcome entered();
+    void changed_by_import();
     void rebuild();
 
     application_state& state_;

@@ -137,6 +137,12 @@ text_grid load_production(const database& db) {
     return production;
 }
 
+void import_production(const import_source& source, import_mode mode, text_grid& production) {
+    load_messages none;
+    if (import_rows(source.file, "Slurry_animals", production, {.above = 1, .below = 2}, mode, {}, none))
+        set_labels(production);
+}
+
 void save_production(const database& db, const text_grid& production) {
     text_grid lines = production;
     lines.set_row_count(empty_stock_row(production));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/assessment_store.h"
+#include "core/record_import.h"
 #include "core/text_grid.h"
 #include "rules/months.h"
 
@@ -40,6 +41,9 @@ monthly_values stock_totals(const text_grid& production);
 
 /// [Slurry_animals] between an empty row of inputs and an empty line.
 text_grid load_production(const database& db);
+/// The lines of another assessment, below those of the table or in their place. The totals are to be set
+/// anew.
+void import_production(const import_source& source, import_mode mode, text_grid& production);
 /// Replaces the rows of [Slurry_animals]. Call it within a save_transaction.
 void save_production(const database& db, const text_grid& production);
 

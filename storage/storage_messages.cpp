@@ -67,4 +67,11 @@ message crop_mismatch(std::string_view first_crop, std::string_view calculated_c
             message_kind::question, message_buttons::yes_no};
 }
 
+message imported_field_does_not_exist(const std::string& name) {
+    return {"Field does not exist", "The field you are trying to load (" + name +
+                                        ") does not exist in the farm profile, and will not be imported. If "
+                                        "you wish to include it in the "
+                                        "analysis, the profile will need to be amended!"};
+}
+
 }  // namespace kel::storage_messages

@@ -187,4 +187,7 @@ inline constexpr std::string_view over_100_percent =
 inline constexpr std::string_view over_150_percent =
     "Storage capacity has been exceeded, over 150% for some months";
 
+/// A field of an imported [Land] that the farm profile lacks.
+message imported_field_does_not_exist(const std::string& name);
+
 }  // namespace kel::storage_messages

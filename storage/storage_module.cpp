@@ -99,9 +99,9 @@ bool storage_module::write_first_page() {
     if (!file) return false;
     text_grid stores = load_stores(file.db(), percent_full);
     write_store_in(file.db(), rain_mm_, water_.answers());
-    if (percent_full) save_stores(file.db(), stores);
+    if (percent_full && !stores_.imported()) save_stores(file.db(), stores);
     file.commit();
-    stores_.take(std::move(stores), file.db());
+    if (!stores_.imported()) stores_.take(std::move(stores), file.db());
     return true;
 }
 
@@ -140,6 +140,7 @@ bool storage_module::save_storage() {
     if (page_ != storage_page::plan) return false;
     const bool new_file = state_.assess_file.empty();
     if (!have_file_to_save(state_, person_, "Cannot Save")) return false;
+    if (stores_.imported() && !stores_.save_imported()) return false;
     module_save file(state_.assess_file, person_, plan_rows_);
     if (!file) return false;
     if (new_file) {

@@ -7,6 +7,7 @@
 #include "core/assessment_files.h"
 #include "core/grid_rows.h"
 #include "core/numbers.h"
+#include "core/record_import.h"
 #include "rules/rainfall.h"
 #include "storage/storage_messages.h"
 
@@ -15,6 +16,7 @@ namespace kel {
 namespace {
 
 constexpr auto entered = column_kind::entered;
+constexpr std::string_view stored_table = "Slurry_store";
 
 // The table of stores. The file's column of the diameter is named after the circumference.
 // clang-format off
@@ -100,13 +102,17 @@ bool stores_page::acceptable(const store_form& form) {
 }
 
 // The file first: when it cannot be written, the table still shows what the file holds.
+bool stores_page::write(const text_grid& stores) {
+    if (state_.assess_file.empty()) return true;
+    module_save file(state_.assess_file, person_, loaded_);
+    if (!file) return false;
+    save_stores(file.db(), stores);
+    file.commit();
+    return true;
+}
+
 bool stores_page::keep(text_grid stores) {
-    if (!state_.assess_file.empty()) {
-        module_save file(state_.assess_file, person_, loaded_);
-        if (!file) return false;
-        save_stores(file.db(), stores);
-        file.commit();
-    }
+    if (!imported_ && !write(stores)) return false;
     stores_ = std::move(stores);
     return true;
 }
@@ -144,8 +150,23 @@ void stores_page::take(text_grid stores, const database& db) {
     take(std::move(stores));
 }
 
+bool stores_page::save_imported() {
+    if (!write(stores_)) return false;
+    imported_ = false;
+    return true;
+}
+
+bool stores_page::import_records(import_mode mode) {
+    const auto source = open_import(state_, person_, mode);
+    if (!source) return false;
+    load_messages none;
+    imported_ = import_rows(source->file, stored_table, stores_, {}, mode, {}, none) || imported_;
+    return true;
+}
+
 void stores_page::take(text_grid stores) {
     stores_ = std::move(stores);
+    imported_ = false;
 }
 
 text_grid empty_stores() {
@@ -156,7 +177,7 @@ text_grid empty_stores() {
 
 text_grid load_stores(const database& db, const std::optional<std::string>& percent_full) {
     text_grid stores(columns);
-    append_rows(db, "Slurry_store", stores);
+    append_rows(db, stored_table, stores);
     for (int row = 0; percent_full && row < stores.row_count(); ++row)
         if (!stores.cell(row, store_column::percent).empty())
             stores.set_cell(row, store_column::percent, *percent_full);
@@ -165,7 +186,7 @@ text_grid load_stores(const database& db, const std::optional<std::string>& perc
 }
 
 void save_stores(const database& db, const text_grid& stores) {
-    save_grid(db, "Slurry_store", stores, stores.data_row_count());
+    save_grid(db, stored_table, stores, stores.data_row_count());
 }
 
 std::optional<std::string> get_previous_percent_full(const application_state& state) {

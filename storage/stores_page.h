@@ -1,5 +1,6 @@
 // The second page of Step 2: the table of the farm's slurry stores. Every change is written to the file at
-// once. Rows count from 0 without the heading; the last row is the empty one.
+// once, but for imported stores, which wait for the save of the third page. Rows count from 0 without the
+// heading; the last row is the empty one.
 #pragma once
 
 #include <optional>
@@ -8,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/assessment_store.h"
+#include "core/grid_rows.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
@@ -36,21 +38,30 @@ class stores_page {
     /// cmdStores_delete, "Delete Row". False, after a message, for the empty row.
     bool delete_store(int row);
 
+    /// The stores of another assessment. False: no file was chosen. Throws file_error and leaves the table as
+    /// it was. From then on the table is written by save_imported only.
+    bool import_records(import_mode mode);
+    bool imported() const { return imported_; }
+    /// False if the person keeps what another program wrote there.
+    bool save_imported();
+
     /// The table as storage_cont1 read it from the file, in place of what stands here.
     void take(text_grid stores, const database& db);
     void take(text_grid stores);
-    /// Writes the table to the file. False if the person keeps what another program wrote there.
+    /// Writes the table to the file, unless it waits for save_imported. False if the person keeps what another program wrote there.
     bool save() { return keep(stores_); }
 
   private:
     bool refuse(const message& reason);
     bool acceptable(const store_form& form);
+    bool write(const text_grid& stores);
     bool keep(text_grid stores);
 
     application_state& state_;
     prompts& person_;
     loaded_rows loaded_{{{"Slurry_store"}}};
     text_grid stores_;
+    bool imported_ = false;  // rows that the file does not hold yet
 };
 
 /// The empty row only.

@@ -207,7 +207,7 @@ TEST_F(CompostingModule, ReportsTheResultAndTheRecordedCalculations) {
     };
     in_order(file_text(viewer.shown.page),
              {"Crop Residue:", "Broccoli", "Residual soil mineral N at harvest (kg/ha):", "50",
-              "Waste product:", "Paper mill sludge", "N content of the waste product:", "0.8",
+              "Waste product:", "Paper mill sludge", "N content of the waste product:", "0.8%",
               "Quantity of waste product to be applied:", "64 t DM PMS/ha",
               "Expected extra release of N:", "32 kg N/ha", "Notes:", "downward adjustment"});
     record("Long Rig", "0");
@@ -225,6 +225,42 @@ TEST_F(CompostingModule, ReportsTheResultAndTheRecordedCalculations) {
                     "Field: East Muir", "N: -1.5kg N/ha", "Note: Lock up is still occuring"});
     EXPECT_EQ(page.find("Note: "), page.rfind("Note: ")) << "a release of 0 has no note";
     EXPECT_EQ(page.find("Field: ", page.find("Field: East Muir") + 1), std::string::npos);
+}
+
+TEST_F(CompostingModule, ImportAddsOrReplacesAndWritesNothing) {
+    record("Long Rig", "1");
+    const std::string other = make_farm("other.kel", {{"Long Rig", "1"}}, 2030);
+    for (const char* field : {"Long Rig", "Sold Field", "East Muir"})
+        add_row(other, "Straw", {{"Field Area ID", field}, {"Soil Mineral N", "7"}, {"N Content", "0.4"}});
+    const std::string bytes = file_text(other);
+    open_panel();
+    const auto imports = [&](import_mode mode, const std::string& file) {
+        person.expect_file(mode == import_mode::add ? "Add data from another assessment"
+                                                    : "Replace with data from another assessment",
+                           file);
+        return module.import_records(mode);
+    };
+    EXPECT_FALSE(imports(import_mode::add, ""));
+    person.expect_file("Add data from another assessment", other)
+        .expect(module_messages::field_does_not_exist("Sold Field"));
+    EXPECT_TRUE(module.import_records(import_mode::add));
+    EXPECT_EQ(module.calculations().row_count(), 4);
+    EXPECT_EQ(row(1), (texts{"Long Rig", "7", "", "", "0.4", "", ""}));
+    EXPECT_EQ(row(2).front() + row(3).front(), "East Muir");
+    EXPECT_EQ(state.last_dir, folder_of(other));
+    EXPECT_EQ(stored("Soil Mineral N"), texts{"30"});
+    // From the open file itself, in place of what is there.
+    EXPECT_TRUE(imports(import_mode::over_write, state.assess_file));
+    EXPECT_EQ(module.calculations().row_count(), 2);
+    EXPECT_EQ(row(0)[1], "30");
+    EXPECT_TRUE(imports(import_mode::over_write, make_farm("empty.kel", {}, 2024))) << "an empty table";
+    EXPECT_EQ(row(0)[1], "30") << "leaves the rows that are there";
+    write_file(path("letter.kel"), "no assessment, but long enough to be taken for a database");
+    EXPECT_THROW(imports(import_mode::over_write, path("letter.kel")), file_error);
+    EXPECT_EQ(module.calculations().row_count(), 2);
+    EXPECT_EQ(file_text(other), bytes) << "the source is only read";
+    module.close_panel();
+    EXPECT_EQ(stored("Soil Mineral N"), texts{"30"});
 }
 
 }  // namespace kel::test

@@ -175,4 +175,65 @@ TEST_F(LandFile, SaveAsksBeforeItWritesOverRowsChangedMeanwhile) {
     EXPECT_EQ(stored("Land_animals", "Stock Unit"), texts{"1 sheep"});
 }
 
+TEST_F(LandFile, ImportCarriesEveryColumnAndLetsAFieldComeTwice) {
+    open({{"Long Rig", "15"}, {"East Muir", "8"}});
+    const std::string other = make_farm("other.kel", {}, 2024);
+    add_row(other, "Land", {{"Field Area ID", "Sold Field"}});
+    add_row(other, "Land",
+            {{"Field Area ID", "East Muir"},
+             {"Available Field Area (ha)", "6.20"},
+             {"Total Area", "7"},
+             {"Crop", "Grass / Other"},
+             {"October", "Closed"},
+             {"Applic_March", "25"}});
+    person.expect_file("Add data from another assessment", other)
+        .expect(module_messages::field_does_not_exist("Sold Field"));
+    ASSERT_TRUE(module.import_land(import_mode::add));
+    ASSERT_EQ(module.land().row_count(), 4);
+    EXPECT_EQ(land(1, 0) + ", " + land(2, 0), "East Muir, East Muir");
+    EXPECT_EQ(land(2, land_col::total_area) + ", " + land(2, land_col::field_limit), "7, 1550");
+    EXPECT_EQ(land(2, land_col::crop) + ", " + land(2, land_col::january + 9), "Grass / Other, Closed");
+    EXPECT_EQ(land(2, land_col::applic_january + 2), "25");
+    EXPECT_EQ(land(3, land_col::field), "");
+    person.expect_file("Replace with data from another assessment", other)
+        .expect(module_messages::field_does_not_exist("Sold Field"));
+    ASSERT_TRUE(module.import_land(import_mode::over_write));
+    EXPECT_EQ(module.land().row_count(), 2);
+    EXPECT_TRUE(stored("Land", "Field Area ID").empty());
+}
+
+TEST_F(LandFile, ImportedStockIsWorkedOutAnew) {
+    open({{"Long Rig", "15"}});
+    enter_sheep(0, "10");
+    const std::string other = make_farm("other.kel", {}, 2024);
+    add_row(other, "Land_animals",
+            {{"Stock Unit", "1 dairy cow (650 kg)"},
+             {"Number Of Stock Units", "2"},
+             {"Total N Excreted By One Stock Unit (kg/year)", "1"}});
+    person.expect_file("Add data from another assessment", other);
+    ASSERT_TRUE(module.import_animals(import_mode::add));
+    EXPECT_EQ(stock_line(0).front(), "1 sheep");
+    EXPECT_EQ(stock_line(1), (texts{"1 dairy cow (650 kg)", "2", "116", "232"}));
+    EXPECT_EQ(stock_line(2), texts(4));
+    // Ten thousand rows of fields that nobody knows are told in a few boxes.
+    {
+        const database db(other);
+        save_transaction save(db);
+        recordset rows = db.open("Land");
+        for (int i = 0; i < 10000; ++i) {
+            rows.add_new();
+            rows.set("Field Area ID", "No " + std::to_string(i));
+            rows.update();
+        }
+        save.commit();
+    }
+    person.expect_file("Replace with data from another assessment", other);
+    for (int i = 0; i < 20; ++i)
+        person.expect(module_messages::field_does_not_exist("No " + std::to_string(i)));
+    person.expect(module_messages::more_messages(9980));
+    ASSERT_TRUE(module.import_land(import_mode::over_write));
+    EXPECT_EQ(module.land().row_count(), 1);
+    person.verify_done();
+}
+
 }  // namespace kel::test

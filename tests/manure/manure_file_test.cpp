@@ -128,4 +128,33 @@ TEST_F(ManureFile, SaveAsksBeforeItWritesOverRowsChangedMeanwhile) {
     EXPECT_EQ(stored("Amount Applied"), texts{"250"});
 }
 
+TEST_F(ManureFile, ImportTestsFieldsAndDatesAsTheLoadDoes) {
+    open({{"Long Rig", "15"}});
+    const std::string other = make_farm("other.kel", {}, 2030);
+    add_application(other, "Sold Field", "2025-03-14", "1");
+    add_application(other, "Long Rig", "2024-03-14", "2");
+    add_application(other, "Long Rig", "2025-03-14", "3");
+    state.limits.year_end = make_date(1, 1, 2000);  // as a lookup of the crop module leaves it
+    message unknown = module_messages::field_does_not_exist("Sold Field");
+    unknown.title = "field does not exist";
+    const auto imports = [&](const std::string& title, import_mode mode, const char* refusal) {
+        person.expect_file(title, other).expect(unknown).expect({"", refusal});
+        return module.import_records(mode);
+    };
+    const char* outside = "The date entered is not within the KEL year being assessed!";
+    ASSERT_TRUE(imports("Add data from another assessment", import_mode::add, outside));
+    ASSERT_TRUE(imports("Add data from another assessment", import_mode::add, outside));
+    ASSERT_EQ(module.applications().row_count(), 5);
+    EXPECT_EQ(cell(2, manure_col::date) + cell(2, manure_col::available), "");
+    EXPECT_EQ(cell(2, manure_col::total_n), "2");
+    EXPECT_EQ(cell(3, manure_col::date) + " " + cell(3, manure_col::month), "14/03/2025 March");
+    EXPECT_TRUE(stored("Date").empty());
+    link();
+    state.manure_caller = manure_opener::old_crop;
+    ASSERT_TRUE(imports("Replace with data from another assessment", import_mode::over_write,
+                        "The date entered is not within the previous KEL year!"));
+    ASSERT_EQ(module.applications().row_count(), 3);
+    EXPECT_EQ(cell(0, manure_col::date) + cell(1, manure_col::date), "14/03/2024");
+}
+
 }  // namespace kel::test

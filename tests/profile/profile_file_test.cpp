@@ -43,6 +43,31 @@ class LoadProfile : public ProfileFile {
     }
 };
 
+TEST_F(LoadProfile, FieldsOfAnotherFarmCountAsNew) {
+    load(make_farm("a.kel", {{"Low", "4.50", "Sands"}, {"High", "3"}}));
+    const std::string other = make_farm("b.kel", {{"High", "9"}, {"Far", "2", "Sands"}});
+    const auto imports = [&](const char* title, import_mode mode, const std::string& file) {
+        person.expect_file(title, file);
+        return profile.import_records(mode);
+    };
+    const char* adding = "Add data from another profile";
+    EXPECT_FALSE(imports(adding, import_mode::add, ""));
+    for (int times = 0; times < 2; ++times) {
+        person.expect_file(adding, other).expect(messages::name_in_new_file);
+        if (times == 1) person.expect(messages::name_in_new_file);
+        ASSERT_TRUE(profile.import_records(import_mode::add));
+        EXPECT_EQ(fields_text(), "Low,4.50,4.50,Sands,Low;High,3,3,Other mineral soils,High;Far,2,2,Sands,;");
+        EXPECT_EQ(profile.farm().field_count, "3");
+    }
+    ASSERT_TRUE(imports("Replace with data from another profile", import_mode::over_write, other));
+    EXPECT_EQ(fields_text(), "High,9,9,Other mineral soils,;Far,2,2,Sands,;");
+    EXPECT_EQ(profile.farm().field_count, "2");
+    ASSERT_TRUE(imports("Replace with data from another profile", import_mode::over_write,
+                        make_farm("empty.kel", {})));
+    EXPECT_EQ(profile.fields().row_count(), 2);
+    EXPECT_EQ(column_of(state.assess_file, "Field Data", "Size"), (texts{"4.50", "3"}));
+}
+
 TEST_F(LoadProfile, FillsScreenStateAndYearThroughTheBox) {
     const std::string file =
         make_farm("a.kel", {{"Low", "4.50", "Sands"}, {"High's <b> \U0001F404", "3"}}, 2031);

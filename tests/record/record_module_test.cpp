@@ -212,6 +212,9 @@ TEST_F(FieldRecord, ReportsOneFieldOrAll) {
         ASSERT_NE(at, std::string::npos) << "missing or out of order: " << text;
     }
     EXPECT_EQ(one.find("Muir"), std::string::npos);
+    for (const std::string& icon : state.last_report_pictures)
+        EXPECT_FALSE(file_text(path(icon)).empty()) << icon << " does not lie beside the report";
+    EXPECT_EQ(state.last_report_pictures.size(), 3U);
 
     apply_nitrogen(state.assess_file, "Long Rig", "2005-06-01", "Later");
     const std::string all = report(answer::no);

@@ -4,6 +4,7 @@
 
 #include "core/file_error.h"
 #include "reports/report_page.h"
+#include "reports/report_viewer.h"
 #include "tests/support/farm_files.h"
 #include "tests/support/scripted_prompts.h"
 
@@ -49,9 +50,14 @@ TEST_F(SaveReport, TwoFoldersGetTheLogoEachAndAPageItsOwnPictures) {
     save_as("first/land.htm");
     EXPECT_FALSE(fs::exists(path("first/rep_chart1.bmp")));
     EXPECT_EQ(path("first"), report_folder);
-    state.last_report_pictures = {"rep_chart1.bmp"};
+    fs::create_directories(path("program/graphics"));
+    write_file(path("program/graphics/info.ico"), "icon");
+    lay_out_pictures(state.places, {"graphics/info.ico"});
+    EXPECT_EQ("icon", file_text(path("graphics/info.ico")));
+    state.last_report_pictures = {"rep_chart1.bmp", "graphics/info.ico"};
     save_as("second/storage.htm");
     EXPECT_EQ("chart", file_text(path("second/rep_chart1.bmp")));
+    EXPECT_EQ("icon", file_text(path("second/graphics/info.ico")));
     for (const char* saved : {"first/land.htm", "second/storage.htm"}) {
         EXPECT_EQ("page", file_text(path(saved)));
         EXPECT_EQ("logo", file_text(folder_of(path(saved)) + "/tolmlogoscot.jpg"));

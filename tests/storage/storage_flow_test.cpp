@@ -226,4 +226,86 @@ TEST_F(StorageFlow, ASaveLeavesTheAreasThatStep1HasSavedSinceTheLoad) {
     EXPECT_EQ(stored("Land", "Available Field Area (ha)"), texts{"8.50"});
 }
 
+TEST_F(StorageFlow, ImportedStoresWaitForTheSave) {
+    open({{"Home", "10"}});
+    walk_to_plan();
+    module.back();
+    const std::string other = make_farm("other.kel", {}, 2024);
+    add_row(other, "Slurry_store", {{"Store_name", "Lagoon"}, {"Store_%", "12"}, {"Rain_area", "9"}});
+    person.expect_file("Add data from another assessment", other);
+    ASSERT_TRUE(module.stores().import_records(import_mode::add));
+    EXPECT_EQ(module.stores().stores().row_count(), 3);
+    EXPECT_EQ(module.stores().stores().cell(1, store_column::percent), "12");
+    // Neither another change of the table nor Continue nor the way over the first page writes or drops them.
+    ASSERT_TRUE(module.stores().delete_store(0));
+    module.back();
+    walk_to_stores();
+    ASSERT_TRUE(module.storage_cont2());
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Tank"});
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Lagoon"});
+    module.back();
+    ASSERT_TRUE(module.stores().delete_store(0));
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{})
+        << "from the save on every change is written at once";
+    person.expect_file("Replace with data from another assessment", other);
+    ASSERT_TRUE(module.stores().import_records(import_mode::over_write));
+    module.storage_load_stuff();
+    walk_to_stores();
+    EXPECT_FALSE(module.stores().has_stores()) << "loading anew undoes the import";
+}
+
+TEST_F(StorageFlow, ImportedStockAndFieldsAreWorkedIntoTheTables) {
+    open({{"Home", "10"}, {"Far", "5"}});
+    walk_to_plan();
+    ASSERT_TRUE(plan.enter_stock(empty_stock_row(plan.production()), "1 dairy cow (650 kg)").closes);
+    const std::string other = make_farm("other.kel", {}, 2024);
+    const auto imports = [&](import_mode mode) {
+        person.expect_file(mode == import_mode::add ? "Add data from another assessment"
+                                                    : "Replace with data from another assessment",
+                           other);
+        return plan.import_production(mode);
+    };
+    const text_grid before = plan.production();
+    ASSERT_TRUE(imports(import_mode::over_write));
+    EXPECT_EQ(plan.production(), before) << "an empty table replaces nothing";
+    person.expect_file("Replace with data from another assessment", other);
+    ASSERT_TRUE(plan.import_land());
+    EXPECT_EQ(plan.fields().fields(), 2);
+
+    add_row(other, "Slurry_animals",
+            {{"Stock Unit", "Llamas"}, {"Number", "10"}, {"Total Volume", "7.5"}, {"March", "Slurry"}});
+    ASSERT_TRUE(imports(import_mode::add));
+    EXPECT_EQ(plan.production().row_count(), before.row_count() + 1);
+    EXPECT_EQ(cells(plan.production(), 2, 0, 1), (texts{"Llamas", "10"}));
+    EXPECT_EQ(plan.production().cell(empty_stock_row(plan.production()), 0), "");
+    ASSERT_TRUE(imports(import_mode::over_write));
+    EXPECT_EQ(production_months(production_totals_row(plan.production()))[2], "10") << "with 2.5 of rain";
+    EXPECT_EQ(plan.production().cell(inputs_row, 4), before.cell(inputs_row, 4));
+
+    add_row(other, "Land", {{"Field Area ID", "Sold Field"}});
+    add_row(other, "Land",
+            {{"Field Area ID", "Far"},
+             {"Available Field Area (ha)", "4"},
+             {"Crop", "Other / Grass"},
+             {"May", "2"},
+             {"Applic_May", "25"}});
+    person.expect_file("Replace with data from another assessment", other)
+        .expect(
+            {"Field does not exist",
+             "The field you are trying to load (Sold Field) does not exist in the farm profile, and will not "
+             "be "
+             "imported. If you wish to include it in the analysis, the profile will need to be amended!"});
+    ASSERT_TRUE(plan.import_land());
+    ASSERT_EQ(plan.fields().fields(), 1);
+    EXPECT_EQ(land_months(0)[4] + " " + land_months(0)[5] + " " + spreading_months(0)[4], "2 4 25");
+    EXPECT_EQ(spreading_months(2)[4], "25");
+    EXPECT_TRUE(plan.changed());
+    EXPECT_EQ(stored("Land", "Crop"), (texts{"", ""}));
+    EXPECT_TRUE(stored("Slurry_animals", "Number").empty());
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Land", "Crop"), (texts{"", "Other / Grass"}));
+    EXPECT_EQ(stored("Slurry_animals", "Stock Unit"), texts{"Llamas"});
+}
+
 }  // namespace kel::test

@@ -57,7 +57,9 @@ QWidget* frmLand_new::tab_page(const QString& instruction, grid_view* grid, cons
         state_.picker_caller = picker_module::land;
         emit years_wanted();
     });
-    add_missing_command(row, tr("Add records from another file"), QString("cmdImport_land") + suffix);
+    add_import(row, *grid, QString("Import_land") + suffix, [this, grid](import_mode mode) {
+        return grid == land_ ? module_.import_land(mode) : module_.import_animals(mode);
+    });
     row->addStretch();
     add_command(row, tr("Close &Module"), QString("cmdLand_cancel") + suffix, [this] { close(); });
     layout->addLayout(row);

@@ -75,7 +75,8 @@ QWidget* frmReductions::table_page() {
         state_.picker_caller = picker_module::manure;
         emit years_wanted();
     });
-    add_missing_command(row, tr("Add records from another file"), "cmdReductions_import");
+    add_import(row, *table_, "Reductions_import",
+               [this](import_mode mode) { return module_.import_records(mode); });
     row->addStretch();
     add_command(row, tr("Close &Module"), "cmdReductions_cancel", [this] { close(); });
     layout->addLayout(row);

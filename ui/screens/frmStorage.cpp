@@ -44,7 +44,6 @@ QLayout* frmStorage::commands() {
         state_.picker_caller = picker_module::storage;
         emit years_wanted();
     });
-    add_missing_command(row, tr("Add records from another file"), "cmdStorage_import");
     row->addStretch();
     back_ =
         add_command(row, tr("&Back"), "cmdStorage_back", [this] { and_refresh([this] { module_.back(); }); });

@@ -27,6 +27,8 @@ class frmStorage : public module_screen {
     // The pages build their controls with these.
     using module_screen::add_boxes;
     using module_screen::add_command;
+    using module_screen::add_import;
+    using module_screen::add_table_import;
     using module_screen::disable_meanwhile;
     using module_screen::new_text;
 

@@ -122,7 +122,8 @@ QWidget* frmStraw::panel() {
         refresh();
     });
     add_command(row, tr("&Save Database"), "cmdStraw_DB_save", [this] { module_.save(); });
-    add_missing_command(row, tr("Add records from another file"), "cmdStraw_DB_import");
+    add_import(row, *grid_, "Straw_DB_import",
+               [this](import_mode mode) { return module_.import_records(mode); });
     add_command(row, tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
     row->addStretch();
     add_command(row, tr("&Close"), "cmdStraw_DB_close", [this] {

@@ -49,29 +49,40 @@ QWidget* storage_plan_page::tabs(frmStorage& screen) {
     tables_ = {new month_table(*production_, {production_column::january, 1, 1, qt(not_on_slurry_system)}),
                new month_table(*land_, {plan_column::january, 0, 2, closed}),
                new month_table(*spreading_, {spreading_column::january, 0, 2, closed})};
-    tabs_->addTab(production_, qt(text::production_tab));
-    tabs_->addTab(land_, qt(text::land_tab));
+    auto* stock_commands = new QHBoxLayout;
+    screen.add_import(stock_commands, *production_, "Storage2_import",
+                      [this](import_mode mode) { return page_.import_production(mode); });
+    auto* land_commands = new QHBoxLayout;
+    screen.add_table_import(land_commands, *land_, "Storage_import", "cmdStorage_add_import",
+                            [this] { return page_.import_land(); });
+    tabs_->addTab(tab(stock_commands, production_), qt(text::production_tab));
+    tabs_->addTab(tab(land_commands, land_), qt(text::land_tab));
     tabs_->addTab(spreading_tab(screen), qt(text::spreading_tab));
     screen.disable_meanwhile(tabs_->tabBar());
     return tabs_;
 }
 
-QWidget* storage_plan_page::spreading_tab(frmStorage& screen) {
-    auto* tab = new QWidget(tabs_);
-    auto* layout = new QVBoxLayout(tab);
+// The commands of a table stand above it.
+QWidget* storage_plan_page::tab(QHBoxLayout* commands, grid_view* grid) {
+    auto* page = new QWidget(tabs_);
+    auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 4, 0, 0);
+    commands->setContentsMargins(4, 0, 4, 0);
+    commands->addStretch();
+    layout->addLayout(commands);
+    layout->addWidget(grid, 1);
+    return page;
+}
+
+QWidget* storage_plan_page::spreading_tab(frmStorage& screen) {
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(4, 0, 4, 0);
     auto* transfer = screen.add_command(row, tr("Get Slurry &Data"), "Command10", [this] {
         page_.get_slurry_data();
         refresh();
     });
     transfer->setToolTip(tr("Takes the rates from the slurry and manure applications of Step 3"));
     setTabOrder(transfer, spreading_);
-    row->addStretch();
-    layout->addLayout(row);
-    layout->addWidget(spreading_, 1);
-    return tab;
+    return tab(row, spreading_);
 }
 
 // It keeps its room while it is hidden, so that the chart does not jump.

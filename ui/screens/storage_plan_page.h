@@ -8,6 +8,7 @@
 #include "core/application_state.h"
 #include "storage/plan_page.h"
 
+class QHBoxLayout;
 class QLabel;
 class QTabWidget;
 
@@ -32,6 +33,7 @@ class storage_plan_page : public QWidget {
 
   private:
     QWidget* tabs(frmStorage& screen);
+    QWidget* tab(QHBoxLayout* commands, grid_view* grid);
     QWidget* spreading_tab(frmStorage& screen);
     QWidget* warning_panel(frmStorage& screen);
     void add_entry_boxes(frmStorage& screen);

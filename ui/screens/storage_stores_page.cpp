@@ -87,6 +87,8 @@ QWidget* storage_stores_page::table(frmStorage& screen) {
     screen.add_command(row, tr("&Edit Row"), "cmdStores_edit", [this] { edit_store(); })
         ->setToolTip(tr("Takes the selected store out of the table and puts it into the boxes"));
     screen.add_command(row, tr("Delete &Row"), "cmdStores_delete", [this] { delete_store(); });
+    screen.add_import(row, *table_, "Storage3_import",
+                      [this](import_mode mode) { return page_.import_records(mode); });
     row->addStretch();
     layout->addLayout(row);
     return panel;

@@ -95,7 +95,8 @@ void entry_box::open(const opening& shown) {
     place_beside_cell();
     show();
     raise();
-    form_->focus_stop(shown.focus)->setFocus();
+    // A box without a part is a choice between its buttons.
+    (shown.parts.empty() ? enter_button_ : form_->focus_stop(shown.focus))->setFocus();
 }
 
 void entry_box::close_box() {

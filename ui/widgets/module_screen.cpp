@@ -5,9 +5,11 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/record_import.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/entry_box.h"
 #include "ui/widgets/grid_view.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 
@@ -40,6 +42,39 @@ QPushButton* module_screen::add_command(QBoxLayout* row, const QString& caption,
     row->addWidget(button);
     main_controls_.push_back(button);
     return button;
+}
+
+entry_box* module_screen::add_import_box(QBoxLayout* row, grid_view& grid, const QString& name) {
+    auto* box = new entry_box(name, grid, this);
+    adopt_box(box);
+    add_command(row, qt(import_messages::command), "cmd" + name, [box] {
+        box->open({{}, import_messages::command, import_messages::question, {}});
+    });
+    return box;
+}
+
+void module_screen::add_import(QBoxLayout* row, grid_view& grid, const QString& name,
+                               const import_operation& take) {
+    entry_box* box = add_import_box(row, grid, name);
+    const auto run = [take](import_mode mode) {
+        return [take, mode](grid_cell, const box_entry&) {
+            return take(mode) ? box_closes() : box_stays(outcome::focus_stays);
+        };
+    };
+    box->on_enter(run(import_mode::add));
+    box->enter_button()->setText("&" + qt(import_messages::add));
+    box->enter_button()->setObjectName("cmd" + name + "_add");
+    box->add_button("O&" + qt(import_messages::over_write).mid(1), "over", run(import_mode::over_write));
+}
+
+void module_screen::add_table_import(QBoxLayout* row, grid_view& grid, const QString& name,
+                                     const QString& enter_name, const std::function<bool()>& take) {
+    entry_box* box = add_import_box(row, grid, name);
+    box->on_enter([take](grid_cell, const box_entry&) {
+        return take() ? box_closes() : box_stays(outcome::focus_stays);
+    });
+    box->enter_button()->setText("&" + qt(import_messages::table));
+    box->enter_button()->setObjectName(enter_name);
 }
 
 void module_screen::add_missing_command(QBoxLayout* row, const QString& caption, const QString& name) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "core/grid_rows.h"
 #include "core/screens.h"
 
 class QBoxLayout;
@@ -53,6 +54,13 @@ class module_screen : public QWidget {
     /// A button at the end of the row; with an entry box open it is disabled.
     QPushButton* add_command(QBoxLayout* row, const QString& caption, const QString& name,
                              std::function<void()> action);
+    using import_operation = std::function<bool(import_mode)>;  // true: the box closes
+    /// The command that takes records over from another file, and the box of its choice over the grid. `name`
+    /// stands behind cmd and fra, as in cmdStraw_DB_import.
+    void add_import(QBoxLayout* row, grid_view& grid, const QString& name, const import_operation& take);
+    /// The same for a table that can only be replaced.
+    void add_table_import(QBoxLayout* row, grid_view& grid, const QString& name, const QString& enter_name,
+                          const std::function<bool()>& take);
     /// A button for what this version lacks.
     void add_missing_command(QBoxLayout* row, const QString& caption, const QString& name);
     using click_operation = std::function<opening(int row, int column)>;
@@ -62,6 +70,8 @@ class module_screen : public QWidget {
     void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
 
   private:
+    entry_box* add_import_box(QBoxLayout* row, grid_view& grid, const QString& name);
+
     std::vector<QWidget*> main_controls_;
     std::vector<entry_box*> boxes_;
 };
