@@ -42,13 +42,15 @@ void composting_module::get_straw_data() {
     text_grid calculations = empty_composting_grid();
     std::vector<std::string> names;
     load_messages told;
+    loaded_rows loaded = loaded_;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
         const std::vector<farm_field> fields = read_farm_fields(db);
         names = field_names(fields);
-        loaded_.remember(db);
+        loaded.remember(db);
         calculations = load_calculations(db, fields, told);
     }
+    loaded_ = std::move(loaded);
     calculations_ = std::move(calculations);
     field_names_ = std::move(names);
     told.tell(person_);
