@@ -65,7 +65,8 @@ class composting_module {
     /// table as it was.
     bool import_records(import_mode mode);
     /// Replaces the recorded calculations in the file in one transaction. False: no file was chosen,
-    /// or the person keeps what another program wrote there. Throws file_error; the file then holds its old rows.
+    /// or the person keeps what another program wrote there. Throws file_error; the file then holds its old
+    /// rows.
     bool save();
     /// Saves and closes the panel; it stays open when nothing was saved.
     void close_panel();

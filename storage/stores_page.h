@@ -48,7 +48,8 @@ class stores_page {
     /// The table as storage_cont1 read it from the file, in place of what stands here.
     void take(text_grid stores, const database& db);
     void take(text_grid stores);
-    /// Writes the table to the file, unless it waits for save_imported. False if the person keeps what another program wrote there.
+    /// Writes the table to the file, unless it waits for save_imported. False if the person keeps what
+    /// another program wrote there.
     bool save() { return keep(stores_); }
 
   private:

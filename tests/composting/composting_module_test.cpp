@@ -7,6 +7,7 @@
 #include "composting/composting_grid.h"
 #include "composting/composting_messages.h"
 #include "core/file_error.h"
+#include "core/loaded_rows.h"
 #include "core/module_messages.h"
 #include "tests/support/farm_files.h"
 #include "tests/support/scripted_prompts.h"
@@ -182,6 +183,9 @@ TEST_F(CompostingModule, AFileThatFailsLosesNothing) {
     // The rows are deleted before the missing column shows.
     SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE)
         .exec("ALTER TABLE Straw DROP COLUMN [N Content]");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::no)
+        .expect(rows_changed_meanwhile(state.assess_file), answer::yes);
+    module.close_panel();
     EXPECT_THROW(module.close_panel(), file_error);
     EXPECT_THROW(module.get_straw_data(), file_error);
     EXPECT_TRUE(module.panel_open());

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "composting/composting_module.h"
 #include "core/numbers.h"
 #include "core/whole_file.h"
 #include "crops/crop_messages.h"
@@ -19,6 +20,8 @@
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "profile/profile_module.h"
+#include "record/record_grid.h"
+#include "record/record_module.h"
 #include "rules/closed_periods.h"
 #include "rules/crop_lists.h"
 #include "rules/nitrogen_limits.h"
@@ -324,6 +327,41 @@ TEST_F(SampleFarm, StartAtLastDecemberAsStep2WorksItOut) {
         EXPECT_EQ(storage.plan().balance()->largest_percent > 100, year.start == make_date(19, 12, 2024));
     }
     EXPECT_EQ(person.told, std::vector<message>{});
+}
+
+TEST_F(SampleFarm, RecordShowsEveryKindOfBreachAndAFieldWithoutAny) {
+    const auto years = sample_years();
+    open(years[1].path, years[1].start);
+    open(years[2].path, years[2].start);
+    record_module record(state, person);
+    record.record_load_stuff();
+    const auto warned = [&](const char* field, const char* beginning) {
+        record.select_field(field);
+        for (int row = 0; row < record.warnings().row_count(); ++row)
+            if (record.warnings().cell(row, record_warning_column::text).starts_with(beginning)) return true;
+        return false;
+    };
+    EXPECT_TRUE(warned("Doocot Field", "Nitrogen Requirement Exceeded: "));
+    EXPECT_TRUE(warned("Den Brae", "Closed Period Breach: An application of manure on 09/10/2025"));
+    EXPECT_TRUE(
+        warned("East Muir", "Closed Period Breach: An application of inorganic nitrogen on 08/09/2025"));
+    EXPECT_TRUE(warned("Steading Park", "Limit breached: "));
+    record.select_field("West Muir");
+    EXPECT_EQ(record.warnings().row_count(), 0);
+    EXPECT_EQ(record.record().cell(0, record_column::day), "11/09/2024")
+        << "last year's slurry after the harvest";
+}
+
+TEST_F(SampleFarm, CompostingRowsAreAsTheCalculatorGivesThem) {
+    EXPECT_EQ(by(sample_years()[2].path, "Straw", "PMS or Straw", "Field Area ID").size(), 2U);
+    for (recordset row = database(sample_years()[2].path).open("Straw"); !row.eof(); row.move_next()) {
+        composting_module composting(state, person);
+        ASSERT_TRUE(composting.calculate({row.text("Crop Residue Type"), row.text("Soil Mineral N"),
+                                          row.text("PMS or Straw"), row.text("N Content")}));
+        EXPECT_EQ(composting.shown().rate,
+                  row.text("Recommendation") + " t DM " + row.text("PMS or Straw") + "/ha");
+        EXPECT_EQ(composting.shown().release, row.text("Potential Spring Release") + " kg N/ha");
+    }
 }
 
 }  // namespace
