@@ -52,6 +52,7 @@ void land_module::load_land_stuff() {
         if (land.data_row_count() == 0) land = fields_to_grid(fields);
         animals = load_stock(db, constant);
     }
+    land_imported_ = false;
     land_ = std::move(land);
     animals_ = std::move(animals);
     loaded_ = std::move(loaded);
@@ -207,6 +208,7 @@ bool land_module::import_land(import_mode mode) {
     if (!source) return false;
     load_messages told;
     kel::import_land(*source, mode, land_, told);
+    land_imported_ = true;
     told.tell(person_);
     return true;
 }
@@ -240,11 +242,12 @@ bool land_module::save() {
     fill_deductions(land);
     module_save file(state_.assess_file, person_, loaded_);
     if (!file) return false;
-    take_carried(file.db(), "Land", land, land.data_row_count());
+    if (!land_imported_) take_carried(file.db(), "Land", land, land.data_row_count());
     save_land(file.db(), land);
     save_stock(file.db(), animals_);
     file.commit();
     land_ = std::move(land);
+    land_imported_ = false;
     return true;
 }
 

@@ -43,6 +43,7 @@ struct no_screens : screens {
     void open(screen_id) override {}
     void open_in_place_of(screen_id, screen_id) override {}
     bool exists(screen_id) const override { return true; }
+    bool in_view(screen_id) const override { return false; }
 };
 
 }  // namespace

@@ -130,7 +130,8 @@ QLayout* frmProfile::main_buttons() {
         state_.picker_caller = picker_module::profile;
         emit years_wanted();
     });
-    add_missing_command(row, tr("Add records from another file"), "cmdProfile_import");
+    add_import(row, *grid_, "Profile_import",
+               [this](import_mode mode) { return module_.import_records(mode); });
     row->addStretch();
     add_command(row, tr("&Cancel"), "cmdProfile_cancel", [this] { cancel(); });
     add_command(row, tr("&Set Profile"), "cmdProfile_set", [this] { set_profile(); });

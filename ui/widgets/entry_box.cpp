@@ -96,7 +96,7 @@ void entry_box::open(const opening& shown) {
     show();
     raise();
     // A box without a part is a choice between its buttons.
-    (shown.parts.empty() ? enter_button_ : form_->focus_stop(shown.focus))->setFocus();
+    (shown.parts.empty() ? enter_button() : form_->focus_stop(shown.focus))->setFocus();
 }
 
 void entry_box::close_box() {

@@ -44,6 +44,12 @@ QPushButton* module_screen::add_command(QBoxLayout* row, const QString& caption,
     return button;
 }
 
+void module_screen::adopt_box(entry_box* box) {
+    boxes_.push_back(box);
+    box->set_disabled_meanwhile(&main_controls_);
+    connect(box, &entry_box::closed, this, [this] { refresh(); });
+}
+
 entry_box* module_screen::add_import_box(QBoxLayout* row, grid_view& grid, const QString& name) {
     auto* box = new entry_box(name, grid, this);
     adopt_box(box);
@@ -77,21 +83,11 @@ void module_screen::add_table_import(QBoxLayout* row, grid_view& grid, const QSt
     box->enter_button()->setObjectName(enter_name);
 }
 
-void module_screen::add_missing_command(QBoxLayout* row, const QString& caption, const QString& name) {
-    auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setEnabled(false);
-    button->setToolTip(tr("Not part of this version"));
-    row->addWidget(button);
-}
-
 box_set* module_screen::add_boxes(grid_view& grid, const click_operation& click,
                                   const std::vector<box_row>& rows) {
     auto* boxes = new box_set(grid, this);
     for (const box_row& row : rows) {
-        boxes_.push_back(boxes->add(row));
-        boxes_.back()->set_disabled_meanwhile(&main_controls_);
-        connect(boxes_.back(), &entry_box::closed, this, [this] { refresh(); });
+        adopt_box(boxes->add(row));
     }
     connect(&grid, &grid_view::cell_chosen, boxes,
             [boxes, click](int row, int column) { boxes->open(click(row, column)); });

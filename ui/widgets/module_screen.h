@@ -61,8 +61,6 @@ class module_screen : public QWidget {
     /// The same for a table that can only be replaced.
     void add_table_import(QBoxLayout* row, grid_view& grid, const QString& name, const QString& enter_name,
                           const std::function<bool()>& take);
-    /// A button for what this version lacks.
-    void add_missing_command(QBoxLayout* row, const QString& caption, const QString& name);
     using click_operation = std::function<opening(int row, int column)>;
     /// The boxes that a click in the grid opens; the screen is refreshed as one closes.
     box_set* add_boxes(grid_view& grid, const click_operation& click, const std::vector<box_row>& rows);
@@ -70,6 +68,7 @@ class module_screen : public QWidget {
     void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
 
   private:
+    void adopt_box(entry_box* box);
     entry_box* add_import_box(QBoxLayout* row, grid_view& grid, const QString& name);
 
     std::vector<QWidget*> main_controls_;
