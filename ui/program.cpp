@@ -54,7 +54,6 @@ struct program::screen_row {
 std::span<const program::screen_row> program::screen_table() {
     // clang-format off
     static constexpr std::array<screen_row, 14> table{{
-    static constexpr std::array<screen_row, 14> table{{
         // identity             text          years dialog              width height  made by
         {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
         {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
