@@ -35,7 +35,7 @@ struct field_year {
 };
 
 /// The field's row in [Crops]; crops are codes, days as stored.
-struct cropped_field {
+struct crop_record {
     std::string next_crop;
     std::string previous_crop;
     std::string sowing_day;
@@ -44,7 +44,7 @@ struct cropped_field {
 };
 
 /// The field's row in [Site].
-struct grass_field {
+struct site_record {
     std::string use;
     std::string season_end;
 };
@@ -52,8 +52,8 @@ struct grass_field {
 struct field_history {
     field_year current;
     field_year previous;  // of the linked file; empty without one
-    std::optional<cropped_field> crop;
-    std::optional<grass_field> grass;
+    std::optional<crop_record> crop;
+    std::optional<site_record> grass;
     std::optional<std::string> n_required;
 };
 

@@ -33,7 +33,7 @@ bool asks_for_closed_periods(const field_year& year) {
     return !year.manures.empty() && !is_exempt_fym(year.manures.front().manure);
 }
 
-void take_crop(const cropped_field& crop, crop_facts& facts) {
+void take_crop(const crop_record& crop, crop_facts& facts) {
     if (!crop.next_crop.empty()) facts.current_crop = crop_long_name(crop.next_crop);
     if (!crop.previous_crop.empty()) facts.other_crop = crop_long_name(crop.previous_crop);
     facts.sowing_day = day_text(crop.sowing_day);
@@ -42,7 +42,7 @@ void take_crop(const cropped_field& crop, crop_facts& facts) {
 }
 
 // A season whose end was not entered ends on 1 November.
-void take_season(const grass_field& grass, const record_year& year, crop_facts& facts) {
+void take_season(const site_record& grass, const record_year& year, crop_facts& facts) {
     if (!grass.use.empty()) facts.current_crop = grass.use;
     facts.lower = parse_date(grass.season_end);
     if (!facts.lower && year.start) facts.lower = make_date(1, 11, year_of(*year.start));

@@ -43,7 +43,7 @@ inorganic_record read_inorganic(const recordset& row) {
             .comments = row.text("Comments")};
 }
 
-cropped_field read_crop(const recordset& row) {
+crop_record read_crop(const recordset& row) {
     return {.next_crop = row.text("Next Crop"),
             .previous_crop = row.text("Previous or Current Crop"),
             .sowing_day = row.text("Sowing date"),
@@ -69,7 +69,7 @@ void read_requirements(const table_reader& file, histories& found) {
         if (!field.crop) field.crop = read_crop(row);
     });
     file.each("Site", found, [](const recordset& row, field_history& field) {
-        if (!field.grass) field.grass = grass_field{row.text("Site Use"), row.text("End of season date")};
+        if (!field.grass) field.grass = site_record{row.text("Site Use"), row.text("End of season date")};
     });
     file.each("Recommendations", found, [](const recordset& row, field_history& field) {
         if (!field.n_required) field.n_required = row.text("N required");

@@ -42,7 +42,7 @@ texts crops_of(const field_record& record) {
 
 TEST(RecordRows, CropFollowsFromTheBoundsOfTheCropsRow) {
     field_history field = assessed("Grass / Other");
-    field.crop = cropped_field{"WW", "SB", "2005-01-10", "2004-12-31", "2005-08-20"};
+    field.crop = crop_record{"WW", "SB", "2005-01-10", "2004-12-31", "2005-08-20"};
     for (const char* day : {"2005-08-20", "2004-12-30", "2005-08-19", "2004-12-31", "2005-01-01"})
         field.current.manures.push_back(slurry(day));
     EXPECT_EQ(crops_of(get_record(field, year)), (texts{
@@ -56,7 +56,7 @@ TEST(RecordRows, CropFollowsFromTheBoundsOfTheCropsRow) {
 
 TEST(RecordRows, OfTheSameDayTheRowPlacedLastComesFirst) {
     field_history field = assessed("Other / Other");
-    field.crop = cropped_field{"WW", "", "", "2004-08-01", ""};
+    field.crop = crop_record{"WW", "", "", "2004-08-01", ""};
     field.current.manures = {slurry("2005-03-01", "1"), slurry("2005-03-01", "2"), slurry("", "3"),
                              slurry("2005-02-28", "4")};
     field.current.inorganics = {urea("2005-03-01", "5")};
@@ -83,7 +83,7 @@ TEST(RecordRows, OfTheSameDayTheRowPlacedLastComesFirst) {
 
 TEST(RecordRows, OnlyTheFirstManureStoredAsksWhetherTheFieldWasAssessed) {
     field_history field;
-    field.crop = cropped_field{"WW", "SB", "2005-01-10", "2004-08-01", "2005-08-20"};
+    field.crop = crop_record{"WW", "SB", "2005-01-10", "2004-08-01", "2005-08-20"};
     field.current.manures = {slurry("2005-05-01"), fym("2005-06-01")};
     field_record record = get_record(field, year);
     EXPECT_TRUE(record.not_assessed);
@@ -103,17 +103,17 @@ TEST(RecordRows, OnlyTheFirstManureStoredAsksWhetherTheFieldWasAssessed) {
 
 TEST(RecordRows, AGrassRowRulesOverACropsRowButForTheSowing) {
     field_history field = assessed("Grass / Grass");
-    field.crop = cropped_field{"WW", "SB", "2005-01-10", "2004-08-01", "2005-08-20"};
-    field.grass = grass_field{"Silage", "2004-10-15"};
+    field.crop = crop_record{"WW", "SB", "2005-01-10", "2004-08-01", "2005-08-20"};
+    field.grass = site_record{"Silage", "2004-10-15"};
     field.current.inorganics = {urea("2005-09-20"), urea("2005-10-15"), urea("2004-10-14")};
     EXPECT_EQ(crops_of(get_record(field, year)),
               (texts{"14/10/2004|Spring barley|", "20/09/2005|Silage|10/01/2005", "15/10/2005||"}))
         << "the pair is read for manures only";
-    field.grass = grass_field{"", ""};  // the season then ends on 1 November
+    field.grass = site_record{"", ""};  // the season then ends on 1 November
     field.current.inorganics = {urea("2004-11-01"), urea("2004-11-02"), urea("2005-11-01")};
     EXPECT_EQ(crops_of(get_record(field, year)),
               (texts{"01/11/2004||", "02/11/2004|Winter wheat|10/01/2005", "01/11/2005||"}));
-    field.grass = grass_field{"Hay", "2004-02-29"};
+    field.grass = site_record{"Hay", "2004-02-29"};
     field.current.inorganics = {urea("2005-02-27"), urea("2005-02-28")};
     EXPECT_EQ(get_record(field, year).rows[0].crop, "Hay");
     EXPECT_EQ(get_record(field, year).rows[1].crop, "");
@@ -132,15 +132,15 @@ TEST(RecordRows, LastYearJoinsFromTheHarvestOn) {
         return found;
     };
     const texts all_from_harvest{"01/09/2004", "02/09/2004", "18/12/2005", "01/01/2006"};
-    field.crop = cropped_field{"WW", "SB", "2005-01-10", "2004-09-01", ""};
+    field.crop = crop_record{"WW", "SB", "2005-01-10", "2004-09-01", ""};
     EXPECT_EQ(last_year("Winter wheat|"), all_from_harvest);
-    field.grass = grass_field{"Silage", "2004-01-01"};
+    field.grass = site_record{"Silage", "2004-01-01"};
     EXPECT_EQ(last_year("Winter wheat|"), all_from_harvest) << "the crops row is asked first";
     field.crop.reset();
-    field.grass = grass_field{"Silage", "2004-09-01"};
+    field.grass = site_record{"Silage", "2004-09-01"};
     EXPECT_EQ(last_year("Silage|"), all_from_harvest);
     // Without a harvest the last day of the year is the bound, for inorganic nitrogen alone.
-    field.grass = grass_field{"Silage", ""};
+    field.grass = site_record{"Silage", ""};
     EXPECT_EQ(last_year("Silage|"), texts{"18/12/2005"});
     field.grass.reset();
     EXPECT_EQ(last_year("|"), (texts{"18/12/2005", "01/01/2006"})) << "with no crop at all for both";
@@ -149,7 +149,7 @@ TEST(RecordRows, LastYearJoinsFromTheHarvestOn) {
 TEST(RecordRows, AnApplicationWithAnUnreadableDateIsNamed) {
     field_history field = assessed("Other / Other");
     field.current.manures = {slurry("in spring"), slurry("31/02/2005"), slurry("2005-02-01")};
-    field.crop = cropped_field{"no such code", "", "soon", "last autumn", ""};
+    field.crop = crop_record{"no such code", "", "soon", "last autumn", ""};
     const field_record record = get_record(field, year);
     EXPECT_EQ(record.unreadable_days, (texts{"in spring", "31/02/2005"}));
     EXPECT_EQ(crops_of(record), texts{"01/02/2005| Other|"});
