@@ -361,9 +361,11 @@ void walk::composting() {
 void walk::field_record() {
     drive::press(screen("front"), "cmdFront_record");
     QWidget* record = screen("record");
+    drive::control<QComboBox>(record, "Combo1")->setCurrentText("West Muir");
     picture("record", "record_quiet");
-    drive::control<QComboBox>(record, "Combo1")->setCurrentText("Steading Park");
+    drive::control<QComboBox>(record, "Combo1")->setCurrentText("East Muir");
     picture("record", "record_warnings");
+    drive::control<QComboBox>(record, "Combo1")->setCurrentText("Steading Park");
     person_.lay_ready(folder_ + "/Steading Park.csv");
     drive::press(record, "cmdRecord_csv");
     drive::press(record, "cmdReport");

@@ -127,13 +127,12 @@ TEST_F(CompostingScreen, InformationShowsItsTopicAndTheYearsDialogReloadsThePane
     EXPECT_TRUE(in_view("viewer"));
     press("viewer", "Command1");
     ASSERT_TRUE(in_view("straw"));
-    press("straw", "cmdStraw_viewDB");
-    add_row(state.assess_file, "Straw", {{"Field Area ID", "East Muir"}, {"Soil Mineral N", "7"}});
     add_row(state.assess_file, "Straw", {{"Field Area ID", "Sold Field"}});
-    press("straw", "cmdStraw_DB_close");
     press("straw", "cmdStraw_open");
     EXPECT_EQ(run->state().picker_caller, picker_module::straw);
+    person.expect(says::field_does_not_exist("Sold Field"));
     press("years", "cmdYear_ok");
+    person.verify_done();
     EXPECT_TRUE(in_view("straw"));
 }
 

@@ -29,8 +29,10 @@ warning_table::warning_table(const QString& name, const QString& heading, QWidge
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
     setWordWrap(true);
-    // The heading stretches after the table has taken its size.
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &QTableWidget::resizeRowsToContents);
+    // Rows are as high as their texts need at the width that the column ends up with, which it takes after
+    // the table.
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &QTableWidget::resizeRowsToContents,
+            Qt::QueuedConnection);
 }
 
 void warning_table::add_warning(const QString& icon, const QString& kind, const QString& text) {
