@@ -58,6 +58,8 @@ struct entry_part {
     // Where a box has several parts: what stands above this one, and what its control's name ends in.
     std::string label{};
     std::string name{};
+    /// What the control of each option ends in; without names, its number.
+    std::vector<std::string> choice_names{};
     std::string not_typed{};  // characters that the keyboard does not bring into a text
     bool operator==(const entry_part&) const = default;
 };

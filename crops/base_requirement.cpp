@@ -74,7 +74,7 @@ int residue_group_number(std::string_view cell) {
 std::optional<base_requirement> lookup_requirement(std::string_view crop_code, int residue_group,
                                                    std::string_view soil) {
     if (std::ranges::count(nil_requirement_crops(), crop_code) > 0) return base_requirement{};
-    if (const auto grass = find_sown_grass(crop_code, residue_group)) return grass;
+    if (auto grass = find_sown_grass(crop_code, residue_group)) return grass;
     const table_key key{crop_code, residue_group, soil_code(soil).value_or("")};
     if (const auto cell = find_cell(vegetable_requirements(), key)) return for_spring(*cell);
     if (const auto cell = find_cell(potato_requirements(), key)) return for_seedbed(*cell, key.soil_code);

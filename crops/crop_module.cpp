@@ -126,6 +126,7 @@ bool crop_module::calculate() {
 void crop_module::save_rec() {
     if (state_.assess_file.empty()) return;
     std::vector<recommendation> found;
+    found.reserve(static_cast<std::size_t>(results_.row_count()));
     for (int row = 0; row < results_.row_count(); ++row)
         found.push_back(
             {results_.cell(row, crop_result_column::field), results_.cell(row, crop_result_column::total)});

@@ -62,6 +62,7 @@ bool grass_module::cmdGrass_rec_save() {
 
 void grass_module::save_rec(const text_grid& results) {
     std::vector<recommendation> found;
+    found.reserve(static_cast<std::size_t>(results.row_count()));
     for (int row = 0; row < results.row_count(); ++row)
         found.push_back({results.cell(row, grass_result_column::field),
                          results.cell(row, grass_result_column::to_be_applied)});

@@ -53,6 +53,7 @@ bool silage_page::make_alteration(const std::string& decrease, const std::string
     if (increase.empty()) return refuse(text::no_increase);
     if (decrease == increase) return refuse(text::same_area);
     std::vector<int> site_classes;
+    site_classes.reserve(static_cast<std::size_t>(farm_.stocking.row_count()));
     for (int row = 0; row < farm_.stocking.row_count(); ++row)
         site_classes.push_back(
             site_class(farm_.stocking.cell(row, stocking_column::soil), farm_.rain_class, farm_.altitude_step)

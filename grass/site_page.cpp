@@ -83,15 +83,20 @@ opening site_page::previous_opening(int row) const {
 
 opening site_page::choice_opening(int row, int column, site_box box) const {
     const std::string& cell = farm_.site.cell(row, column);
-    const auto options = [&](std::vector<std::string> choices) -> std::vector<entry_part> {
-        return {{part_kind::options, cell, std::move(choices)}};
+    const auto options = [&](std::vector<std::string> choices,
+                             std::vector<std::string> names) -> std::vector<entry_part> {
+        return {{.kind = part_kind::options,
+                 .text = cell,
+                 .choices = std::move(choices),
+                 .choice_names = std::move(names)}};
     };
     if (box == site_box::clover)
         return {box, text::clover_caption, text::clover_instruction,
-                options({std::string(clover::high), std::string(clover::low)})};
+                options({std::string(clover::high), std::string(clover::low)}, {"high", "low"})};
     return {box, text::use_caption, text::use_instruction,
             options({std::string(grass_use::silage), std::string(grass_use::hay),
-                     std::string(grass_use::grazing)})};
+                     std::string(grass_use::grazing)},
+                    {"silage", "hay", "grazing"})};
 }
 
 opening site_page::applications_opening(int row) const {

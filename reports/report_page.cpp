@@ -142,6 +142,7 @@ void report_table::add_row(const std::vector<std::string>& texts) {
 void report_table::add_grid(const text_grid& grid, int rows, const std::vector<int>& columns) {
     for (int row = 0; row < rows; ++row) {
         std::vector<report_cell> cells;
+        cells.reserve(columns.size());
         for (const int column : columns)
             cells.push_back({.text = grid.cell(row, column)});
         add_row(cells);

@@ -18,7 +18,7 @@ class GridRows : public farm_test {
     GridRows() { open_farm({{"Long Rig", "4"}, {"Low Moss", "5"}}); }
 
     std::string other_farm(const texts& names) {
-        const std::string file = make_farm("other.kel", {});
+        std::string file = make_farm("other.kel", {});
         for (const std::string& field : names)
             add_row(file, "Land", {{"Field Area ID", field}, {"Soil", "of " + field}});
         return file;

@@ -64,7 +64,7 @@ class asking_screen : public module_screen {
   private:
     outcome taken(const box_entry& typed) {
         entered.push_back(typed);
-        const outcome answer = outcomes.front();
+        outcome answer = outcomes.front();
         if (outcomes.size() > 1) outcomes.erase(outcomes.begin());
         return answer;
     }

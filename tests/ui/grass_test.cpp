@@ -68,9 +68,9 @@ TEST_F(GrassScreen, TheSiteRouteThroughItsButtons) {
     EXPECT_EQ(cell(site, 1, 4), "6");
     drive::click_cell(site, 1, 5);
     EXPECT_FALSE(drive::control(screen("grass"), "cmdSite_continue")->isEnabled());
-    option("optSite_clover_2");
+    option("optSite_clover_low");
     press("grass", "cmdSite_clover_enter");
-    option("optSite_use_1");
+    option("optSite_use_silage");
     press("grass", "cmdSite_use_enter");
     press("grass", "cmdSite_cuts_low_enter");
     press("grass", "cmdSite_after_low_enter");

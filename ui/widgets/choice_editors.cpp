@@ -114,7 +114,10 @@ void options_editor::build(const entry_part& part) {
     lines->setContentsMargins(0, 0, 0, 0);
     for (const std::string& choice : part.choices) {
         auto* option = new QRadioButton(qt(choice), options_);
-        option->setObjectName(QString("opt%1_%2").arg(name_).arg(lines->count() + 1));
+        const auto place = static_cast<std::size_t>(lines->count());
+        const QString ending =
+            place < part.choice_names.size() ? qt(part.choice_names[place]) : QString::number(place + 1);
+        option->setObjectName("opt" + name_ + "_" + ending);
         option->installEventFilter(this);
         group_->addButton(option, lines->count());
         lines->addWidget(option);
