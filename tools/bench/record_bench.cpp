@@ -1,6 +1,7 @@
 // The field record on a farm with twenty applications to each field in each of two files: one field, the
 // report of all and its growth with the farm; and records taken over from another file beside their plain
 // load.
+#include "core/assessment_files.h"
 #include "core/farm_fields.h"
 #include "core/record_import.h"
 #include "land/land_grids.h"
@@ -67,6 +68,7 @@ class no_viewer : public report_viewer {
 class recorded_farm {
   public:
     explicit recorded_farm(int fields) : farm_(fields, 2) {
+        farm_.state.kel_year_start = read_assessment_year(farm_.state.assess_file);
         const int year = year_of(farm_.state.kel_year_start.value());
         write_applications(farm_.state.assess_file, year + 1);
         write_applications(farm_.state.prev1_file, year);
