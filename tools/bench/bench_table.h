@@ -26,6 +26,7 @@ double median(std::vector<double> values);
 template <class F>
 double median_of(int repetitions, F&& measure) {
     std::vector<double> results;
+    results.reserve(static_cast<std::size_t>(repetitions));
     for (int i = 0; i < repetitions; ++i)
         results.push_back(measure());
     return median(std::move(results));

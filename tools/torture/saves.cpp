@@ -36,7 +36,8 @@ class choosing_person : public bench::silent_person {
 };
 
 // Every field gets a longer name and another soil: all rows of all tables of the three years change.
-void set_profile(application_state state) {
+void set_profile(const application_state& opened) {
+    application_state state = opened;
     bench::silent_person person;
     profile_module profile(state, person);
     profile.load_profile();
@@ -46,7 +47,7 @@ void set_profile(application_state state) {
     save_prof(state.assess_file, profile.farm(), profile.fields(), state);
 }
 
-void save_step(application_state state) {
+void save_step(const application_state& state) {
     text_grid values(value_columns);
     for (int i = 0; i < stored_values; ++i) {
         values.set_cell(values.add_row(), 0, "item " + std::to_string(i));
@@ -58,7 +59,8 @@ void save_step(application_state state) {
     save.commit();
 }
 
-void create_year(application_state state) {
+void create_year(const application_state& opened) {
+    application_state state = opened;
     choosing_person person(folder_of(state.assess_file) + "/next.kel");
     profile_module profile(state, person);
     years_module years(state, person, profile, [](picker_module) {});

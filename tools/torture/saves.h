@@ -15,7 +15,7 @@ namespace kel::torture {
 
 struct tortured_save {
     std::string_view name;
-    void (*run)(application_state state);  // throws when the file cannot be written
+    void (*run)(const application_state& state);  // throws when the file cannot be written
     bool all_files_together;               // one transaction: never some files old and others new
 };
 
