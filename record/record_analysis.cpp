@@ -103,6 +103,7 @@ std::string_view icon_path(warning_kind kind) {
 
 std::vector<std::string> icon_paths() {
     std::vector<std::string> paths;
+    paths.reserve(icons.size());
     for (const icon& i : icons)
         paths.emplace_back(i.path);
     return paths;

@@ -25,6 +25,7 @@ page_lines record_table(const text_grid& record) {
     table.add_heading_row(headings);
     for (int row = 0; row < record.row_count(); ++row) {
         std::vector<std::string> cells;
+        cells.reserve(static_cast<std::size_t>(record.column_count()));
         for (int column = 0; column < record.column_count(); ++column)
             cells.push_back(filled(record.cell(row, column)));
         table.add_row(cells);
