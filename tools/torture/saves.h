@@ -16,7 +16,7 @@ namespace kel::torture {
 struct tortured_save {
     std::string_view name;
     void (*run)(const application_state& state);  // throws when the file cannot be written
-    bool all_files_together;               // one transaction: never some files old and others new
+    bool all_files_together;                      // one transaction: never some files old and others new
 };
 
 /// Set Profile over three years, a step's Save, the next year's file with its settings.

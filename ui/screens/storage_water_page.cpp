@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "ui/screens/frmStorage.h"
 #include "ui/widgets/line_editor.h"
@@ -81,7 +82,7 @@ QLineEdit* storage_water_page::add_box(const QString& caption, const char* name,
     box->setFixedWidth(box_width_px);
     box->setAccessibleName(QString(caption).remove('&'));
     connect(box, &QLineEdit::textChanged, this,
-            [this, set](const QString& text) { (page_.*set)(from_qt(text)); });
+            [this, set](const QString& text) { std::invoke(set, page_, from_qt(text)); });
     connect(box, &QLineEdit::returnPressed, this, &storage_water_page::confirmed);
     lines_->addRow(caption, box);
     return box;
