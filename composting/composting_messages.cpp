@@ -34,8 +34,7 @@ message field_does_not_exist(const std::string& name) {
     return {"Field does not exist",
             "The field you are trying to load (" + name +
                 ") does not exist in the farm profile, and will not be imported. If you wish to include it "
-                "in the "
-                "analysis, the profile will need to be amended before it can be imported!"};
+                "in the analysis, the profile will need to be amended before it can be imported!"};
 }
 
 }  // namespace kel::composting_messages

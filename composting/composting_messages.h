@@ -13,17 +13,14 @@ inline constexpr std::string_view title =
     "In Field Composting of Vegetable Crop Residues to Minimise Nitrate Leaching.";
 inline constexpr std::string_view instruction =
     "This module will allow you to determine the quantity of straw or PMS to incorporate into composting "
-    "vegetable "
-    "crop residues in order to reduce nitrogen leaching. In addition, you will be able to determine the "
-    "extent to "
-    "which fertiliser nitrogen additions need to be adjusted to account for the extra nitrogen available to "
-    "the "
-    "next crop as a result of composting.\r\n\r\nFor further information consult the Booklet 1 of the KEL "
-    "Guidelines (click on information the button below).";
+    "vegetable crop residues in order to reduce nitrogen leaching. In addition, you will be able to "
+    "determine the extent to which fertiliser nitrogen additions need to be adjusted to account for the "
+    "extra nitrogen available to the next crop as a result of composting.\r\n\r\n"
+    "For further information consult the Booklet 1 of the KEL Guidelines (click on information the button "
+    "below).";
 inline constexpr std::string_view panel_instruction =
     "Use the buttons available through this frame to add data to or edit the contents of, a new or "
-    "previously saved "
-    "database of calculations.";
+    "previously saved database of calculations.";
 
 // The questions.
 inline constexpr std::string_view residue_question = "1. What type of crop residue are you composting?";

@@ -37,15 +37,15 @@ constexpr std::array<crop_residue, 16> residues{{
 struct factor_line {
     std::string_view waste;
     float up_to_percent;
-    float a, b;
-    float c, d;
+    double a, b;
+    double c, d;
 };
 constexpr float any = 3.4e38F;
 constexpr std::array<factor_line, 3> factor_lines{{
-    // waste              up to     a      b     c     d
-    {straw_waste,               any,   14.5F, 8.0F, 1.5F, 1.3F},
-    {pms_waste,   0.8F,   9.6F, 9.5F, 3.5F, 2.3F},
-    {pms_waste,   any,    8.4F, 8.0F, 1.5F, 0.7F},
+    // waste      up to    a     b    c    d
+    {straw_waste, any,   14.5, 8.0, 1.5, 1.3},
+    {pms_waste,   0.8F,   9.6, 9.5, 3.5, 2.3},
+    {pms_waste,   any,    8.4, 8.0, 1.5, 0.7},
 }};
 // clang-format on
 
@@ -73,7 +73,10 @@ waste_factors factors_of(std::string_view waste, float n_percent) {
         return l.waste == kind && n_percent <= l.up_to_percent;
     });
     if (line == factor_lines.end()) return {0, 0};
-    return {line->a - line->b * n_percent, line->c * n_percent - line->d};
+    // The N content is single, the lines are as printed: where they all but meet 0, what is left of them is
+    // not to be lost in the figures of the lines.
+    return {static_cast<float>(line->a - line->b * n_percent),
+            static_cast<float>(line->c * n_percent - line->d)};
 }
 
 std::optional<composting_result> compost(float residue_kg_per_ha, float soil_kg_per_ha,
