@@ -1,5 +1,5 @@
-// What the pages of the module share: the working copies of the tables, the answers of the opening questions
-// and the farm's livestock units.
+// What the pages of the module share: the working copies of the tables, the answers of the opening questions,
+// the farm's livestock units and what was worked with last.
 #pragma once
 
 #include <string>
@@ -19,8 +19,10 @@ struct grass_farm {
     int rain_class = 0;  // 0: not answered yet
     int altitude_step = 0;
     // Of [LU] as it is stored, not of what has not been saved yet.
+    bool has_stock = false;
     std::vector<std::string> stock_types;
     float total_lus = 0;
+    silage_working working{};
 };
 
 }  // namespace kel

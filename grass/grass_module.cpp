@@ -134,6 +134,7 @@ void grass_module::turn_to(stock_tab tab) {
 
 // The types and the units that the stocking of the fields goes by are the stored ones.
 void grass_module::take_saved_livestock() {
+    farm_.has_stock = farm_.livestock.data_row_count() > 0;
     farm_.stock_types.clear();
     farm_.total_lus = farm_.livestock.sum(livestock_column::units, farm_.livestock.data_row_count());
     for (int row = 0; row < farm_.livestock.data_row_count(); ++row)
@@ -170,7 +171,7 @@ void grass_module::report(report_desk& desk) {
     const std::string source = has_results ? site_.figures_source() : std::string{};
     const manure_history manures(open_manure_years(state_));
     generate_report(desk, grass_report_file,
-                    grass_report(farm_.site, site_.results(), manures, silage_.table(), source),
+                    grass_report(farm_.site, site_.results(), manures, silage_.reported(), source),
                     screen_id::grass, screen_id::grass);
 }
 

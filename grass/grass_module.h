@@ -84,8 +84,8 @@ class grass_module {
     /// Asks whether the module may close; if so, the results in view are written. Throws file_error, with the
     /// site table in view.
     bool close();
-    /// Shows the report of the results and of the silage table, as far as they have been worked out. Throws
-    /// file_error.
+    /// Shows the report of the results and of the silage table, as far as they have been worked out and the
+    /// fields are still those that they were worked out for. Throws file_error.
     void report(report_desk& desk);
 
   private:

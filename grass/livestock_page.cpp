@@ -45,7 +45,10 @@ outcome livestock_page::write(int row, int column, const std::string& text) {
 
 outcome livestock_page::enter_type(int row, const std::string& type) {
     if (type.empty()) return refuse(person_, text::no_stock_type);
-    if (const auto ratio = lu_ratio(type)) farm_.livestock.set_cell(row, col::ratio, default_text(*ratio));
+    if (const auto ratio = lu_ratio(type)) {
+        farm_.working.lu_per_animal = *ratio;
+        farm_.livestock.set_cell(row, col::ratio, default_text(*ratio));
+    }
     return write(row, col::type, type);
 }
 

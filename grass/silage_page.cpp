@@ -18,12 +18,22 @@ bool silage_page::refuse(const message& reason) {
 
 void silage_page::clear() {
     plan_ = {};
+    built_from_.clear();
     table_ = empty_silage_grid();
     varying_ = false;
 }
 
+text_grid silage_page::reported() const {
+    const bool stands =
+        built_for_lus_ == farm_.total_lus && built_from_ == stocked_fields_of(stocking_of(farm_.site));
+    return stands ? table_ : empty_silage_grid();
+}
+
 void silage_page::fill() {
-    plan_ = fill_silage_table(stocked_fields_of(farm_.stocking), farm_.total_lus);
+    built_from_ = stocked_fields_of(farm_.stocking);
+    built_for_lus_ = farm_.total_lus;
+    plan_ = fill_silage_table(built_from_, built_for_lus_, farm_.working);
+    farm_.working = plan_.working;
     table_ = silage_grid_of(plan_);
     varying_ = false;
     name_fields_without_area();
@@ -59,6 +69,7 @@ bool silage_page::make_alteration(const std::string& decrease, const std::string
             site_class(farm_.stocking.cell(row, stocking_column::soil), farm_.rain_class, farm_.altitude_step)
                 .value_or(0));
     move_feed(plan_, decrease, increase, site_classes);
+    farm_.working = plan_.working;
     table_ = silage_grid_of(plan_);
     name_fields_without_area();
     return true;
@@ -71,6 +82,7 @@ void silage_page::keep_rates() {
         farm_.stocking.set_cell(row, stocking_column::silage_rate, rate);
         farm_.site.set_cell(row, site_column::silage_rate, rate);
     }
+    built_from_ = stocked_fields_of(farm_.stocking);
 }
 
 }  // namespace kel

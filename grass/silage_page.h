@@ -17,6 +17,9 @@ class silage_page {
 
     const text_grid& table() const { return table_; }
     const silage_plan& plan() const { return plan_; }
+    /// The table for the report: without rows once the site table or the stored livestock have become others
+    /// than those that it was built from.
+    text_grid reported() const;
     /// What the farm has, what is grazed and what is left, in a line.
     std::string summary() const;
 
@@ -45,6 +48,8 @@ class silage_page {
     prompts& person_;
     grass_farm& farm_;
     silage_plan plan_;
+    std::vector<stocked_field> built_from_;
+    float built_for_lus_ = 0;
     text_grid table_;
     bool varying_ = false;
 };

@@ -18,6 +18,12 @@ float number(const std::string& text) {
     return leading_single(text);
 }
 
+// A figure beyond every class has no line either, whatever it is.
+int class_number(const std::string& text) {
+    const float value = number(text);
+    return value >= 0 && value < 100 ? static_cast<int>(value) : 0;
+}
+
 // A type that the list lacks counts with the ratio of the group before it.
 float grazed_lus(const stocked_field& field, float& ratio) {
     float sum = 0;
@@ -30,11 +36,10 @@ float grazed_lus(const stocked_field& field, float& ratio) {
 }
 
 void fill_grazing(silage_plan& plan, const std::vector<stocked_field>& fields) {
-    float ratio = 0;
     for (const stocked_field& field : fields) {
         silage_row row{.field = field.field, .use = field.use, .area_ha = field.area_ha};
         if (field.use != grass_use::silage) {
-            const float lus = grazed_lus(field, ratio);
+            const float lus = grazed_lus(field, plan.working.lu_per_animal);
             const float area_ha = number(field.area_ha);
             row.lus_fed_by_grazing = format_shown(lus, lu_places);
             if (area_ha > 0)
@@ -72,21 +77,22 @@ void share_out_silage(silage_plan& plan) {
             area_without_rate_ha += number(row.area_ha);
             continue;
         }
-        plan.silage_rate = number(row.lus_per_ha);
-        plan.lus_left_for_silage -= plan.silage_rate * number(row.area_ha);
+        plan.working.silage_rate = number(row.lus_per_ha);
+        plan.lus_left_for_silage -= plan.working.silage_rate * number(row.area_ha);
     }
-    if (area_without_rate_ha != 0) plan.silage_rate = plan.lus_left_for_silage / area_without_rate_ha;
+    float& rate = plan.working.silage_rate;
+    if (area_without_rate_ha != 0) rate = plan.lus_left_for_silage / area_without_rate_ha;
     for (silage_row& row : plan.rows) {
         if (row.use != grass_use::silage) continue;
-        if (row.lus_per_ha.empty()) row.lus_per_ha = format_shown(plan.silage_rate, lu_places);
-        row.lus_fed_from_silage = format_shown(number(row.area_ha) * plan.silage_rate, lu_places);
+        if (row.lus_per_ha.empty()) row.lus_per_ha = format_shown(rate, lu_places);
+        row.lus_fed_from_silage = format_shown(number(row.area_ha) * rate, lu_places);
     }
 }
 
 void show_requirement(silage_plan& plan, silage_row& row) {
-    row.n_kg_per_ha = format_shown(plan.n_kg_per_ha, 0);
+    row.n_kg_per_ha = format_shown(plan.working.n_kg_per_ha, 0);
     if (row.use == grass_use::grazing) return;
-    if (const auto note = cuts_note(plan.n_kg_per_ha)) row.notes = *note;
+    if (const auto note = cuts_note(plan.working.n_kg_per_ha)) row.notes = *note;
 }
 
 void set_requirement(silage_plan& plan, silage_row& row, int site_class) {
@@ -95,8 +101,8 @@ void set_requirement(silage_plan& plan, silage_row& row, int site_class) {
     if (has_line && row.lus_per_ha.empty()) return;
     const float lus_per_ha = number(row.lus_per_ha);
     if (has_line)
-        plan.n_kg_per_ha = (grazed ? grazing_requirement : silage_requirement)(site_class, lus_per_ha)
-                               .value_or(plan.n_kg_per_ha);
+        plan.working.n_kg_per_ha = (grazed ? grazing_requirement : silage_requirement)(site_class, lus_per_ha)
+                                       .value_or(plan.working.n_kg_per_ha);
     show_requirement(plan, row);
 }
 
@@ -111,21 +117,24 @@ void change_feed(silage_plan& plan, silage_row& row, double change_lu, int site_
         return;
     }
     row.lus_per_ha = format_shown(lus / area_ha, lu_places);
-    plan.n_kg_per_ha = silage_requirement(site_class, number(row.lus_per_ha)).value_or(plan.n_kg_per_ha);
+    plan.working.n_kg_per_ha =
+        silage_requirement(site_class, number(row.lus_per_ha)).value_or(plan.working.n_kg_per_ha);
     show_requirement(plan, row);
 }
 
 }  // namespace
 
-silage_plan fill_silage_table(const std::vector<stocked_field>& fields, float farm_lus) {
+silage_plan fill_silage_table(const std::vector<stocked_field>& fields, float farm_lus,
+                              const silage_working& before) {
     silage_plan plan;
+    plan.working = before;
     const first_records records = records_by_field(fields);
     fill_grazing(plan, fields);
     plan.lus_left_for_silage = farm_lus - plan.grazed_lus;
     take_stored_rates(plan, records);
     share_out_silage(plan);
     for (silage_row& row : plan.rows)
-        set_requirement(plan, row, static_cast<int>(number(records.at(row.field)->site_class)));
+        set_requirement(plan, row, class_number(records.at(row.field)->site_class));
     return plan;
 }
 

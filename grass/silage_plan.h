@@ -16,6 +16,7 @@ struct grazing_group {
     std::string type;
     std::string number;
     std::string percent;  // of the year
+    bool operator==(const grazing_group&) const = default;
 };
 
 /// A field of the stocking table; figures are texts.
@@ -26,6 +27,7 @@ struct stocked_field {
     std::string use;
     std::array<grazing_group, groups_per_field> groups{};
     std::string silage_rate{};  // stored LU/ha; empty: none
+    bool operator==(const stocked_field&) const = default;
 };
 
 /// A row of the silage table, all as text.
@@ -41,20 +43,29 @@ struct silage_row {
     bool operator==(const silage_row&) const = default;
 };
 
+/// What was worked with last. It stands where a text has no figure of its own: a stock type that the list
+/// lacks, silage without an area to spread it over, a class or a use without a line.
+struct silage_working {
+    float lu_per_animal = 0;
+    float silage_rate = 0;  // LU/ha
+    float n_kg_per_ha = 0;
+};
+
 struct silage_plan {
     std::vector<silage_row> rows;
     float grazed_lus = 0;
     float lus_left_for_silage = 0;  // below 0 where more is grazed than the farm has
-    float silage_rate = 0;          // LU/ha worked with last
-    float n_kg_per_ha = 0;          // requirement worked out last
+    silage_working working{};
     /// Fields without an area, whose density cannot be worked out; their cells are empty.
     std::vector<std::string> without_area;
 };
 
 /// The whole table for the farm's LU, one row a field. A field that is not silage counts as grazed, and with
 /// a use that has no line of its own it shows the requirement of the row above. A stored rate goes before
-/// what is worked out; the feed from silage always goes by the rate worked with last.
-silage_plan fill_silage_table(const std::vector<stocked_field>& fields, float farm_lus);
+/// what is worked out; the feed from silage always goes by the rate worked with last. `before` is what the
+/// plan before this one worked with.
+silage_plan fill_silage_table(const std::vector<stocked_field>& fields, float farm_lus,
+                              const silage_working& before = {});
 
 inline constexpr double feed_step_lu = 0.1;
 /// Takes one step of feed from every row of the one field and gives it to the other. `site_classes` has the

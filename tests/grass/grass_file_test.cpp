@@ -166,6 +166,34 @@ TEST_F(grass_file_test, TheReportHasEachFieldWithItsManuresAndTheSilageTable) {
     }
 }
 
+TEST_F(grass_file_test, TheSilageTableIsReportedForAsLongAsItsFieldsStand) {
+    open_stored_farm();
+    module.to_stock();
+    module.stocking().enter_use(0, "Silage production");
+    expect_save_to(state.assess_file);
+    module.cmdSU_continue();
+    expect_save_to(state.assess_file);
+    module.cmdGrass_rec_save();
+    const auto reported = [&] { return module.silage().reported().row_count(); };
+    EXPECT_EQ(reported(), 1);
+    module.back();
+    module.back();
+    site().enter_manure(0, site_column::manure_current, "12");
+    EXPECT_EQ(reported(), 1);
+    site().enter_use(0, "Grazing");
+    EXPECT_EQ(reported(), 0);
+    site().enter_use(0, "Silage");
+    EXPECT_EQ(reported(), 1);
+    site().enter_field(1, "Low Park");
+    EXPECT_EQ(reported(), 0);
+    site().erase_row(1);
+    module.livestock().enter_number(0, "9");
+    module.to_stock();
+    expect_save_to(state.assess_file);
+    module.cmdLU_save();
+    EXPECT_EQ(reported(), 0);
+}
+
 TEST_F(grass_file_test, RowsOfUnknownFieldsAreToldAndLeftOut) {
     open_farm({{"Low Park", "20"}});
     add_site("Gone");

@@ -116,6 +116,19 @@ TEST(SilageTable, AFieldWithoutAUseShowsTheRequirementAboveIt) {
     EXPECT_EQ(plan.rows[1].lus_per_ha, "12.00");
 }
 
+// What has no figure of its own goes on from what was worked with last, also in the table before.
+TEST(SilageTable, WhatWasWorkedWithLastStandsInTheNextTable) {
+    const auto before = fill_silage_table(
+        {grazed("Low Park", "20", {{"Horses", "10", "100"}}), silage("Haugh", "10", "3", "3")}, 100);
+    const auto plan = fill_silage_table({grazed("Nook", "10", {{"Llamas", "10", "100"}}, ""),
+                                         silage("Bog", "0", "7"), silage("Fen", "", "9e9")},
+                                        100, before.working);
+    EXPECT_EQ(column(plan, &silage_row::lus_fed_by_grazing), (texts{"8.00", "", ""}));
+    EXPECT_EQ(column(plan, &silage_row::lus_per_ha), (texts{"0.80", "3.00", "3.00"}));
+    EXPECT_EQ(column(plan, &silage_row::lus_fed_from_silage), (texts{"", "0.00", "0.00"}));
+    EXPECT_EQ(column(plan, &silage_row::n_kg_per_ha), (texts{"250", "250", "250"}));
+}
+
 TEST(SilageTable, AFieldWithoutAreaIsNamedAndTheOthersAreWorkedOut) {
     const auto plan = fill_silage_table(
         {grazed("Nook", "", {sixty_cows}), grazed("Bog", "0", {}), grazed("Low Park", "30", {sixty_cows})},
