@@ -104,7 +104,6 @@ namespace {
 // The rows of `from` that `into` has no row of in its first column, or all of them in place of its own. Two
 // rows of one text, as of two herds, come together.
 void take_rows(text_grid& into, const text_grid& from, bool replace) {
-    if (from.data_row_count() == 0) return;
     if (replace) {
         into = from;
         return;
@@ -121,13 +120,14 @@ void take_rows(text_grid& into, const text_grid& from, bool replace) {
 
 }  // namespace
 
-// An empty table leaves the one here as it is, as with every import.
+// An empty table leaves the one here as it is, as with every import; one whose rows are all left out does
+// not.
 void grass_module::take_from(const database& other, bool replace) {
     load_messages told;
     const text_grid site = load_site(other, farm_.fields, told);
     const text_grid livestock = load_livestock(other);
-    take_rows(farm_.site, site, replace);
-    take_rows(farm_.livestock, livestock, replace);
+    if (!other.open("Site").eof()) take_rows(farm_.site, site, replace);
+    if (!other.open("LU").eof()) take_rows(farm_.livestock, livestock, replace);
     site_.set_site_classes();
     told.tell(person_);
 }

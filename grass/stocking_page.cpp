@@ -32,7 +32,7 @@ opening stocking_page::click_group(int row, int column) {
     const std::string& cell = farm_.stocking.cell(row, column);
     switch (static_cast<group_part>((column - col::first_group) % columns_per_group)) {
         case group_part::type:
-            if (farm_.stock_types.empty()) return opens_none(person_, text::no_farm_stock);
+            if (!farm_.has_stock) return opens_none(person_, text::no_farm_stock);
             return {stocking_box::type,
                     text::group_type_caption,
                     {},

@@ -77,6 +77,10 @@ TEST_F(stocking_test, WithoutStoredStockNoGroupCanBeChosen) {
     module.to_stock();
     person.expect(text::no_farm_stock);
     EXPECT_TRUE(module.stocking().click(0, su::first_group).box.none());
+    add_row(state.assess_file, "LU", {{"Number of Animals", "5"}});  // stock, but of no type
+    load();
+    module.to_stock();
+    EXPECT_EQ(module.stocking().click(0, su::first_group).parts.at(0).choices, texts{});
 }
 
 TEST_F(stocking_test, SilageTakesTheGroupsOfAFieldAndTheSiteTableShowsIt) {
@@ -210,6 +214,13 @@ TEST_F(stocking_test, AnotherDatabaseIsMergedOrTakesThePlaceOfTheTables) {
     module.enter_change_database("Overwrite");
     EXPECT_EQ(module.stocking().table().row_count(), 2);
     EXPECT_EQ(livestock(lu::type), "Horses");
+    const std::string strange = make_farm("strange.kel", {}, 2024);
+    add_row(strange, "Site", {{"Field Area ID", "Wester"}});
+    person.expect_file("Replace with data from another assessment", strange);
+    person.expect(module_messages::field_does_not_exist("Wester"));
+    EXPECT_TRUE(module.enter_change_database("Overwrite").closes);
+    EXPECT_EQ(module.stocking().table().row_count(), 0);
+    EXPECT_EQ(livestock(lu::type), "Horses");  // its table of livestock is empty
     module.enter_change_database("New assessment");
     EXPECT_EQ(module.stocking().table().row_count(), 0);
     EXPECT_EQ(module.livestock().table().row_count(), 1);
