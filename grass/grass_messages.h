@@ -38,6 +38,12 @@ inline constexpr std::string_view silage_instruction =
     "fed "
     "by each field and the nitrogen that it requires for them.";
 
+/// `file`: the name of the database with the reference tables.
+inline std::string figures_without_source(const std::string& file) {
+    return "Requirements and adjustments are those of the tables in " + file +
+           ", which do not say where they come from.";
+}
+
 inline constexpr std::string_view silage_section = "Grazing and silage areas";
 
 // The opening questions.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <vector>
 
 #include "core/file_error.h"
@@ -66,7 +67,8 @@ std::optional<float> whole_number_text(std::string_view text) {
     float value = 0;
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value, std::chars_format::fixed);
-    if (text.empty() || read.ec != std::errc{} || read.ptr != end) return std::nullopt;
+    if (text.empty() || read.ec != std::errc{} || read.ptr != end || !std::isfinite(value))
+        return std::nullopt;
     return value;
 }
 
@@ -99,6 +101,14 @@ class cells_reader {
     std::map<std::string, float, std::less<>> values_;
 };
 
+// Tables from elsewhere may have none to tell.
+std::string source_of(const database& reference) {
+    constexpr std::string_view table = "Grass_source";
+    if (reference.open("sqlite_master", "name", table).eof()) return {};
+    const recordset source = reference.open(table);
+    return source.eof() ? std::string{} : source.text("Source");
+}
+
 }  // namespace
 
 grass_tables::grass_tables(const database& reference) {
@@ -112,8 +122,7 @@ grass_tables::grass_tables(const database& reference) {
         adjust.add(adjust_key(row.text("Clover"), row.text("Management"), row.text("Cuts"), row.text("Apps")),
                    row.text("Adjustment"));
     adjustments_ = adjust.take(needed_adjustments());
-    const recordset source = reference.open("Grass_source");
-    if (!source.eof()) source_ = source.text("Source");
+    source_ = source_of(reference);
 }
 
 std::optional<float> grass_tables::grass_rec_value(std::string_view clover, std::string_view site_class,

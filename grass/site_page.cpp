@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/installation.h"
 #include "core/module_messages.h"
 #include "grass/grass_messages.h"
 #include "grass/site_class.h"
@@ -45,6 +46,11 @@ void site_page::clear() {
 const grass_tables& site_page::tables() {
     if (!tables_) tables_.emplace(database(state_.places.grass_tables()));
     return *tables_;
+}
+
+std::string site_page::figures_source() {
+    const std::string& told = tables().source();
+    return told.empty() ? text::figures_without_source(file_name_of(state_.places.grass_tables())) : told;
 }
 
 opening site_page::click(int row, int column) {

@@ -62,8 +62,8 @@ class site_page {
     void set_site_classes();
     /// Fills the results. False, after a message, for a row that lacks something. Throws file_error.
     bool calculate();
-    /// The figures' own word on where they come from. Throws file_error.
-    const std::string& figures_source() { return tables().source(); }
+    /// The line that says where the figures come from. Throws file_error.
+    std::string figures_source();
     void clear_results();
     /// Forgets the reference tables too, as before an assessment is read anew.
     void clear();

@@ -55,6 +55,11 @@ TEST_F(DamagedGrassTables, NoNumberIsRefused) {
               "in the table [Grass_Recs] the cell Clover High, Site Class 2, Group 3 is no number: 55 kg.");
 }
 
+TEST_F(DamagedGrassTables, NoFiniteNumberIsRefused) {
+    set("Grass_Recs", "Group 3", "inf");
+    EXPECT_NE(refusal().find("Group 3 is no number: inf."), std::string::npos);
+}
+
 TEST_F(DamagedGrassTables, AnEmptyFigureIsRefused) {
     set("Grass_adjust", "Adjustment", "");
     EXPECT_EQ(refusal(),
