@@ -21,10 +21,10 @@ constexpr auto carried = column_kind::carried;
 
 // clang-format off
 // The site table. The columns behind the end of the season are those of the stocking page.
-constexpr std::array<grid_column, 46> site_columns{{
+constexpr std::array<grid_column, 47> site_columns{{
     // heading                                                 stored column                         kind        width date
     {"Field Area ID",                                          "Field Area ID",                      entered,     20},
-    {"Soil Type",                                              "Soil Type",                          calculated,  17},
+    {"Soil Type",                                              "Soil Type",                          calculated,  20},
     {"Site Class",                                             "Site Class",                         calculated,   7},
     {"Previous Grass/Clover Crop",                             "Previous crop",                      entered,     12},
     {"N Residue Group",                                        "N residue group",                    calculated,   9},
@@ -69,6 +69,7 @@ constexpr std::array<grid_column, 46> site_columns{{
     {"Livestock Group 10 (% Year Grazed)",                     "Livestock Group 10 (% Year Grazed)", carried,     10},
     {"LUs Fed By Grazing",                                     "LUs Fed By Grazing",                 carried,      9},
     {"Silage Rate",                                            "Silage Rate",                        carried,      9},
+    {"",                                                       "",                                   carried,      0},
 }};
 
 // The stocking table, whose headings are the stored names. The columns behind the silage rate are those of the site
@@ -77,37 +78,37 @@ constexpr std::array<grid_column, 46> stocking_columns{{
     // heading                                                 stored column                         kind        width date
     {"Field Area ID",                                          "Field Area ID",                      calculated,  20},
     {"Field Area Size (ha)",                                   "Field Area Size (ha)",               calculated,   9},
-    {"Soil Type",                                              "Soil Type",                          calculated,  17},
+    {"Soil Type",                                              "Soil Type",                          calculated,  20},
     {"Site Class",                                             "Site Class",                         calculated,   7},
     {"Site Use",                                               "Site Use",                           entered,      9},
-    {"Livestock Group 1 (Type)",                               "Livestock Group 1 (Type)",           entered,     28},
+    {"Livestock Group 1 (Type)",                               "Livestock Group 1 (Type)",           entered,     20},
     {"Livestock Group 1 (Number)",                             "Livestock Group 1 (Number)",         entered,     10},
     {"Livestock Group 1 (% Year Grazed)",                      "Livestock Group 1 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 2 (Type)",                               "Livestock Group 2 (Type)",           entered,     28},
+    {"Livestock Group 2 (Type)",                               "Livestock Group 2 (Type)",           entered,     20},
     {"Livestock Group 2 (Number)",                             "Livestock Group 2 (Number)",         entered,     10},
     {"Livestock Group 2 (% Year Grazed)",                      "Livestock Group 2 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 3 (Type)",                               "Livestock Group 3 (Type)",           entered,     28},
+    {"Livestock Group 3 (Type)",                               "Livestock Group 3 (Type)",           entered,     20},
     {"Livestock Group 3 (Number)",                             "Livestock Group 3 (Number)",         entered,     10},
     {"Livestock Group 3 (% Year Grazed)",                      "Livestock Group 3 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 4 (Type)",                               "Livestock Group 4 (Type)",           entered,     28},
+    {"Livestock Group 4 (Type)",                               "Livestock Group 4 (Type)",           entered,     20},
     {"Livestock Group 4 (Number)",                             "Livestock Group 4 (Number)",         entered,     10},
     {"Livestock Group 4 (% Year Grazed)",                      "Livestock Group 4 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 5 (Type)",                               "Livestock Group 5 (Type)",           entered,     28},
+    {"Livestock Group 5 (Type)",                               "Livestock Group 5 (Type)",           entered,     20},
     {"Livestock Group 5 (Number)",                             "Livestock Group 5 (Number)",         entered,     10},
     {"Livestock Group 5 (% Year Grazed)",                      "Livestock Group 5 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 6 (Type)",                               "Livestock Group 6 (Type)",           entered,     28},
+    {"Livestock Group 6 (Type)",                               "Livestock Group 6 (Type)",           entered,     20},
     {"Livestock Group 6 (Number)",                             "Livestock Group 6 (Number)",         entered,     10},
     {"Livestock Group 6 (% Year Grazed)",                      "Livestock Group 6 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 7 (Type)",                               "Livestock Group 7 (Type)",           entered,     28},
+    {"Livestock Group 7 (Type)",                               "Livestock Group 7 (Type)",           entered,     20},
     {"Livestock Group 7 (Number)",                             "Livestock Group 7 (Number)",         entered,     10},
     {"Livestock Group 7 (% Year Grazed)",                      "Livestock Group 7 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 8 (Type)",                               "Livestock Group 8 (Type)",           entered,     28},
+    {"Livestock Group 8 (Type)",                               "Livestock Group 8 (Type)",           entered,     20},
     {"Livestock Group 8 (Number)",                             "Livestock Group 8 (Number)",         entered,     10},
     {"Livestock Group 8 (% Year Grazed)",                      "Livestock Group 8 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 9 (Type)",                               "Livestock Group 9 (Type)",           entered,     28},
+    {"Livestock Group 9 (Type)",                               "Livestock Group 9 (Type)",           entered,     20},
     {"Livestock Group 9 (Number)",                             "Livestock Group 9 (Number)",         entered,     10},
     {"Livestock Group 9 (% Year Grazed)",                      "Livestock Group 9 (% Year Grazed)",  entered,     10},
-    {"Livestock Group 10 (Type)",                              "Livestock Group 10 (Type)",          entered,     28},
+    {"Livestock Group 10 (Type)",                              "Livestock Group 10 (Type)",          entered,     20},
     {"Livestock Group 10 (Number)",                            "Livestock Group 10 (Number)",        entered,     10},
     {"Livestock Group 10 (% Year Grazed)",                     "Livestock Group 10 (% Year Grazed)", entered,     10},
     {"LUs Fed By Grazing",                                     "LUs Fed By Grazing",                 calculated,   9},
@@ -159,6 +160,7 @@ constexpr std::array<grid_column, 8> silage_columns{{
 static_assert(site_columns[site_column::season_end].is_date &&
               site_columns[site_column::area].stored == "Field Area Size (ha)" &&
               site_columns[site_column::silage_rate].stored == "Silage Rate" &&
+              site_columns[site_column::stocked_field].stored.empty() &&
               stocking_columns[stocking_column::use].stored == "Site Use" &&
               stocking_columns[stocking_column::silage_rate].stored == "Silage Rate");
 
@@ -319,8 +321,10 @@ text_grid load_site(const database& db, const std::vector<farm_field>& fields, l
         sizes.emplace(field.name, field.size);
     const known_fields known(fields);
     const auto set_area = [&](text_grid& site, int row, const recordset&) {
+        const std::string field = site.cell(row, site_column::field);
         if (site.cell(row, site_column::area).empty())
-            site.set_cell(row, site_column::area, std::string(sizes[site.cell(row, site_column::field)]));
+            site.set_cell(row, site_column::area, std::string(sizes[field]));
+        site.set_cell(row, site_column::stocked_field, field);
     };
     text_grid site(site_columns);
     append_rows(db, site_table, site, {.fields = &known, .nameless_rows_pass = true, .complete = set_area},

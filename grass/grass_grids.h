@@ -34,6 +34,7 @@ enum : int {
     first_group = 14,
     grazing_lus = 44,
     silage_rate = 45,
+    stocked_field = 46,  // not stored: the field that the columns from the area on are about
 };
 }
 

@@ -65,11 +65,12 @@ outcome site_page::enter_field(int row, const std::string& name) {
     if (field_in_other_row(row, name)) return refuse(person_, module_messages::field_in_grid);
     if (!field_is_grass(db, name) || !field_was_grass(name)) return box_stays();
     text_grid& site = farm_.site;
-    // What the stocking page has on the field that stood here is not this field's.
-    if (site.cell(row, col::field) != name)
+    // What the stocking page has on another field that stood here is not this field's.
+    if (site.cell(row, col::stocked_field) != name)
         for (int c = col::area; c < site.column_count(); ++c)
             site.set_cell(row, c, "");
     site.set_cell(row, col::field, name);
+    site.set_cell(row, col::stocked_field, name);
     for (const farm_field& field : farm_.fields)
         if (field.name == name) {
             site.set_cell(row, col::soil, field.soil);

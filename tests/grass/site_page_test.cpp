@@ -71,6 +71,21 @@ TEST_F(grass_test, AFieldIsTestedInOrder) {
     EXPECT_EQ(cell(2, col::field), "");
 }
 
+TEST_F(grass_test, AFieldThatIsChosenAgainHasItsGroupsStill) {
+    open({{"Low Park", "10"}, {"Haugh", "4"}});
+    site().enter_field(0, "Low Park");
+    module.to_stock();
+    module.stocking().enter_use(0, "Grazing");
+    module.stocking().enter_number(0, stocking_column::first_group + 1, "50");
+    module.back();
+    site().clear_field(0);
+    site().enter_field(0, "Low Park");
+    EXPECT_EQ(cell(0, col::first_group + 1), "50");
+    site().clear_field(0);
+    site().enter_field(0, "Haugh");
+    EXPECT_EQ(cell(0, col::first_group + 1) + cell(0, col::area), "4");
+}
+
 TEST_F(grass_test, AFieldThatIsNotInGrassIsAskedAbout) {
     open({{"Low Park", "10"}});
     state.prev1_file = make_farm("last.kel", {{"Low Park", "10"}}, 2023);
