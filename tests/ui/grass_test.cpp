@@ -2,9 +2,13 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
+#include <filesystem>
+
 #include "core/module_messages.h"
+#include "grass/grass_grids.h"
 #include "grass/grass_messages.h"
 #include "tests/ui/screen_fixture.h"
+#include "ui/widgets/first_column.h"
 
 namespace kel::test {
 
@@ -13,18 +17,19 @@ namespace text = grass_messages;
 class GrassScreen : public screen_test {
   protected:
     /// Two grass fields, of which one is stored, and a herd.
-    void start_farm() {
+    void start_farm(const row_values& more = {}) {
         open_farm({{"Low Park", "20"}, {"Haugh", "10", "Sands"}});
-        add_row(state.assess_file, "Site",
-                {{"Field Area ID", "Haugh"},
-                 {"Soil Type", "Sands"},
-                 {"N residue group", "6"},
-                 {"Previous crop", "PG"},
-                 {"Clover", "Low"},
-                 {"Site Use", "Silage"},
-                 {"Cuts", "2"},
-                 {"Applications", "1"},
-                 {"Adjustment", "0"}});
+        row_values haugh{{"Field Area ID", "Haugh"},
+                         {"Soil Type", "Sands"},
+                         {"N residue group", "6"},
+                         {"Previous crop", "PG"},
+                         {"Clover", "Low"},
+                         {"Site Use", "Silage"},
+                         {"Cuts", "2"},
+                         {"Applications", "1"},
+                         {"Adjustment", "0"}};
+        haugh.insert(haugh.end(), more.begin(), more.end());
+        add_row(state.assess_file, "Site", haugh);
         write_store(state);
         start();
         press("front", "cmdFront_grassland");
@@ -214,6 +219,46 @@ TEST_F(GrassScreen, MovingFeedAndAnotherDatabase) {
     person.expect(module_messages::close_the_module, answer::no);
     press("grass", "cmdSU_cancel");
     EXPECT_TRUE(in_view("grass"));
+}
+
+// The farm's mark of being open goes with the file that a save has made the open one.
+TEST_F(GrassScreen, ASaveUnderAnotherNameIsTheOpenFileFromThenOn) {
+    start_farm();
+    answer_opening();
+    press("grass", "cmdSite_stocking");
+    const std::string first = state.assess_file;
+    person.expect_file(std::string(text::save_title), path("copy.kel"));
+    press("grass", "cmdLU_save");
+    person.expect(module_messages::close_the_module, answer::yes);
+    press("grass", "cmdLU_cancel");
+    ASSERT_TRUE(in_view("front"));
+    EXPECT_TRUE(std::filesystem::exists(path("copy.kel.lock")));
+    EXPECT_FALSE(std::filesystem::exists(first + ".lock"));
+}
+
+TEST_F(GrassScreen, TheFieldStaysInViewBesideItsGroupsWhichAreShownInFull) {
+    start_farm({{"Livestock Group 9 (Type)", "Other cattle over 24 months (excl. intensive beef systems)"}});
+    answer_opening();
+    press("grass", "cmdSite_stocking");
+    drive::control<QTabWidget>(screen("grass"), "SSTabGrass")->setCurrentIndex(1);
+    grid_view* stocking = table("MSFlexGridSU");
+    const auto at = [&](int column) { return stocking->model()->index(0, column); };
+    const int ninth = stocking_column::first_group + 8 * columns_per_group;
+    EXPECT_TRUE(stocking->fits(ninth, at(ninth).data().toString()));
+    EXPECT_LT(stocking->columnWidth(ninth - columns_per_group), stocking->columnWidth(ninth));
+
+    stocking->setCurrentIndex(at(stocking_column::silage_rate));
+    const auto* field = stocking->findChild<first_column*>();
+    ASSERT_TRUE(field && field->isVisible());
+    EXPECT_EQ(field->width(), stocking->columnWidth(0));
+    for (int column = stocking_column::silage_rate; column > 0; --column) {
+        stocking->setCurrentIndex(at(column));
+        EXPECT_GE(stocking->visualRect(at(column)).left(), field->isVisible() ? field->width() : 0) << column;
+    }
+    stocking->setCurrentIndex(at(stocking_column::silage_rate));
+    QTest::mouseClick(field->viewport(), Qt::LeftButton, {}, field->visualRect(at(0)).center());
+    EXPECT_EQ(stocking->current_column(), 0);
+    EXPECT_FALSE(field->isVisible());
 }
 
 TEST_F(GrassScreen, AnotherAssessmentBeginsWithTheQuestionsAnew) {

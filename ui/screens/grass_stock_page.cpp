@@ -108,6 +108,8 @@ grid_view* grass_stock_page::front_grid() const {
 void grass_stock_page::refresh() {
     livestock_->refresh();
     stocking_->refresh();
+    for (int c = stocking_column::first_group; c < stocking_column::grazing_lus; c += columns_per_group)
+        stocking_->fit_column(c);
     const QSignalBlocker quiet(tabs_);
     tabs_->setCurrentIndex(static_cast<int>(module_.tab()));
 }

@@ -5,7 +5,12 @@
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <algorithm>
+#include <unordered_set>
+
+#include "ui/widgets/first_column.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 
@@ -26,18 +31,23 @@ grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     lay_out_columns();
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { keep_first_column(); });
+}
+
+int grid_view::laid_out_width(int column) const {
+    const grid_column& laid = model_->grid().columns()[static_cast<std::size_t>(column)];
+    return laid.width * fontMetrics().averageCharWidth() + cell_padding_px;
 }
 
 void grid_view::lay_out_columns() {
     QHeaderView* header = horizontalHeader();
     header->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
     header->setHighlightSections(false);
-    const int character = fontMetrics().averageCharWidth();
     int height = 0;
     for (int c = 0; c < model_->columnCount(); ++c) {
         const grid_column& column = model_->grid().columns()[static_cast<std::size_t>(c)];
         setColumnHidden(c, column.kind == column_kind::carried);
-        const int width = column.width * character + cell_padding_px;
+        const int width = laid_out_width(c);
         setColumnWidth(c, width);
         if (isColumnHidden(c)) continue;
         const QRect room(0, 0, width - cell_padding_px, 1000);
@@ -57,6 +67,17 @@ void grid_view::narrow_column(int column, const QString& widest) {
     setColumnWidth(column, needed + narrow_padding_px);
 }
 
+void grid_view::fit_column(int column) {
+    int width = laid_out_width(column);
+    std::unordered_set<std::string_view> measured;  // a column has few texts, many times over
+    for (int row = 0; row < model_->grid().row_count(); ++row) {
+        const std::string& text = model_->grid().cell(row, column);
+        if (measured.insert(text).second)
+            width = std::max(width, fontMetrics().horizontalAdvance(qt(text)) + cell_padding_px);
+    }
+    setColumnWidth(column, width);
+}
+
 bool grid_view::fits(int column, const QString& text) const {
     return fontMetrics().horizontalAdvance(text) + narrow_padding_px <= columnWidth(column);
 }
@@ -66,6 +87,23 @@ void grid_view::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
     const int others = horizontalHeader()->length() - columnWidth(0);
     setColumnWidth(0, std::max(first_column_px_, viewport()->width() - others));
+    keep_first_column();
+}
+
+// Over half of a narrow grid it would hide more than it tells.
+void grid_view::keep_first_column() {
+    const bool wanted = horizontalScrollBar()->value() > 0 && columnWidth(0) * 2 < viewport()->width();
+    if (!first_ && !wanted) return;
+    if (!first_) first_ = new first_column(*this);
+    first_->place();
+    first_->setVisible(wanted);
+}
+
+void grid_view::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QTableView::scrollTo(index, hint);
+    if (index.column() == 0 || !first_ || !first_->isVisible()) return;
+    const int hidden = columnWidth(0) - visualRect(index).left();
+    if (hidden > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
 }
 
 grid_view::row_range grid_view::selected_rows() const {

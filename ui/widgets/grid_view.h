@@ -1,6 +1,6 @@
 // The grid of every module: arrow keys and Tab move, Enter, F2 or a click chooses a cell, ranges can be
-// selected and copied as tab-separated text. While an entry box is open the grid keeps its selection and
-// takes no input.
+// selected and copied as tab-separated text. The first column stays in view while the others are scrolled.
+// While an entry box is open the grid keeps its selection and takes no input.
 #pragma once
 
 #include <QTableView>
@@ -8,6 +8,8 @@
 #include "ui/widgets/grid_model.h"
 
 namespace kel {
+
+class first_column;
 
 class grid_view : public QTableView {
     Q_OBJECT
@@ -26,12 +28,16 @@ class grid_view : public QTableView {
 
     /// Makes the column as narrow as its heading in one line and this text allow.
     void narrow_column(int column, const QString& widest);
+    /// Makes the column as wide as its longest text needs, at least as wide as it was laid out.
+    void fit_column(int column);
     /// Whether a cell of the column shows the text in full.
     bool fits(int column, const QString& text) const;
 
     /// Shows the grid as it now is and puts the current cell back within it.
     void refresh();
     void choose_cell(int row, int column);
+    /// Not behind the first column, where that is laid over the others.
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
     void set_locked(bool locked);
     bool locked() const { return locked_; }
 
@@ -50,7 +56,10 @@ class grid_view : public QTableView {
     void lay_out_columns();
     void copy_selection() const;
     bool leaves_by_tab(const QKeyEvent* event) const;
+    int laid_out_width(int column) const;
+    void keep_first_column();
     grid_model* model_;
+    first_column* first_ = nullptr;  // made at the first scroll sideways
     bool locked_ = false;
     int first_column_px_ = 0;  // what its heading and cells need
 };
