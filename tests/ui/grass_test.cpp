@@ -1,5 +1,6 @@
 // The grassland screen: both routes through its real widgets, the ways between them, and the keyboard alone.
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTabWidget>
 
 #include <filesystem>
@@ -68,6 +69,9 @@ TEST_F(GrassScreen, TheSiteRouteThroughItsButtons) {
     choose(site, 1, 0, "Site_fieldID", "Low Park");
     EXPECT_EQ(cell(site, 1, 2), "2");
     drive::click_cell(site, 1, 3);
+    // The box is as wide as the longest name in its list.
+    EXPECT_EQ(drive::control<QListWidget>(screen("grass"), "lstSite_pcrop")->horizontalScrollBar()->maximum(),
+              0);
     drive::choose_in_list(screen("grass"), "lstSite_pcrop", "Permanent grass");
     press("grass", "cmdSite_pcrop_enter");
     EXPECT_EQ(cell(site, 1, 4), "6");

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int list_height_px = 220;
 constexpr int slack_px = 4;  // or the scroll bar shows
+constexpr int widest_list_px = 720;
 
 QStringList shown(const std::vector<std::string>& choices) {
     QStringList texts;
@@ -44,7 +46,7 @@ list_editor::list_editor(const QString& name, bool alone, QWidget* parent)
     if (alone_) connect(list_, &QListWidget::itemDoubleClicked, this, &entry_editor::confirmed);
 }
 
-// Among others the list takes no more room than its rows need.
+// Among others the list takes no more room than its rows need. Its box widens to its longest entry.
 void list_editor::show_part(const entry_part& part) {
     list_->clear();
     list_->addItems(shown(part.choices));
@@ -53,6 +55,9 @@ void list_editor::show_part(const entry_part& part) {
     list_->setFixedHeight(alone_ ? list_height_px : std::min(rows_px, list_height_px));
     const bool all_in_view = !alone_ && rows_px <= list_height_px;
     list_->setVerticalScrollBarPolicy(all_in_view ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    const int bar_px = all_in_view ? 0 : list_->verticalScrollBar()->sizeHint().width();
+    const int row_px = list_->sizeHintForColumn(0) + 2 * list_->frameWidth() + slack_px;
+    list_->setMinimumWidth(std::min(row_px + bar_px, widest_list_px));
     show_text(part.text);
 }
 

@@ -153,6 +153,7 @@ bool entry_box::event(QEvent* event) {
 void entry_box::place_beside_cell() {
     // Word-wrapped labels settle their height only once the width is given.
     layout_->activate();
+    setFixedWidth(std::max(box_width_px, layout_->totalMinimumSize().width()));
     const int height = std::max(heightForWidth(minimumWidth()), layout_->totalMinimumSize().height());
     resize(minimumWidth(), std::max(height, sizeHint().height()));
     const QRect cell = grid_.visualRect(grid_.currentIndex());
