@@ -37,6 +37,7 @@ frmStraw::frmStraw(application_state& state, prompts& person, report_desk& desk)
 QWidget* frmStraw::calculator() {
     auto* page = new QWidget(this);
     auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(questions());
     layout->addWidget(results());
     layout->addStretch();
@@ -62,6 +63,7 @@ QWidget* frmStraw::questions() {
     residue_->setObjectName("cboStraw_residue_type");
     residue_->setEditable(true);
     residue_->setInsertPolicy(QComboBox::NoInsert);
+    residue_->setMaximumWidth(280);
     for (const crop_residue& residue : crop_residues())
         residue_->addItem(qt(residue.name));
     soil_n_ = new_number_box("txtStraw_soilN", box);
