@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "core/numbers.h"
 
 namespace kel {
@@ -34,6 +36,15 @@ TEST(Composting, RateIsRoundedBeforeTheReleaseIsWorkedOut) {
         EXPECT_EQ(result->release, c.result.release) << c.residue << " " << c.n;
     }
     EXPECT_FALSE(find_residue("Turnip"));
+}
+
+// Adds up the printed table, whose names stand in their alphabetical order.
+TEST(Composting, ResiduesAreThoseOfTheTable) {
+    float sum = 0;
+    for (const crop_residue& residue : crop_residues())
+        sum += residue.n_kg_per_ha;
+    EXPECT_EQ(sum, 816);
+    EXPECT_TRUE(std::ranges::is_sorted(crop_residues(), {}, &crop_residue::name));
 }
 
 TEST(Composting, SludgeChangesItsLinesAboveTheirBound) {
