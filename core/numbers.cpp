@@ -85,7 +85,8 @@ std::string cut_to_digits(T value, int significant_digits) {
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific,
                                    significant_digits - 1)
                          .ptr;
-    T cut{};
+    // As a double, which holds the digits of a large single that its own type would fill up with noise.
+    double cut{};
     std::from_chars(buffer, end, cut);
     return shortest(cut);
 }

@@ -31,6 +31,7 @@ TEST(Numbers, ShortestTextReadsBackAndNeverUsesAnExponent) {
     EXPECT_EQ(shortest_text(0.1), "0.1");
     EXPECT_EQ(default_text(2.7 * 1.1), "2.97");
     EXPECT_EQ(default_text(58.0F / 1000 * 380), "22.04");
+    EXPECT_EQ(default_text(335544320.0F), "335544300");
     EXPECT_EQ(default_text(1.93 / 100 * 50 * 100), "96.5");
     EXPECT_EQ(shortest_text(std::numeric_limits<float>::infinity()), "0");
     for (const float value : {0.28F, 116.0F, 27.972F, 16777216.0F, 1.17549435e-38F})
