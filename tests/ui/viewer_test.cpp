@@ -1,18 +1,27 @@
 // The viewer: pages, its third button, links, and the screen that comes back.
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QAbstractButton>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QImage>
+#include <QPdfWriter>
 #include <QSignalSpy>
 #include <QTimer>
+#include <atomic>
 #include <filesystem>
+#include <thread>
 
+#include "core/file_error.h"
 #include "core/module_messages.h"
 #include "land/land_messages.h"
 #include "shell/years_messages.h"
 #include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
 #include "ui/widgets/page_view.h"
+#include "ui/widgets/print_page.h"
 
 namespace kel::test {
 
@@ -87,6 +96,41 @@ TEST_F(Viewer, BackTakesOnePressAlsoBehindALinkWithinThePage) {
     write_file(path("first.htm"), "<p>Written anew</p>");
     run->show({path("first.htm"), "Back", 0});
     EXPECT_EQ(page()->toPlainText(), "Written anew");
+}
+
+// Reports hold names as they are typed, so a page may ask for a file that never ends.
+TEST_F(Viewer, PagesGetPlainFilesAndNothingElseAlsoOnPaper) {
+    const std::string pipe = path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    std::atomic<bool> read = false, ended = false;
+    std::thread writer([&] {
+        const int end = open(pipe.c_str(), O_WRONLY);  // waits for a reader
+        read = !ended;
+        close(end);
+    });
+    QImage(40, 40, QImage::Format_RGB32).save(qt(path("plain.bmp")));
+    const page_lines lines{"<p><img src=plain.bmp><img src=pipe>"};
+    write_file(path("page.htm"), lines.front());
+    start();
+    run->show({path("page.htm"), "Back", 0});
+    screen("viewer")->grab();
+    QPdfWriter paper(qt(path("page.pdf")));
+    print_on(paper, *page()->document());
+    const auto size_of_print = std::filesystem::file_size(path("page.pdf"));
+    QPdfWriter other_paper(qt(path("other.pdf")));
+    print_on(other_paper, *page_document(lines, path("")));
+    run->show({pipe, "Back", 0});
+    EXPECT_TRUE(page()->toPlainText().startsWith("There is no page"));
+    EXPECT_FALSE(read);
+    ended = true;
+    const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    writer.join();
+    close(reader);
+    write_file(path("page.htm"), "<p>");
+    run->show({path("page.htm"), "Back", 0});
+    QPdfWriter blank(qt(path("blank.pdf")));
+    print_on(blank, *page()->document());
+    EXPECT_GT(size_of_print, std::filesystem::file_size(path("blank.pdf"))) << "with the plain picture";
 }
 
 TEST_F(Viewer, AMissingPageIsNamedAsItIsSpelled) {
@@ -182,6 +226,19 @@ TEST_F(Viewer, AStorageReportIsSavedWithItsChartAndWithoutOneWhenItHasNone) {
              {"Rain_area", "78.5"}});
     write_store(state);
     start();
+    const std::string chart = path("rep_chart1.bmp");
+    run->open(screen_id::storage);
+    press("storage", "cmdStorage_continue");
+    press("storage", "cmdStores_continue");
+    write_file(chart, "the chart of before");
+    std::filesystem::create_directories(chart + ".new/in the way");
+    person.expect(stop_box(
+        file_error(chart, "the chart could not be written. The folder may be read-only or the disc full.")));
+    click(screen("storage"), "cmdReport");
+    EXPECT_EQ(file_text(chart), "the chart of before");
+    std::filesystem::remove_all(chart + ".new");
+    person.expect(module_messages::close_module, answer::yes);
+    press("storage", "cmdStorage_cancel");
     for (const bool with_stores : {true, false}) {
         const std::string folder = path(with_stores ? "with" : "without");
         std::filesystem::create_directory(folder);

@@ -1,6 +1,7 @@
 #include "ui/widgets/page_view.h"
 
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 
 namespace kel {
@@ -18,6 +19,12 @@ QUrl address_alone(const QUrl& name) {
 }
 
 }  // namespace
+
+QVariant plain_file(const QUrl& url) {
+    QFile file(url.toLocalFile());
+    const bool plain = url.isLocalFile() && QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly);
+    return plain ? file.readAll() : QByteArray();
+}
 
 page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
     setOpenLinks(false);
@@ -48,7 +55,7 @@ bool page_view::follow(const QUrl& url) {
                     .arg(url.toDisplayString().toHtmlEscaped()));
         return true;
     }
-    if (!url.isLocalFile() || !QFileInfo::exists(url.toLocalFile())) {
+    if (!url.isLocalFile() || !QFileInfo(url.toLocalFile()).isFile()) {
         setHtml(tr("<p>There is no page <b>%1</b>.</p>")
                     .arg(url.toDisplayString(QUrl::PreferLocalFile).toHtmlEscaped()));
         return false;
@@ -57,11 +64,8 @@ bool page_view::follow(const QUrl& url) {
     return true;
 }
 
-QVariant page_view::loadResource(int type, const QUrl& name) {
-    const QUrl url = source().resolved(address_alone(name));
-    // Report text is not escaped, so a page may ask for anything: it gets plain files and nothing else.
-    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile() ? QTextBrowser::loadResource(type, url)
-                                                                      : QVariant();
+QVariant page_view::loadResource(int /*type*/, const QUrl& name) {
+    return plain_file(source().resolved(address_alone(name)));
 }
 
 }  // namespace kel

@@ -6,6 +6,10 @@
 
 namespace kel {
 
+/// The bytes of a plain local file, and none of anything else. Report text is not escaped, so a page may ask
+/// for any file, also for one that never ends; an answer without a value would have the toolkit read it.
+QVariant plain_file(const QUrl& url);
+
 class page_view : public QTextBrowser {
     Q_OBJECT
 

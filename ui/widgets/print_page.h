@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <memory>
+#include <string>
 
 #include "reports/report_page.h"
 
+class QPagedPaintDevice;
 class QTextDocument;
 class QWidget;
 
@@ -14,5 +17,10 @@ namespace kel {
 void print_document(const QTextDocument& document, QWidget* parent);
 /// The same for a page that is not shown; its pictures lie in `folder`.
 void print_page(const page_lines& page, const std::string& folder, QWidget* parent);
+
+/// Prints the document on this paper, with the pictures that its viewer would show.
+void print_on(QPagedPaintDevice& paper, const QTextDocument& document);
+/// A page as a document of its own; its pictures lie in `folder`.
+std::unique_ptr<QTextDocument> page_document(const page_lines& page, const std::string& folder);
 
 }  // namespace kel
