@@ -49,6 +49,8 @@ void crop_module::open() {
     const database climate(state_.places.climate_tables());
     load(std::string(winter_rain_default(climate, state_.farm_town).value_or("")));
     sowing_shown_.clear();
+    working_ = {};
+    rain_ = {};
     phase_ = crop_phase::winter_question;
 }
 

@@ -97,6 +97,22 @@ TEST_F(CropFile, AnotherAssessmentBeginsAnewAndTheSameOneLoadsAgain) {
     EXPECT_EQ(module.click(0, col::planned_crop).parts.back().text, "01/10/2025");
 }
 
+// A row that the tables lack goes on from the row before it, but never from another farm's.
+TEST_F(CropFile, AnotherAssessmentBringsNothingOfTheFiguresBefore) {
+    open({{"North", "5"}});
+    add_crop(0, "North", "Kale", "Beans");
+    ASSERT_TRUE(module.calculate());
+    ASSERT_NE(result(0)[crop_result_column::total], "0");
+    state.assess_file = make_farm("other.kel", {{"West", "5"}});
+    store_crop(state.assess_file,
+               {{"Field Area ID", "West"}, {"Next Crop", "BULBS"}, {"Previous or Current Crop", "B"}});
+    ++state.assessment;
+    module.crop_load_stuff();
+    module.enter_winter_rain(dry_winter);
+    ASSERT_TRUE(module.calculate());
+    EXPECT_EQ(result(0)[crop_result_column::total], "0");
+}
+
 TEST_F(CropFile, StoredCellsOfNoKnownMeaningAreTakenAsTheyStand) {
     open_farm({{"North", "5"}});
     store_crop(state.assess_file, {{"Field Area ID", "North"},
