@@ -119,13 +119,24 @@ module_screen* program::module_of(screen_id id) const {
     return qobject_cast<module_screen*>(screen(id));
 }
 
-int program::rows_behind(screen_id id) const {
-    // The profile and its map show a working copy of their own, which is read anew at every opening.
-    const bool of_profile = id == screen_id::profile || id == screen_id::location;
-    if (of_profile) return profile_.loads();
-    // Step 3 works on this year's or on last year's file, as its opener has it.
-    if (id == screen_id::manure) return state_.assessment * 10 + static_cast<int>(state_.manure_caller);
-    return state_.assessment;
+program::rows_key program::rows_behind(screen_id id) const {
+    switch (id) {
+        // They show a working copy of their own, which is read anew at every opening.
+        case screen_id::profile:
+        case screen_id::location:
+            return {profile_.loads(), {}};
+        // Step 3 works on this year's or on last year's file, as its opener has it.
+        case screen_id::manure:
+            if (!for_previous_year(state_.manure_caller)) break;
+            return {state_.assessment, "last year: " + state_.prev1_file};
+        case screen_id::record:
+            return {state_.assessment, state_.prev1_file};
+        case screen_id::years:
+            return {state_.assessment, state_.slot_current};
+        default:
+            break;
+    }
+    return {state_.assessment, {}};
 }
 
 void program::follow_assessment() {
@@ -138,6 +149,7 @@ void program::follow_assessment(screen_id id) {
     const auto found = screens_.find(id);
     if (found == screens_.end() || found->second.rows == rows_behind(id)) return;
     if (id == screen_id::location) return leave(id, screen_id::profile);
+    if (id == screen_id::years) return open_years();
     if (!module_of(id)) return;
     if (state_.assess_file.empty() && id != screen_id::profile) return leave(id, screen_id::front);
     load_anew(id);
@@ -149,6 +161,7 @@ void program::load_anew(screen_id id) {
     screen.rows = rows_behind(id);
     screen.file = stamp_of(state_.assess_file);
     screen.seen = screen.widget->isVisible();
+    screen.opener = state_.manure_caller;
     try {
         module_of(id)->reload_all();
     } catch (...) {
@@ -204,6 +217,7 @@ QWidget* program::make_years(screen_id /*id*/) {
         years, &Year_Picker::closed, this, [this] { leave(screen_id::years, std::nullopt); },
         Qt::QueuedConnection);
     connect(years, &Year_Picker::changed, this, [this] {
+        screens_.at(screen_id::years).rows = rows_behind(screen_id::years);  // its own doing
         follow_assessment();
         refresh_front();
     });
@@ -230,7 +244,7 @@ QWidget* program::make_viewer(screen_id /*id*/) {
 QWidget* program::made(screen_id id) {
     if (QWidget* there = screen(id)) return there;
     const screen_row& row = row_of(id);
-    standing made{nullptr, rows_behind(id), stamp_of(state_.assess_file)};
+    standing made{nullptr, rows_behind(id), stamp_of(state_.assess_file), false, state_.manure_caller};
     made.widget.reset((this->*row.make)(id));
     QWidget* widget = made.widget.get();
     screens_[id] = std::move(made);
@@ -278,13 +292,28 @@ void program::open(screen_id id) {
         const standing& screen = screens_[id];
         if (module_of(id) && !screen.seen && screen.file != stamp_of(state_.assess_file)) load_anew(id);
     }
-    if (id == screen_id::years && !(there && screen(id)->isVisible()))
-        static_cast<Year_Picker*>(screen(id))->open();
+    if (id == screen_id::years && !(there && screen(id)->isVisible())) open_years();
     show_screen(id);
     follow_assessment();
 }
 
+void program::open_years() {
+    static_cast<Year_Picker*>(screen(screen_id::years))->open();
+    screens_.at(screen_id::years).rows = rows_behind(screen_id::years);
+}
+
+// What was typed into Step 3 for one year must not go unasked because the other one's rows are wanted.
+bool program::gives_way(screen_id id) {
+    if (id != screen_id::manure || !in_view(id)) return true;
+    const manure_opener opener = screens_.at(id).opener;
+    const bool same_year = for_previous_year(opener) == for_previous_year(state_.manure_caller);
+    if (same_year || module_of(id)->may_close()) return true;
+    state_.manure_caller = opener;
+    return false;
+}
+
 void program::open_in_place_of(screen_id opener, screen_id id) {
+    if (!gives_way(id)) return;
     open(id);
     if (screen(opener)) screen(opener)->hide();
 }

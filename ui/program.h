@@ -61,12 +61,19 @@ class program : public QObject, public desktop, public report_viewer {
     static std::span<const screen_row> screen_table();
     static const screen_row& row_of(screen_id id);
 
+    /// Which rows a screen shows. Other ones have come to stand behind it when they are no longer equal.
+    struct rows_key {
+        int loads = 0;     // of the assessment
+        std::string file;  // of last year's, or of another that the screen shows besides
+        bool operator==(const rows_key&) const = default;
+    };
     /// A screen in being and what it holds.
     struct standing {
         std::unique_ptr<QWidget> widget;
-        int rows = 0;       // rows_behind as it was when they were loaded
+        rows_key rows;      // rows_behind as it was when they were loaded
         file_stamp file{};  // the same of the file
         bool seen = false;  // in view since: there may be work in it
+        manure_opener opener{};
     };
 
     // The factories of the table.
@@ -86,13 +93,14 @@ class program : public QObject, public desktop, public report_viewer {
     /// time.
     void leave(screen_id id, std::optional<screen_id> back);
     module_screen* module_of(screen_id id) const;
-    /// What moves on when other rows come to stand behind the screen.
-    int rows_behind(screen_id id) const;
+    rows_key rows_behind(screen_id id) const;
     /// Every screen in view shows the assessment that is now open, or goes. Called wherever a person can have
     /// opened another one.
     void follow_assessment();
     void follow_assessment(screen_id id);
     void load_anew(screen_id id);
+    void open_years();
+    bool gives_way(screen_id id);
     void close_viewer();
     void end_without_windows();
     void reload(picker_module caller);

@@ -1,7 +1,9 @@
 // Screens that stand side by side while another assessment is opened, or while another screen saves: none
 // shows or saves one farm's rows over another's, and nothing that was saved is undone.
+#include <QAction>
 #include <QComboBox>
 
+#include "core/module_messages.h"
 #include "profile/profile_messages.h"
 #include "shell/years_messages.h"
 #include "tests/ui/screen_fixture.h"
@@ -134,11 +136,75 @@ TEST_F(AssessmentChange, Step3OpenedForThisYearDoesNotKeepTheRowsOfLastYear) {
     run->state().manure_caller = manure_opener::old_crop;
     run->open(screen_id::manure);
     ASSERT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 0), "Long Rig");
+    person.expect(module_messages::close_module, answer::no);
+    press("front", "cmdFront_manure");
+    EXPECT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 0), "Long Rig");
+    EXPECT_EQ(run->state().manure_caller, manure_opener::old_crop);
+    person.expect(module_messages::close_module, answer::yes);
     press("front", "cmdFront_manure");
     EXPECT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 0), "");
     press("reduction", "cmdReductions_save");
     EXPECT_TRUE(stored("Manure_applic", "Field Area ID").empty());
     EXPECT_EQ(column_of(last, "Manure_applic", "Field Area ID"), texts{"Long Rig"});
+}
+
+// The crops and the assessments screen open the same Step 3.
+TEST_F(AssessmentChange, Step3KeepsWhatWasTypedWhenAnotherScreenOpensItForTheSameYear) {
+    start_with({{"Long Rig", "15"}});
+    add_row(state.assess_file, "Land", {{"Field Area ID", "Long Rig"}, {"January", "15"}});
+    open_beside_front("cmdFront_manure");
+    grid_view* table = grid("reduction", "MSFlexGridReductions");
+    open_box("reduction", "Reductions_fieldID", table, 0, 0);
+    fill_box("reduction", "Reductions_fieldID", "Long Rig");
+    ASSERT_EQ(cell(table, 0, 0), "Long Rig");
+    run->state().manure_caller = manure_opener::new_crop;
+    run->open_in_place_of(screen_id::front, screen_id::manure);
+    EXPECT_EQ(cell(table, 0, 0), "Long Rig");
+    EXPECT_FALSE(in_view("front"));
+}
+
+// Its rows must not be saved into the file that is linked now.
+TEST_F(AssessmentChange, Step3OfLastYearFollowsTheLinkedFile) {
+    const std::string last = make_farm("last.kel", {{"Long Rig", "15"}}, 2023);
+    const std::string other = make_farm("other.kel", {{"Long Rig", "15"}}, 2023);
+    add_row(last, "Manure_applic", {{"Field Area ID", "Long Rig"}, {"Manure Type", "Layer manure"}});
+    start_with({{"Long Rig", "15"}});
+    run->state().prev1_file = run->state().slot_prev1 = last;
+    run->state().manure_caller = manure_opener::old_crop;
+    run->open(screen_id::manure);
+    ASSERT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 3), "Layer manure");
+    press("front", "cmdFront_open");
+    person.expect_file(std::string(years_messages::link_title), other);
+    press("years", "cmdYear_browse2");
+    press("years", "cmdYear_ok");
+    EXPECT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 3), "");
+    press("reduction", "cmdReductions_save");
+    EXPECT_EQ(column_of(last, "Manure_applic", "Manure Type"), texts{"Layer manure"});
+}
+
+// Cancel of the profile goes back to the file that the settings name, which is no longer the one shown.
+TEST_F(AssessmentChange, AStepFollowsFromACopyBackToTheFileOfTheSettings) {
+    start_with({{"Long Rig", "15"}});
+    person.expect_file("Save Farm Assessment As...", path("copy.kel"));
+    screen("front")->findChild<QAction*>("mnuFront_save_as")->trigger();
+    open_beside_front("cmdFront_land");
+    drive::enter_number(screen("land"), grid("land", "MSFlexGridLand"), 0, 1, "Land_area", "10");
+    press("front", "cmdFront_edit");
+    press("profile", "cmdProfile_cancel");
+    ASSERT_EQ(run->state().assess_file, state.assess_file);
+    EXPECT_EQ(cell(grid("land", "MSFlexGridLand"), 0, 1), "");
+}
+
+TEST_F(AssessmentChange, TheYearsDialogDoesNotKeepAFarmThatWasLeft) {
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_open");
+    press("years", "cmdYear_new");
+    press("front", "cmdFront_new");
+    EXPECT_FALSE(drive::control(screen("years"), "fraYear_create")->isVisible());
+    EXPECT_EQ(shown_text("years", "lblYear_farm1"), "");
+    person.expect(years_messages::nothing_opened);
+    press("years", "cmdYear_ok");
+    EXPECT_TRUE(in_view("years"));
 }
 
 // Step 1 is brought into being hidden behind the contents page.

@@ -163,6 +163,7 @@ TEST_F(Hub, NamesThatLookLikeMarkupAreShownAsTheyStand) {
     const std::string name = "<img src=/dev/zero> a field of a name so long that its cell cuts it off";
     start_with({{name, "15"}});
     for (const screen_id id : {screen_id::land, screen_id::storage, screen_id::manure, screen_id::inorganic,
+                               screen_id::crops, screen_id::grass, screen_id::straw, screen_id::record,
                                screen_id::profile, screen_id::years, screen_id::about}) {
         run->open(id);
         drive::settle();

@@ -34,6 +34,8 @@ class module_screen : public QWidget {
     void reload_all();
     /// The screen to show when this one closes.
     virtual screen_id closes_to() const { return screen_id::front; }
+    /// Asks the module's close question.
+    virtual bool may_close() = 0;
 
   signals:
     /// The module was closed.
@@ -43,8 +45,6 @@ class module_screen : public QWidget {
     void help_wanted(const std::string& topic);
 
   protected:
-    /// Asks the module's close question.
-    virtual bool may_close() = 0;
     /// Shows the grids as they now are.
     virtual void refresh() = 0;
     void closeEvent(QCloseEvent* event) override;
