@@ -4,8 +4,8 @@
 
 #include "composting/composting_grid.h"
 #include "composting/composting_messages.h"
-#include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "core/module_save.h"
 #include "core/numbers.h"
 
 namespace kel {
@@ -136,8 +136,9 @@ bool composting_module::import_records(import_mode mode) {
 }
 
 bool composting_module::save() {
-    if (!have_file_to_save(state_, person_, text::cannot_save)) return false;
-    module_save file(state_.assess_file, person_, loaded_);
+    const auto target = file_to_save(state_, person_, text::cannot_save);
+    if (!target) return false;
+    module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
     save_calculations(file.db(), calculations_);
     file.commit();

@@ -2,12 +2,14 @@
 // by reference to everything that needs it.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "core/dates.h"
 #include "core/installation.h"
+#include "core/open_mark.h"
 #include "core/screens.h"
 
 namespace kel {
@@ -45,6 +47,7 @@ struct application_state {
     // Moves on whenever another assessment, or another content, comes to stand behind assess_file. What a
     // screen loaded before belongs to the assessment before.
     int assessment = 0;
+    std::shared_ptr<open_mark> mark = std::make_shared<open_mark>();  // on assess_file; copies share it
 
     // The linked chain, newest first, and which of them is worked on (0 none, 1 to 3).
     std::string slot_current;
@@ -77,6 +80,14 @@ struct application_state {
 /// Day-first formats for every calendar and date box, whatever the machine's locale is.
 void set_short_date(application_state& state);
 void set_long_date(application_state& state);
+
+// Every change of assess_file ends with one of these.
+/// Marks it for other copies of the program, and says if one of them has it open.
+void mark_open_file(const application_state& state, prompts& person);
+/// Goes on in another file with the same rows, which the screens therefore keep.
+void go_on_in(application_state& state, prompts& person, const std::string& path);
+/// No assessment is open any more; the chain stays.
+void close_assessment(application_state& state);
 
 /// Folder in which an assessment file dialog opens: the last one used, or User_files.
 std::string dialog_folder(const application_state& state);

@@ -102,15 +102,15 @@ struct statement_end {
 }  // namespace
 
 struct database::connection {
-    explicit connection(const std::string& path)
+    connection(const std::string& path, const std::string& named)
         : sqlite(path, SQLite::OPEN_READWRITE, busy_timeout_ms), main_file(path) {
         harden(sqlite.getHandle());
-        check_layout(sqlite, "main", path);
+        check_layout(sqlite, "main", named);
     }
 
-    static std::shared_ptr<connection> opened(const std::string& path) {
+    static std::shared_ptr<connection> opened(const std::string& path, const std::string& named) {
         check_file_size(path);
-        return std::make_shared<connection>(path);
+        return std::make_shared<connection>(path, named);
     }
 
     // Prepared once per connection and text; the caller binds and runs it to its end.
@@ -138,8 +138,10 @@ struct database::connection {
     int attached = 0;
 };
 
-database::database(const std::string& path)
-    : shared_(guarded(path, [&] { return connection::opened(path); })), schema_("main"), path_(path) {}
+database::database(const std::string& path, const std::string& named)
+    : shared_(guarded(named, [&] { return connection::opened(path, named); })),
+      schema_("main"),
+      path_(named) {}
 
 database::database(std::shared_ptr<connection> shared, std::string schema, std::string path)
     : shared_(std::move(shared)), schema_(std::move(schema)), path_(std::move(path)) {}

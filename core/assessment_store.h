@@ -23,7 +23,10 @@ class save_transaction;
 class database {
   public:
     /// Opens an existing file for reading and writing.
-    explicit database(const std::string& path);
+    explicit database(const std::string& path) : database(path, path) {}
+    /// The same for a file that is to stand at `named` once it is finished: that is its path, also in
+    /// failures.
+    database(const std::string& path, const std::string& named);
 
     const std::string& path() const;
     /// Opens a second file within this one's transactions.

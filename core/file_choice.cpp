@@ -5,8 +5,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/whole_file.h"
-
 namespace kel {
 
 namespace {
@@ -56,20 +54,6 @@ std::string choose_file_to_save(application_state& state, prompts& person, std::
         with_extension(person, title, person.file_to_save(assessment_request(state, title)), ".kel");
     if (!path.empty()) state.last_dir = folder_of(path);
     return path;
-}
-
-bool have_file_to_save(application_state& state, prompts& person, std::string_view refusal_title) {
-    if (!state.assess_file.empty()) return true;
-    const std::string chosen = choose_file_to_save(state, person, "Save the assessment");
-    if (chosen.empty()) return false;
-    if (!state.prev1_file.empty() && same_file(chosen, state.prev1_file)) {
-        person.tell(
-            {std::string(refusal_title), "This is last years file and cannot be saved to at this time!"});
-        return false;
-    }
-    copy_whole_file(state.places.blank_assessment(), chosen);
-    state.assess_file = chosen;
-    return true;
 }
 
 bool same_file(const std::string& a, const std::string& b) {

@@ -25,13 +25,6 @@ std::string with_extension(prompts& person, std::string_view title, std::string 
 /// Asked where the dialog could not: the extension was added to the name afterwards.
 message replace_file(std::string_view title, std::string_view file_name);
 
-/// What every module's Save does first: whether there is a file to save into. With an assessment open nothing
-/// is asked. Otherwise the file chosen becomes a copy of the empty assessment and is open from then on;
-/// nothing chosen, or last year's file, ends the save. `refusal_title` is the title of the warning for last
-/// year's file. Throws file_error when the file cannot be made.
-bool have_file_to_save(application_state& state, prompts& person,
-                       std::string_view refusal_title = "Cannot Save File");
-
 /// Whether two paths lead to the same file, also by different spellings.
 bool same_file(const std::string& a, const std::string& b);
 

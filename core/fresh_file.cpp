@@ -1,8 +1,13 @@
 #include "core/fresh_file.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <filesystem>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "core/file_error.h"
 
@@ -12,30 +17,56 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::string_view unfinished = ".new";
+constexpr std::string_view unfinished_assessment = ".kel.new";
+
 void throw_if(const std::error_code& trouble, const std::string& target) {
     if (trouble) throw file_error(target, "the file could not be written: " + trouble.message() + ".");
 }
 
 void remove_quietly(const std::string& path) {
     std::error_code ignored;
+    fs::remove(path + "-journal", ignored);
     fs::remove(path, ignored);
+}
+
+bool lock(int file) {
+    return flock(file, LOCK_EX | LOCK_NB) == 0;
 }
 
 }  // namespace
 
 fresh_file::fresh_file(const std::string& from, std::string target)
-    : target_(std::move(target)), path_(target_ + ".new") {
+    : target_(std::move(target)), path_(target_ + std::string(unfinished)) {
+    remove_abandoned_files(fs::path(target_).parent_path().string());
+    held_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (held_ >= 0 && !lock(held_)) {
+        close(held_);
+        throw file_error(target_, "it is in use by another program.", true);
+    }
+    try {
+        make(from);
+    } catch (...) {
+        let_go();
+        throw;
+    }
+}
+
+void fresh_file::make(const std::string& from) {
     std::error_code trouble;
     fs::copy_file(from, path_, fs::copy_options::overwrite_existing, trouble);
     if (!trouble) fs::permissions(path_, fs::perms::owner_write, fs::perm_options::add, trouble);
-    if (trouble) remove_quietly(path_);
     throw_if(trouble, target_);
 }
 
 fresh_file::~fresh_file() {
-    if (placed_) return;
-    remove_quietly(path_ + "-journal");
+    let_go();
+}
+
+void fresh_file::let_go() {
+    if (held_ < 0) return;
     remove_quietly(path_);
+    close(std::exchange(held_, -1));
 }
 
 void fresh_file::put_in_place() {
@@ -44,7 +75,22 @@ void fresh_file::put_in_place() {
     fs::remove(target_ + "-journal", trouble);
     if (!trouble) fs::rename(path_, target_, trouble);
     throw_if(trouble, target_);
-    placed_ = true;
+    close(std::exchange(held_, -1));
+}
+
+void remove_abandoned_files(const std::string& folder) {
+    std::vector<std::string> found;
+    std::error_code trouble;
+    for (fs::directory_iterator entry(folder, trouble), end; !trouble && entry != end;
+         entry.increment(trouble))
+        if (std::string path = entry->path().string(); path.ends_with(unfinished_assessment))
+            found.push_back(std::move(path));
+    for (const std::string& path : found) {
+        const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+        if (file < 0) continue;
+        if (lock(file)) remove_quietly(path);
+        close(file);
+    }
 }
 
 }  // namespace kel

@@ -1,30 +1,39 @@
 // A new assessment made beside its place: it is filled there, and only the finished file takes the place. A
-// failure on the way leaves what stood there, or nothing.
+// failure on the way leaves what stood there, or nothing; what a process that was killed on the way leaves is
+// taken away when another one looks.
 #pragma once
 
 #include <string>
+
+#include "core/assessment_store.h"
 
 namespace kel {
 
 class fresh_file {
   public:
     /// Copies `from`, which must not be open, to a name beside `target`. Throws file_error that names the
-    /// target.
+    /// target, also while another process is making it.
     fresh_file(const std::string& from, std::string target);
     /// Removes the file unless it was put in place.
     ~fresh_file();
     fresh_file(const fresh_file&) = delete;
     fresh_file& operator=(const fresh_file&) = delete;
 
-    /// Where the file lies until it is finished.
-    const std::string& path() const { return path_; }
+    /// Opens the file for being filled; it calls itself by its target.
+    database open() const { return {path_, target_}; }
     /// Puts the file, which must not be open, in its place. Throws file_error.
     void put_in_place();
 
   private:
+    void make(const std::string& from);
+    void let_go();
+
     std::string target_;
     std::string path_;
-    bool placed_ = false;
+    int held_ = -1;  // locked as long as the file is being made
 };
+
+/// Removes from the folder the assessments that nobody is making any more. Never throws.
+void remove_abandoned_files(const std::string& folder);
 
 }  // namespace kel

@@ -34,20 +34,6 @@ bool loaded_rows::may_be_replaced(const std::string& path, prompts& person) cons
     return !changed(database(path)) || person.ask(rows_changed_meanwhile(path)) == answer::yes;
 }
 
-module_save::module_save(const std::string& path, prompts& person, loaded_rows& rows)
-    : db_(path), rows_(rows) {
-    transaction_.emplace(db_);
-    if (!rows.changed(db_)) return;
-    transaction_.reset();  // no other program waits behind the question
-    if (person.ask(rows_changed_meanwhile(path)) == answer::yes) transaction_.emplace(db_);
-}
-
-void module_save::commit() {
-    transaction_->commit();
-    transaction_.reset();
-    rows_.remember(db_);
-}
-
 message rows_changed_meanwhile(const std::string& path) {
     return {"Save",
             "What you are about to save over in the file " + file_name_of(path) +

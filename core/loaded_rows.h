@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -46,24 +45,7 @@ class loaded_rows {
     std::uint64_t digest_ = 0;
 };
 
-/// A module's Save into a file: opens it, asks if its rows have changed since the module loaded them, and
-/// holds the transaction. Nothing is written unless commit is reached. Throws file_error.
-class module_save {
-  public:
-    module_save(const std::string& path, prompts& person, loaded_rows& rows);
-
-    /// False: the person keeps the rows that the file holds, and there is nothing to save into.
-    explicit operator bool() const { return transaction_.has_value(); }
-    const database& db() const { return db_; }
-    void commit();
-
-  private:
-    database db_;
-    loaded_rows& rows_;
-    std::optional<save_transaction> transaction_;
-};
-
-/// Asked by module_save.
+/// Asked before a save over such rows.
 message rows_changed_meanwhile(const std::string& path);
 
 }  // namespace kel

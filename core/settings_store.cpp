@@ -119,6 +119,7 @@ void set_working_files(application_state& state) {
 }
 
 void read_store(application_state& state) {
+    const std::string before = state.assess_file;
     try {
         std::ifstream store(state.places.settings_store(), std::ios::binary);
         read_lines(state, store);
@@ -126,6 +127,7 @@ void read_store(application_state& state) {
     } catch (const std::exception&) {
         forget_all(state);
     }
+    if (state.assess_file != before) ++state.assessment;
 }
 
 void write_store(const application_state& state) {

@@ -21,10 +21,11 @@ bool any_journal_left(const fs::path& list) {
     return false;
 }
 
-std::vector<fs::path> lists_beside(const fs::path& file) {
+std::vector<fs::path> lists_beside(const std::string& path) {
     std::vector<fs::path> lists;
-    const std::string start = file.filename().string() + "-mj";
     std::error_code trouble;
+    const fs::path file = fs::absolute(path, trouble);
+    const std::string start = file.filename().string() + "-mj";
     for (fs::directory_iterator entry(file.parent_path(), trouble), end; !trouble && entry != end;
          entry.increment(trouble))
         if (entry->path().filename().string().starts_with(start)) lists.push_back(entry->path());
@@ -34,11 +35,13 @@ std::vector<fs::path> lists_beside(const fs::path& file) {
 }  // namespace
 
 void remove_spent_super_journals(const std::string& path) {
-    std::error_code trouble;
-    const fs::path file = fs::absolute(path, trouble);
-    if (trouble) return;
-    for (const fs::path& list : lists_beside(file))
-        if (!any_journal_left(list)) fs::remove(list, trouble);
+    std::error_code ignored;
+    for (const fs::path& list : lists_beside(path))
+        if (!any_journal_left(list)) fs::remove(list, ignored);
+}
+
+bool has_super_journal(const std::string& path) {
+    return !lists_beside(path).empty();
 }
 
 }  // namespace kel

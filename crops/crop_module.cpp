@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "core/file_choice.h"
 #include "core/grid_rows.h"
+#include "core/module_save.h"
 #include "crops/crop_messages.h"
 #include "crops/crop_report.h"
 #include "rules/manure_history.h"
@@ -146,11 +146,12 @@ void crop_module::back() {
 }
 
 bool crop_module::save() {
-    if (!have_file_to_save(state_, person_, text::cannot_save_title)) return false;
+    const auto target = file_to_save(state_, person_, text::cannot_save_title);
+    if (!target) return false;
     text_grid crops = crops_;
     for (int row = 0; row < crops.data_row_count(); ++row)
         crops.set_cell(row, crop_column::winter_status, winter_status_);
-    module_save file(state_.assess_file, person_, loaded_);
+    module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
     save_crops(file.db(), crops);
     file.commit();

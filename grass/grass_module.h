@@ -4,13 +4,14 @@
 // by the saves.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/application_state.h"
-#include "core/loaded_rows.h"
+#include "core/module_save.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "grass/grass_farm.h"
@@ -89,8 +90,8 @@ class grass_module {
     void report(report_desk& desk);
 
   private:
-    bool take_save_file();
-    bool save(void (*write)(const database&, const grass_farm&));
+    std::optional<save_target> chosen_target();
+    bool save(const std::optional<save_target>& target, const std::function<void(const database&)>& write);
     void take_saved_livestock();
     void leave_results();
     void save_rec(const text_grid& results);

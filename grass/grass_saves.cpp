@@ -1,6 +1,5 @@
 // What the module writes into the file, and what it takes from another one.
 #include "core/file_choice.h"
-#include "core/whole_file.h"
 #include "grass/grass_messages.h"
 #include "grass/grass_module.h"
 #include "rules/recommendations.h"
@@ -9,55 +8,49 @@ namespace kel {
 
 namespace text = grass_messages;
 
-bool grass_module::take_save_file() {
+std::optional<save_target> grass_module::chosen_target() {
     const std::string chosen = choose_file_to_save(state_, person_, text::save_title);
-    if (chosen.empty()) return false;
+    if (chosen.empty()) return std::nullopt;
     if (!state_.prev1_file.empty() && same_file(chosen, state_.prev1_file)) {
         person_.tell(text::last_years_file);
-        return false;
+        return std::nullopt;
     }
-    if (same_file(chosen, state_.assess_file)) return true;
-    copy_whole_file(state_.assess_file, chosen);
-    state_.assess_file = chosen;
-    return true;
+    if (same_file(chosen, state_.assess_file)) return save_target{state_.assess_file, {}};
+    return save_target{chosen, state_.assess_file};
 }
 
-bool grass_module::save(void (*write)(const database&, const grass_farm&)) {
-    module_save file(state_.assess_file, person_, loaded_);
+bool grass_module::save(const std::optional<save_target>& target,
+                        const std::function<void(const database&)>& write) {
+    if (!target) return false;
+    module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
-    write(file.db(), farm_);
+    write(file.db());
     file.commit();
     return true;
 }
 
 bool grass_module::cmdSite_save() {
-    if (!have_file_to_save(state_, person_)) return false;
-    return save([](const database& db, const grass_farm& farm) { save_site(db, farm.site); });
+    return save(file_to_save(state_, person_), [this](const database& db) { save_site(db, farm_.site); });
 }
 
 bool grass_module::cmdLU_save() {
-    if (!take_save_file()) return false;
-    const bool saved = save([](const database& db, const grass_farm& farm) {
-        save_livestock(db, farm.livestock);
-        save_stocking(db, farm.stocking);
+    const bool saved = save(chosen_target(), [this](const database& db) {
+        save_livestock(db, farm_.livestock);
+        save_stocking(db, farm_.stocking);
     });
     if (saved) take_saved_livestock();
     return saved;
 }
 
 bool grass_module::cmdGrass_SU_save() {
-    if (!take_save_file()) return false;
-    return save([](const database& db, const grass_farm& farm) { save_stocking(db, farm.stocking); });
+    return save(chosen_target(), [this](const database& db) { save_stocking(db, farm_.stocking); });
 }
 
 bool grass_module::cmdGrass_rec_save() {
-    if (!take_save_file()) return false;
-    module_save file(state_.assess_file, person_, loaded_);
-    if (!file) return false;
-    save_silage_rates(file.db(), silage_.plan());
-    file.commit();
-    silage_.keep_rates();
-    return true;
+    const bool saved =
+        save(chosen_target(), [this](const database& db) { save_silage_rates(db, silage_.plan()); });
+    if (saved) silage_.keep_rates();
+    return saved;
 }
 
 void grass_module::save_rec(const text_grid& results) {

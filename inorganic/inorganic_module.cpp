@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "core/module_save.h"
 #include "core/numbers.h"
 #include "inorganic/application_rules.h"
 #include "inorganic/inorganic_messages.h"
@@ -137,8 +137,9 @@ void inorganic_module::delete_row(int row) {
 }
 
 bool inorganic_module::save() {
-    if (!have_file_to_save(state_, person_)) return false;
-    module_save file(state_.assess_file, person_, loaded_);
+    const auto target = file_to_save(state_, person_);
+    if (!target) return false;
+    module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
     inorganic_table::save(file.db(), applications_);
     file.commit();

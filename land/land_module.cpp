@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "core/carried_columns.h"
-#include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "core/module_save.h"
 #include "core/numbers.h"
 #include "land/land_messages.h"
 #include "land/land_report.h"
@@ -237,10 +237,11 @@ void land_module::back() {
 }
 
 bool land_module::save() {
-    if (!have_file_to_save(state_, person_)) return false;
+    const auto target = file_to_save(state_, person_);
+    if (!target) return false;
     text_grid land = land_;
     fill_deductions(land);
-    module_save file(state_.assess_file, person_, loaded_);
+    module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
     if (!land_imported_) take_carried(file.db(), "Land", land, land.data_row_count());
     save_land(file.db(), land);

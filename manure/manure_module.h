@@ -11,7 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
-#include "core/loaded_rows.h"
+#include "core/module_save.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "manure/manure_grids.h"
@@ -85,7 +85,7 @@ class manure_module {
     void recalculate_share(int row);
     outcome recalculate_rate(int row);
     outcome entered(int row);
-    bool have_file();
+    std::optional<save_target> save_file();
     void mark_over_limit(const std::optional<std::vector<dated_rate>>& last_year);
     void fm_closed_rep(const std::vector<int>& closed_rows);
 

@@ -5,7 +5,6 @@
 
 #include "core/file_choice.h"
 #include "core/module_messages.h"
-#include "core/whole_file.h"
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "manure/manure_report.h"
@@ -108,20 +107,19 @@ void manure_module::back() {
     instructions_ = text::instruction;
 }
 
-bool manure_module::have_file() {
-    if (!for_previous_year()) return have_file_to_save(state_, person_, text::this_years_file.title);
-    if (!state_.prev1_file.empty()) return true;
+std::optional<save_target> manure_module::save_file() {
+    if (!for_previous_year()) return file_to_save(state_, person_, text::this_years_file.title);
+    if (!state_.prev1_file.empty()) return save_target{state_.prev1_file, {}};
     const std::string chosen = choose_file_to_save(state_, person_, "Save the assessment");
-    if (chosen.empty()) return false;
-    if (same_file(chosen, state_.assess_file)) return person_.tell(text::this_years_file), false;
-    copy_whole_file(state_.places.blank_assessment(), chosen);
-    state_.prev1_file = chosen;
-    return true;
+    if (chosen.empty()) return std::nullopt;
+    if (same_file(chosen, state_.assess_file)) return person_.tell(text::this_years_file), std::nullopt;
+    return save_target{chosen, state_.places.blank_assessment(), &application_state::prev1_file};
 }
 
 bool manure_module::save() {
-    if (!have_file()) return false;
-    module_save file(for_previous_year() ? state_.prev1_file : state_.assess_file, person_, loaded_);
+    const auto target = save_file();
+    if (!target) return false;
+    module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
     save_applications(file.db(), applications_);
     file.commit();

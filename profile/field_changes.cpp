@@ -196,9 +196,8 @@ bool write_fields(const database& db, const text_grid& fields, const std::vector
 
 }  // namespace
 
-bool save_prof(const std::string& path, const farm_details& farm, const text_grid& fields,
+bool save_prof(const database& db, const farm_details& farm, const text_grid& fields,
                const application_state& state) {
-    const database db(path);
     std::vector<farm_file> files;
     if (any_field_known(fields)) files = open_files(db, state);
     save_transaction save(db);

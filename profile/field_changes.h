@@ -20,11 +20,11 @@ struct field_change {
     std::string soil;
 };
 
-/// Writes [FarmProfile], [Field Data] and [Type].[Year] of the file at `path` (year, zone and town from the
-/// state) and carries the fields' changes through the files of the slots and through the saved file itself.
-/// Rows left by an erased field whose name another field takes go first. All files change together or none.
-/// Returns whether a field's area had changed, so that its land assessment was cleared. Throws file_error.
-bool save_prof(const std::string& path, const farm_details& farm, const text_grid& fields,
+/// Writes [FarmProfile], [Field Data] and [Type].[Year] of the file (year, zone and town from the state) and
+/// carries the fields' changes through the files of the slots and through the saved file itself. Rows left by
+/// an erased field whose name another field takes go first. All files change together or none. Returns
+/// whether a field's area had changed, so that its land assessment was cleared. Throws file_error.
+bool save_prof(const database& db, const farm_details& farm, const text_grid& fields,
                const application_state& state);
 
 /// Renames the field in [Field Data] of a linked file.

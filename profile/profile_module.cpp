@@ -7,6 +7,7 @@
 #include <unordered_set>
 
 #include "core/assessment_files.h"
+#include "core/left_behind.h"
 #include "core/numbers.h"
 #include "core/settings_store.h"
 #include "profile/field_import.h"
@@ -45,6 +46,7 @@ void profile_module::show_location() {
 loaded_profile profile_module::read_profile(const std::string& path) const {
     loaded_profile fresh{
         farm_, fields_, state_.farm_name, state_.farm_zone, state_.farm_town, state_.kel_year_start, loaded_};
+    clear_left_behind(path);
     const database db(path);
     fresh.rows.remember(db);
     if (!read_farm(db, fresh)) person_.tell(messages::data_load_error);
@@ -62,12 +64,7 @@ void profile_module::show_profile(loaded_profile fresh) {
     state_.farm_town = std::move(fresh.farm_town);
     state_.kel_year_start = fresh.kel_year_start;
     if (state_.kel_year_start) year_list_enabled_ = false;
-    mark_open_file();
-}
-
-void profile_module::mark_open_file() {
-    if (const auto computer = mark_.move_to(state_.assess_file))
-        person_.tell(open_elsewhere(state_.assess_file, *computer));
+    mark_open_file(state_, person_);
 }
 
 void profile_module::ass_year() {
@@ -200,16 +197,14 @@ void profile_module::add_pasted(const std::vector<pasted_field>& pasted) {
     if (!rejected.empty()) person_.tell(messages::duplicate_fields(rejected));
 }
 
-void profile_module::cancel() {
+void profile_module::reopen() {
     read_store(state_);
-    if (state_.assess_file.empty()) return;
+    if (state_.assess_file.empty()) return mark_open_file(state_, person_);
     try {
         load_profile();
     } catch (...) {
-        // What the screen still holds belongs to another farm and must not be saved into this file.
-        state_.assess_file.clear();
-        state_.prev1_file.clear();
-        state_.prev2_file.clear();
+        // What the screens still hold belongs to another farm and must not be saved into this file.
+        close_assessment(state_);
         throw;
     }
 }

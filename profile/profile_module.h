@@ -10,7 +10,6 @@
 #include "core/application_state.h"
 #include "core/entry.h"
 #include "core/grid_rows.h"
-#include "core/open_mark.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "profile/farm_profile.h"
@@ -55,8 +54,9 @@ class profile_module {
     /// The two halves of it, for one who has something to do in between that may fail.
     loaded_profile read_profile(const std::string& path) const;
     void show_profile(loaded_profile fresh);
-    /// Marks the open file for other copies of the program, and says if one of them has it open.
-    void mark_open_file();
+    /// Back to the last write of the settings store, and to the file that it names. Throws file_error for
+    /// one that cannot be read; then no assessment is open, and the slots stay.
+    void reopen();
     /// Reads the open file's year into the state. Throws file_error.
     void ass_year();
     void new_farm();
@@ -84,10 +84,8 @@ class profile_module {
     void paste_names_and_sizes(std::string_view clipboard);
     void paste_names(std::string_view clipboard);
 
-    /// Tests, questions and the save. Throws file_error; then nothing is saved and the state is as it was.
+    /// Tests, questions and the save. Throws file_error; then nothing is saved and the same file is open.
     set_profile_result set_profile();
-    /// Back to the last write of the settings store. Throws file_error.
-    void cancel();
     void report(report_desk& desk) const;
 
   private:
@@ -101,7 +99,6 @@ class profile_module {
 
     application_state& state_;
     prompts& person_;
-    open_mark mark_;
     loaded_rows loaded_{loaded_profile{}.rows};
     farm_details farm_;
     text_grid fields_{field_columns};

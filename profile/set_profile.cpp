@@ -68,7 +68,7 @@ set_profile_result profile_module::set_profile() {
         areas_changed = save_new_farm(path);
     } else {
         if (!loaded_.may_be_replaced(state_.assess_file, person_)) return set_profile_result::refused;
-        areas_changed = save_prof(state_.assess_file, farm_, fields_, state_);
+        areas_changed = save_prof(database(state_.assess_file), farm_, fields_, state_);
     }
     loaded_.remember(database(state_.assess_file));
     forget_carried_names();
@@ -82,14 +82,13 @@ bool profile_module::save_new_farm(const std::string& path) {
     application_state chosen = state_;
     for (std::string* link : {&chosen.slot_prev1, &chosen.slot_prev2, &chosen.prev1_file, &chosen.prev2_file})
         link->clear();
-    fresh_file fresh(state_.places.blank_assessment(), path);
-    chosen.slot_current = fresh.path();
-    const bool areas_changed = save_prof(fresh.path(), farm_, fields_, chosen);
-    fresh.put_in_place();
     chosen.slot_current = chosen.assess_file = path;
+    fresh_file fresh(state_.places.blank_assessment(), path);
+    const bool areas_changed = save_prof(fresh.open(), farm_, fields_, chosen);
+    fresh.put_in_place();
     write_store(chosen);
     state_ = chosen;
-    mark_open_file();
+    mark_open_file(state_, person_);
     return areas_changed;
 }
 

@@ -60,11 +60,10 @@ void assessments_module::start_up() {
 }
 
 void assessments_module::new_farm() {
-    for (std::string* path : {&state_.assess_file, &state_.prev1_file, &state_.prev2_file,
-                              &state_.slot_current, &state_.slot_prev1, &state_.slot_prev2})
+    close_assessment(state_);
+    for (std::string* path : {&state_.slot_current, &state_.slot_prev1, &state_.slot_prev2})
         path->clear();
     state_.slot_selected = 0;
-    ++state_.assessment;
     profile_.new_farm();
     open_module(screen_id::profile);
 }
@@ -92,10 +91,9 @@ void assessments_module::save_as() {
 // The slots and the store keep the old path, so that the next start opens the old file again.
 void assessments_module::copy_to(const std::string& target) {
     write_store(state_);
-    if (target == state_.assess_file) return;
+    if (same_file(target, state_.assess_file)) return;
     copy_whole_file(state_.assess_file, target);
-    state_.assess_file = target;
-    profile_.mark_open_file();
+    go_on_in(state_, person_, target);
 }
 
 bool assessments_module::assessment_is_open() {

@@ -10,7 +10,7 @@
 
 namespace kel {
 
-/// read_store; then, if an assessment is open, load_profile and ass_year. A file that cannot be read leaves
+/// The profile's reopen; then, if an assessment is open, ass_year. A file that cannot be read leaves
 /// no assessment open, keeps the slots, and gives the box that says so.
 std::optional<message> reopen_assessment(application_state& state, profile_module& profile);
 

@@ -235,8 +235,7 @@ application_state years_module::moved_chain(bool overwrite) const {
     return moved;
 }
 
-void years_module::write_new_year(const std::string& path) const {
-    const database db(path);
+void years_module::write_new_year(const database& db) const {
     save_transaction save(db);
     write_assessment_year(db, new_date_);
     clear_year_data(db, year_of(new_date_) - year_of(*last_year_), year_data_mode::delete_rows);
@@ -246,13 +245,13 @@ void years_module::write_new_year(const std::string& path) const {
 void years_module::make_new_year(bool overwrite) {
     // To write over a linked file means to go on with it as it is; nothing is copied into it.
     if (overwrite) {
-        write_new_year(new_path_);
-        ++state_.assessment;
+        write_new_year(database(new_path_));
     } else {
         fresh_file fresh(state_.slot_current, new_path_);
-        write_new_year(fresh.path());
+        write_new_year(fresh.open());
         fresh.put_in_place();
     }
+    if (same_file(new_path_, state_.assess_file)) ++state_.assessment;  // it has another content now
     // The profile screen may be open underneath: its Set Profile must not write the old year into the new
     // file.
     go_on_with(moved_chain(overwrite));

@@ -86,7 +86,7 @@ class years_module {
     bool may_link(const std::string& path, const std::string& newer, const message& wrong_year);
     bool may_use_new_file(bool& overwrite);
     void make_new_year(bool overwrite);
-    void write_new_year(const std::string& path) const;
+    void write_new_year(const database& db) const;
     application_state moved_chain(bool overwrite) const;
 
     application_state& state_;

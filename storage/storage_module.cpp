@@ -3,8 +3,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "core/module_save.h"
 #include "core/numbers.h"
 #include "rules/rainfall.h"
 #include "storage/storage_messages.h"
@@ -138,10 +138,11 @@ void storage_module::back() {
 
 bool storage_module::save_storage() {
     if (page_ != storage_page::plan) return false;
-    const bool new_file = state_.assess_file.empty();
-    if (!have_file_to_save(state_, person_, "Cannot Save")) return false;
-    if (stores_.imported() && !stores_.save_imported()) return false;
-    module_save file(state_.assess_file, person_, plan_rows_);
+    const auto target = file_to_save(state_, person_, "Cannot Save");
+    if (!target) return false;
+    const bool new_file = !target->made_from.empty();
+    if (!new_file && stores_.imported() && !stores_.save_imported()) return false;
+    module_save file(state_, person_, plan_rows_, *target);
     if (!file) return false;
     if (new_file) {
         write_store_in(file.db(), rain_mm_, water_.answers());
@@ -151,6 +152,7 @@ bool storage_module::save_storage() {
     save_land_plan(file.db(), plan_.fields());
     save_december_percent(file.db(), plan_.balance());
     file.commit();
+    if (new_file) stores_.take(stores_.stores(), file.db());
     plan_.set_saved();
     return true;
 }

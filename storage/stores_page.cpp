@@ -6,6 +6,7 @@
 
 #include "core/assessment_files.h"
 #include "core/grid_rows.h"
+#include "core/module_save.h"
 #include "core/numbers.h"
 #include "core/record_import.h"
 #include "rules/rainfall.h"

@@ -276,7 +276,6 @@ void program::leave(screen_id id, std::optional<screen_id> back) {
         screens_.erase(found);
     }
     if (back) show_screen(*back);
-    profile_.mark_open_file();  // a module may have saved under another name
     follow_assessment();
     refresh_front();
     end_without_windows();

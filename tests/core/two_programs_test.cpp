@@ -7,7 +7,7 @@
 #include <csignal>
 #include <filesystem>
 
-#include "core/loaded_rows.h"
+#include "core/module_save.h"
 #include "core/open_mark.h"
 #include "core/whole_file.h"
 #include "tests/support/farm_files.h"

@@ -1,4 +1,6 @@
 // What each save leaves in the file, into which file it goes, what a load takes over, and the report.
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <filesystem>
 
 #include "core/module_messages.h"
@@ -75,6 +77,25 @@ TEST_F(grass_file_test, AnotherNameMakesACopyAndLastYearsFileIsRefused) {
     EXPECT_EQ(column_of(first, "LU", "Number of Animals"), texts{""});
     EXPECT_EQ(column_of(state.assess_file, "LU", "Number of Animals"), texts{"9"});
     EXPECT_EQ(column_of(state.assess_file, "Field Data", "Field Name").size(), 2U);
+    EXPECT_TRUE(open_mark().move_to(state.assess_file)) << "marked for other copies of the program";
+}
+
+TEST_F(grass_file_test, ACopyThatCannotBeFilledIsNotGoneOnIn) {
+    open_stored_farm();
+    const std::string first = state.assess_file;
+    module.livestock().enter_number(0, "9");
+    SQLite::Database(first, SQLite::OPEN_READWRITE).exec("DROP TABLE [LU]");
+    expect_save_to(path("copy.kel"));
+    try {
+        module.cmdLU_save();
+        ADD_FAILURE() << "saved";
+    } catch (const file_error& failure) {
+        EXPECT_EQ(failure.file(), path("copy.kel"));
+    }
+    EXPECT_EQ(state.assess_file, first);
+    EXPECT_EQ(module.livestock().table().cell(0, livestock_column::number), "9");
+    for (const char* left : {"copy.kel", "copy.kel.new"})
+        EXPECT_FALSE(std::filesystem::exists(path(left))) << left;
 }
 
 TEST_F(grass_file_test, SavesAskBeforeTheyWriteOverRowsChangedMeanwhile) {

@@ -210,7 +210,7 @@ class KilledSave : public FieldChanges {
         for (const std::string& file : chain())
             fs::copy_file(file + ".master", file, fs::copy_options::overwrite_existing);
     }
-    void save() { save_prof(state.assess_file, profile.farm(), profile.fields(), state); }
+    void save() { save_prof(database(state.assess_file), profile.farm(), profile.fields(), state); }
     /// Saves in a process of its own, which is killed after the time given.
     void save_and_kill(chrono_clock::duration after) {
         const pid_t child = fork();

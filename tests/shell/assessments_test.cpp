@@ -108,6 +108,24 @@ TEST_F(AssessmentsScreen, SaveAsGoesOnInTheCopyAndTheSlotKeepsTheOldFile) {
     EXPECT_EQ(state.last_dir, path("User_files"));
 }
 
+TEST_F(AssessmentsScreen, OtherCopiesAreToldOfTheFileThatIsWorkedOnAndNoOther) {
+    open_farm({{"Long", "4"}});
+    profile.load_profile();
+    const std::string first = state.assess_file, copy = path("copy.kel");
+    const auto marked = [](const std::string& file) { return open_mark().move_to(file).has_value(); };
+    EXPECT_TRUE(marked(first));
+    save_as(copy);
+    EXPECT_TRUE(marked(copy));
+    EXPECT_FALSE(marked(first));
+    run(&front_screen::new_farm);
+    EXPECT_FALSE(marked(copy));
+    open_mark there;
+    there.move_to(first);
+    person.expect(open_elsewhere(first, ""));
+    profile.reopen();
+    person.verify_done();
+}
+
 TEST_F(AssessmentsScreen, SaveAsThatFailsOrWouldReplaceAFileUnaskedKeepsTheOpenFile) {
     open_farm({});
     write_file(path("other.kel"), "precious");

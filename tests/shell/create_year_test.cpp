@@ -108,6 +108,17 @@ TEST_F(CreateYear, WritingOverTheLinkedFileKeepsItsOwnFields) {
     EXPECT_EQ(column_of(y3, "Crops", "Field Area ID"), texts{"Long"});
 }
 
+// Its path stays, but screens that show its old rows must not save them into the new year.
+TEST_F(CreateYear, OntoTheOldestFileThatIsWorkedOnIsAnotherAssessment) {
+    state.slot_prev2 = make_farm("y1.kel", {{"Brae", "3"}}, 2022);
+    state.slot_selected = 3;
+    set_working_files(state);
+    const int before = state.assessment;
+    EXPECT_TRUE(create(state.slot_prev2));
+    EXPECT_EQ(state.assess_file, path("y1.kel"));
+    EXPECT_NE(state.assessment, before);
+}
+
 TEST_F(CreateYear, NeedsACurrentFileAndANewOneAndOpensFreshEachTime) {
     person.expect(text::no_new_file);
     EXPECT_FALSE(years.create());

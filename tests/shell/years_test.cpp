@@ -91,7 +91,7 @@ TEST_F(YearsDialog, FileOfTheDesktopOpensAsByBrowseAndOk) {
     }
     profile.new_farm();
     state.assess_file.clear();
-    profile.cancel();
+    profile.reopen();
     EXPECT_EQ(working(), (texts{other, "", ""}));
     EXPECT_THROW(years.open_from_desktop(make_damaged("bad.kel")), file_error);
     EXPECT_EQ(working(), (texts{other, "", ""}));

@@ -5,8 +5,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <map>
 #include <string_view>
 
+#include "core/installation.h"
 #include "tools/torture/saves.h"
 #include "tools/torture/trouble.h"
 
@@ -18,7 +20,8 @@ struct tally {
     int runs = 0;
     int ended[3] = {};  // by save_end
     int lost = 0;
-    int littered = 0;  // runs that left a file beside, the open mark of a killed process aside
+    int littered = 0;                 // runs that left a file beside, the open mark of a killed process aside
+    std::map<std::string, int> left;  // which, and in how many runs
 };
 
 /// An undisturbed save: what it leaves, and how long it takes.
@@ -44,6 +47,23 @@ bool is_mark(const std::string& path) {
     return path.ends_with(".lock");
 }
 
+// A list of journals has a number of its own in each run.
+std::string kind_of(const std::string& path) {
+    const std::string name = file_name_of(path);
+    const auto number = name.find("-mj");
+    return number == std::string::npos ? name : name.substr(0, number) + "-mj...";
+}
+
+bool note_litter(const whole_save& whole, const folder_content& found, tally& sum) {
+    bool any = false;
+    for (const auto& [path, content] : found) {
+        if (is_mark(path) || whole.after.contains(path)) continue;
+        ++sum.left[kind_of(path)];
+        any = true;
+    }
+    return any;
+}
+
 std::string content_in(const folder_content& folder, const std::string& path) {
     const auto found = folder.find(path);
     return found == folder.end() ? std::string() : found->second;
@@ -64,13 +84,10 @@ void judge(const tortured_save& save, const whole_save& whole, const folder_cont
     const bool mixed = save.all_files_together && any_old && any_new;
     const bool untrue = (end == save_end::completed && any_old) ||
                         (end == save_end::refused && any_new && save.all_files_together);
-    const bool litter = std::any_of(found.begin(), found.end(), [&](const auto& file) {
-        return !is_mark(file.first) && !whole.after.contains(file.first);
-    });
     ++sum.runs;
     ++sum.ended[static_cast<int>(end)];
     sum.lost += any_other || mixed || untrue ? 1 : 0;
-    sum.littered += litter ? 1 : 0;
+    sum.littered += note_litter(whole, found, sum) ? 1 : 0;
 }
 
 std::uintmax_t largest_file(const folder_content& folder) {
@@ -95,6 +112,8 @@ int torture(const tortured_save& save, const tortured_farm& farm, bool kills, in
     std::printf("%-38s %-10s %6d %10d %8d %8d %6d %8d\n", std::string(save.name).c_str(),
                 kills ? "kill" : "full disc", sum.runs, sum.ended[0], sum.ended[1], sum.ended[2], sum.lost,
                 sum.littered);
+    for (const auto& [kind, times] : sum.left)
+        std::printf("    left beside: %s, in %d runs\n", kind.c_str(), times);
     return sum.lost;
 }
 

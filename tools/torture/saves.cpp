@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "core/assessment_files.h"
+#include "core/left_behind.h"
 #include "core/settings_store.h"
 #include "profile/field_changes.h"
 #include "profile/profile_module.h"
@@ -44,7 +45,7 @@ void set_profile(const application_state& opened) {
     for (int row = 0; row < profile.fields().row_count(); ++row)
         profile.enter_name(row, "renamed " + std::string(40, 'x') + std::to_string(row));
     profile.enter_soil(0, profile.fields().row_count() - 1, "Peaty soils");
-    save_prof(state.assess_file, profile.farm(), profile.fields(), state);
+    save_prof(database(state.assess_file), profile.farm(), profile.fields(), state);
 }
 
 void save_step(const application_state& state) {
@@ -100,8 +101,13 @@ void tortured_farm::restore() const {
 
 folder_content tortured_farm::recovered() const {
     folder_content content;
+    std::vector<std::string> farms;
     for (const auto& entry : fs::directory_iterator(folder()))
-        if (entry.path().extension() == ".kel") database(entry.path().string()).open("Type");
+        if (entry.path().extension() == ".kel") farms.push_back(entry.path().string());
+    for (const std::string& farm : farms) {
+        clear_left_behind(farm);
+        database(farm).open("Type");
+    }
     for (const auto& entry : fs::directory_iterator(folder()))
         content[entry.path().string()] = content_of(entry.path());
     return content;

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include "profile/profile_messages.h"
@@ -199,8 +200,8 @@ void frmProfile::set_profile() {
 
 void frmProfile::cancel() {
     // The assessments screen comes back even if the last assessment cannot be read any more.
-    emit left();
-    module_.cancel();
+    const auto back = qScopeGuard([this] { emit left(); });
+    module_.reopen();
 }
 
 bool frmProfile::eventFilter(QObject* watched, QEvent* event) {

@@ -1,0 +1,58 @@
+#include "core/module_save.h"
+
+#include "core/file_choice.h"
+
+namespace kel {
+
+std::optional<save_target> file_to_save(application_state& state, prompts& person,
+                                        std::string_view refusal_title) {
+    if (!state.assess_file.empty()) return save_target{state.assess_file, {}};
+    const std::string chosen = choose_file_to_save(state, person, "Save the assessment");
+    if (chosen.empty()) return std::nullopt;
+    if (!state.prev1_file.empty() && same_file(chosen, state.prev1_file)) {
+        person.tell(
+            {std::string(refusal_title), "This is last years file and cannot be saved to at this time!"});
+        return std::nullopt;
+    }
+    return save_target{chosen, state.places.blank_assessment()};
+}
+
+module_save::module_save(const std::string& path, prompts& person, loaded_rows& rows)
+    : person_(person), rows_(rows) {
+    begin(path);
+}
+
+module_save::module_save(application_state& state, prompts& person, loaded_rows& rows,
+                         const save_target& target)
+    : target_(target), state_(&state), person_(person), rows_(rows) {
+    if (target.made_from.empty()) {
+        begin(target.path);
+    } else {
+        fresh_.emplace(target.made_from, target.path);
+        transaction_.emplace(db_.emplace(fresh_->open()));
+    }
+}
+
+void module_save::begin(const std::string& path) {
+    transaction_.emplace(db_.emplace(path));
+    if (!rows_.changed(*db_)) return;
+    transaction_.reset();  // no other program waits behind the question
+    if (person_.ask(rows_changed_meanwhile(path)) == answer::yes) transaction_.emplace(*db_);
+}
+
+void module_save::commit() {
+    transaction_->commit();
+    transaction_.reset();
+    if (fresh_) put_in_place();
+    rows_.remember(*db_);
+}
+
+void module_save::put_in_place() {
+    db_.reset();
+    fresh_->put_in_place();
+    db_.emplace(target_.path);
+    state_->*target_.worked_on = target_.path;
+    mark_open_file(*state_, person_);
+}
+
+}  // namespace kel
