@@ -59,7 +59,9 @@ page_lines grass_report(const text_grid& site, const text_grid& results, const m
         const std::string& field = results.cell(row, result::field);
         append(body, report_section(field));
         append(body, site_table(site, row));
-        append(body, manures_section(manures.of(field), "Date Of Application"));
+        const auto applied = manures.of(field);
+        append(body, manures_section(applied, "Date Of Application"));
+        if (!applied.empty()) append(body, {"<br>"});  // or the two tables stand as one
         append(body, result_table(results, row));
     }
     if (results.row_count() > 0 && !figures_source.empty()) append(body, report_paragraph(figures_source));
