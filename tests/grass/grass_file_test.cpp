@@ -213,6 +213,8 @@ TEST_F(grass_file_test, TheSilageTableIsReportedForAsLongAsItsFieldsStand) {
     expect_save_to(state.assess_file);
     module.cmdLU_save();
     EXPECT_EQ(reported(), 0);
+    load();
+    EXPECT_EQ(module.silage().table().row_count(), 0);
 }
 
 TEST_F(grass_file_test, RowsOfUnknownFieldsAreToldAndLeftOut) {

@@ -153,9 +153,10 @@ TEST(MoveFeed, TakesATenthFromOneFieldAndGivesItToTheOther) {
 TEST(MoveFeed, ANoteStaysWhenTheRequirementFallsToNothing) {
     auto plan =
         fill_silage_table({silage("Long Rig", "1", "3", "2.05"), silage("Haugh", "0", "3", "2")}, 100);
-    plan.rows[0].lus_fed_from_silage = "2.05";
+    plan.rows[0].lus_fed_from_silage = "2.1";
     ASSERT_EQ(plan.rows[0].notes, "1 cut");
     move_feed(plan, "Long Rig", "Haugh", {3, 3});
+    EXPECT_EQ(plan.rows[0].lus_fed_from_silage, "2");
     EXPECT_EQ(plan.rows[0].n_kg_per_ha, "0");
     EXPECT_EQ(plan.rows[0].notes, "1 cut");
     EXPECT_EQ(plan.without_area, texts{"Haugh"});

@@ -239,6 +239,7 @@ TEST_F(grass_test, ClearAndDeleteTakeTheirColumns) {
     EXPECT_EQ(cell(0, col::previous) + cell(0, col::residue_group), "");
     EXPECT_EQ(cell(0, col::season_end), "01/10/2024");
     site().clear_field(0);
+    site().set_site_classes();
     EXPECT_EQ(cell(0, col::field) + cell(0, col::soil) + cell(0, col::site_class), "");
     EXPECT_EQ(cell(0, col::manure_current), "5");
     person.expect(module_messages::cannot_delete);
@@ -279,6 +280,8 @@ TEST_F(grass_test, LeavingTheResultsStoresTheRecommendations) {
     module.back();
     EXPECT_EQ(column_of(state.assess_file, "Recommendations", "N required"), (texts{"2", "89.8"}));
     module.calculate();
+    load();
+    EXPECT_EQ(site().results().row_count(), 0);
     site().enter_manure(0, col::manure_current, "0");
     person.expect(module_messages::close_the_module, answer::no);
     EXPECT_FALSE(module.close());

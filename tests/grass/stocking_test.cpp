@@ -12,7 +12,7 @@ class stocking_test : public grass_test {
   protected:
     void open_two_fields() {
         open_farm({{"Low Park", "20"}, {"Haugh", "10"}});
-        add_site("Low Park", {{"Field Area Size (ha)", "20"}});
+        add_site("Low Park", {{"Field Area Size (ha)", "20"}, {"LUs Fed By Grazing", "7"}});
         add_site("Haugh");
         add_lu("Dairy cows", "100");
         load();
@@ -95,6 +95,8 @@ TEST_F(stocking_test, SilageTakesTheGroupsOfAFieldAndTheSiteTableShowsIt) {
     page.enter_use(0, "Silage production");
     EXPECT_EQ(stocking(0, su::use), "Silage");
     EXPECT_EQ(stocking(0, su::first_group) + stocking(0, su::first_group + 29), "");
+    EXPECT_EQ(stocking(0, su::grazing_lus), "7");
+    EXPECT_EQ(page.click(0, su::use).parts[0].text, "Silage production");
     module.back();
     module.to_stock();
     EXPECT_EQ(stocking(0, su::use), "Silage");
@@ -116,10 +118,14 @@ TEST_F(stocking_test, ContinueTellsTheAverageRateAndTurnsToTheStocking) {
 
 TEST_F(stocking_test, ContinueWithoutStockOrFieldsOnlySaves) {
     open({{"Low Park", "10"}});
+    site().enter_field(0, "Low Park");
     module.to_stock();
     expect_save_to(state.assess_file);
     module.cmdLU_continue();
     EXPECT_EQ(module.tab(), stock_tab::livestock);
+    module.back();
+    site().erase_row(0);
+    module.to_stock();
     module.livestock().enter_type(0, "Horses");
     expect_save_to(state.assess_file);
     module.cmdLU_continue();
@@ -154,6 +160,22 @@ TEST_F(stocking_test, ContinueOfTheStockingFillsTheSilageTable) {
     EXPECT_EQ(stocking(1, su::silage_rate), "4.00");
 }
 
+TEST_F(stocking_test, AnUnknownStockTypeTakesTheRatioWorkedWithLast) {
+    open_two_fields();
+    stocking_page& page = module.stocking();
+    page.enter_use(0, "Grazing");
+    page.enter_type(0, su::first_group, "Llamas");
+    page.enter_number(0, su::first_group + 1, "10");
+    page.enter_time(0, su::first_group + 2, "100");
+    page.enter_type(0, su::first_group + 3, "Dairy bulls");
+    module.livestock().enter_type(0, "Horses");
+    for (const char* grazed : {"8.00", "6.50"}) {
+        expect_save_to(state.assess_file);
+        module.cmdSU_continue();
+        EXPECT_EQ(silage(0, silage_column::lus_fed_by_grazing), grazed);
+    }
+}
+
 TEST_F(stocking_test, FieldsWithoutAnAreaAreNamedInOneMessage) {
     open_farm({{"Nook", ""}, {"Bog", "0"}, {"Haugh", "10"}});
     add_site("Nook", {{"Site Use", "Grazing"}});
@@ -170,6 +192,8 @@ TEST_F(stocking_test, FieldsWithoutAnAreaAreNamedInOneMessage) {
 
 TEST_F(stocking_test, FeedMovesBetweenTwoDifferentSilageFields) {
     open_two_fields();
+    module.confirm_altitude(1);  // class 3
+    module.to_stock();
     expect_save_to(state.assess_file);
     module.cmdSU_continue();
     silage_page& page = module.silage();
@@ -183,6 +207,7 @@ TEST_F(stocking_test, FeedMovesBetweenTwoDifferentSilageFields) {
     EXPECT_EQ(silage(0, silage_column::lus_fed_from_silage), "66.77");
     EXPECT_EQ(silage(1, silage_column::lus_fed_from_silage), "33.23");
     EXPECT_EQ(silage(1, silage_column::lus_per_ha), "3.32");
+    EXPECT_EQ(silage(1, silage_column::n_kg_per_ha), "330");
     EXPECT_TRUE(page.varying());
     module.back();
     EXPECT_FALSE(page.varying());
