@@ -225,6 +225,49 @@ TEST_F(GrassScreen, MovingFeedAndAnotherDatabase) {
     EXPECT_TRUE(in_view("grass"));
 }
 
+TEST_F(GrassScreen, ClearCellEmptiesWhatItsBoxIsAbout) {
+    start_farm({{"Manure current", "12"},
+                {"Manure previous", "3"},
+                {"End of season date", "2024-10-31"},
+                {"Site Use", "Grazing"},
+                {"Livestock Group 1 (Type)", "Horses"},
+                {"Livestock Group 1 (Number)", "9"},
+                {"Livestock Group 1 (% Year Grazed)", "50"}});
+    answer_opening();
+    // Clears the cell and says which columns of the row, up to the last named, still hold a text.
+    const auto left_by = [&](grid_view* in, int column, const std::string& box, int last) {
+        drive::click_cell(in, 0, column);
+        press("grass", ("cmd" + box + "_clear").c_str());
+        std::string columns;
+        for (int c = column == 0 ? 0 : 1; c <= last; ++c)
+            if (!cell(in, 0, c).empty()) columns += std::to_string(c) + " ";
+        return columns;
+    };
+    grid_view* site = table("MSFlexGridSite");
+    EXPECT_EQ(left_by(site, 10, "Site_manure", 12), "1 2 3 4 5 6 7 8 9 11 12 ");
+    EXPECT_EQ(left_by(site, 11, "Site_pmanure", 12), "1 2 3 4 5 6 7 8 9 12 ");
+    press("grass", "cmdSite_stocking");
+    grid_view* livestock = table("MSFlexGridGrass_LU");
+    choose(livestock, 0, 0, "LU_type", "Horses");
+    drive::enter_number(screen("grass"), livestock, 0, 1, "LU_number", "9");
+    drive::enter_number(screen("grass"), livestock, 0, 2, "LU_time", "80");
+    expect_save();
+    press("grass", "cmdLU_save");
+    EXPECT_EQ(column_of(state.assess_file, "LU", "Livestock Units"), texts{"5.76"});
+    EXPECT_EQ(left_by(livestock, 2, "LU_time", 3), "1 3 ");
+    EXPECT_EQ(left_by(livestock, 1, "LU_number", 3), "3 ");
+    EXPECT_EQ(left_by(livestock, 0, "LU_type", 3), "3 ");
+    drive::control<QTabWidget>(screen("grass"), "SSTabGrass")->setCurrentIndex(1);
+    grid_view* stocking = table("MSFlexGridSU");
+    EXPECT_EQ(left_by(stocking, 7, "SU_time", 7), "1 2 3 4 5 6 ");
+    EXPECT_EQ(left_by(stocking, 6, "SU_number", 7), "1 2 3 4 5 ");
+    EXPECT_EQ(left_by(stocking, 5, "SU_type", 7), "1 2 3 4 ");
+    press("grass", "cmdSU_back");
+    EXPECT_EQ(left_by(site, 5, "Site_clover", 12), "1 2 3 4 12 ");
+    EXPECT_EQ(left_by(site, 3, "Site_pcrop", 12), "1 2 12 ");
+    EXPECT_EQ(left_by(site, 0, "Site_fieldID", 12), "12 ");
+}
+
 // The farm's mark of being open goes with the file that a save has made the open one.
 TEST_F(GrassScreen, ASaveUnderAnotherNameIsTheOpenFileFromThenOn) {
     start_farm();
