@@ -1,6 +1,7 @@
 // The grassland screen: both routes through its real widgets, the ways between them, and the keyboard alone.
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include <filesystem>
@@ -142,6 +143,7 @@ TEST_F(GrassScreen, TheStockingRouteForwardAndBack) {
     drive::enter_number(screen("grass"), livestock, 0, 2, "LU_time", "100");
     choose(livestock, 1, 0, "LU_type", "Horses");
     drive::click_cell(livestock, 1, 0);
+    EXPECT_FALSE(drive::control<QTabWidget>(screen("grass"), "SSTabGrass")->tabBar()->isEnabled());
     press("grass", "cmdLU_type_erase");
     expect_save();
     press("grass", "cmdLU_save");
