@@ -49,35 +49,25 @@ class DamagedGrassTables : public farm_test {
     const std::string copy = path("tables.mdb");
 };
 
-TEST_F(DamagedGrassTables, NoNumberIsRefused) {
-    set("Grass_Recs", "Group 3", "55 kg");
-    EXPECT_EQ(refusal(),
-              "in the table [Grass_Recs] the cell Clover High, Site Class 2, Group 3 is no number: 55 kg.");
-}
-
-TEST_F(DamagedGrassTables, NoFiniteNumberIsRefused) {
-    set("Grass_Recs", "Group 3", "inf");
-    EXPECT_NE(refusal().find("Group 3 is no number: inf."), std::string::npos);
-}
-
-TEST_F(DamagedGrassTables, AnEmptyFigureIsRefused) {
-    set("Grass_adjust", "Adjustment", "");
-    EXPECT_EQ(refusal(),
-              "in the table [Grass_adjust] the cell Clover High, Management Grazing, Cuts 0, Apps 1 has no "
-              "figure.");
-}
-
-TEST_F(DamagedGrassTables, ADoubledRowIsRefused) {
-    set("Grass_Recs", "Site Class", "1");
-    EXPECT_EQ(refusal(),
-              "in the table [Grass_Recs] the cell Clover High, Site Class 1, Group 1 is there twice.");
-}
-
-TEST_F(DamagedGrassTables, AMissingRowIsRefused) {
-    set("Grass_adjust", "Apps", "7");
-    EXPECT_EQ(
-        refusal(),
-        "in the table [Grass_adjust] the cell Clover High, Management Grazing, Cuts 0, Apps 1 is missing.");
+// The second row of a table is changed: High, class 2, or High, grazing with one application.
+TEST_F(DamagedGrassTables, AreRefusedWithTheNameOfTheCell) {
+    const struct {
+        const char* table;
+        const char* column;
+        const char* text;
+        const char* told;
+    } damages[] = {
+        {"Grass_Recs", "Group 3", "55 kg", "Site Class 2, Group 3 is no number: 55 kg."},
+        {"Grass_Recs", "Group 3", "inf", "Site Class 2, Group 3 is no number: inf."},
+        {"Grass_Recs", "Site Class", "1", "Site Class 1, Group 1 is there twice."},
+        {"Grass_adjust", "Adjustment", "", "Management Grazing, Cuts 0, Apps 1 has no figure."},
+        {"Grass_adjust", "Apps", "7", "Management Grazing, Cuts 0, Apps 1 is missing."},
+    };
+    for (const auto& d : damages) {
+        copy_whole_file(built, copy);
+        set(d.table, d.column, d.text);
+        EXPECT_EQ(refusal(), std::string("in the table [") + d.table + "] the cell Clover High, " + d.told);
+    }
 }
 
 TEST_F(DamagedGrassTables, AnAdvisersTablesGoBeforeTheProgramsOwn) {

@@ -229,19 +229,13 @@ TEST_F(grass_test, TheManureModuleOpensForThisOrForLastYear) {
     EXPECT_EQ(shown.opened.back(), std::pair(screen_id::grass, screen_id::manure));
 }
 
-TEST_F(grass_test, ClearAndDeleteTakeTheirColumns) {
+TEST_F(grass_test, ARowWithoutAFieldHasNoClassAndTheLastRowStays) {
     open_farm({{"Low Park", "10"}});
-    add_site("Low Park", {{"Manure current", "5"}, {"End of season date", "2024-10-01"}});
+    add_site("Low Park");
     load();
-    site().clear_clover(0);
-    EXPECT_EQ(cell(0, col::use) + cell(0, col::adjustment), "");
-    site().clear_previous(0);
-    EXPECT_EQ(cell(0, col::previous) + cell(0, col::residue_group), "");
-    EXPECT_EQ(cell(0, col::season_end), "01/10/2024");
     site().clear_field(0);
     site().set_site_classes();
     EXPECT_EQ(cell(0, col::field) + cell(0, col::soil) + cell(0, col::site_class), "");
-    EXPECT_EQ(cell(0, col::manure_current), "5");
     person.expect(module_messages::cannot_delete);
     EXPECT_FALSE(site().erase_row(1).closes);
     EXPECT_TRUE(site().erase_row(0).closes);
