@@ -1,0 +1,66 @@
+#include "core/store_connection.h"
+
+#include <algorithm>
+
+namespace kel::store {
+
+namespace {
+
+std::string trouble_of(const SQLite::Exception& e) {
+    switch (e.getErrorCode()) {
+        case SQLITE_NOTADB:
+            return "it is not an assessment file, or it is damaged.";
+        case SQLITE_CORRUPT:
+            return "the file is damaged.";
+        case SQLITE_CANTOPEN:
+            return "it cannot be opened. It may have been deleted, moved or protected.";
+        case SQLITE_READONLY:
+            return "it cannot be written. The file or its folder is read-only.";
+        case SQLITE_FULL:
+            return "the disc is full.";
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return "it is in use by another program.";
+        case SQLITE_IOERR:
+            return "it cannot be read or written. The disc may be full or gone.";
+        case SQLITE_TOOBIG:
+            return "it holds a text that is too long.";
+        default:
+            return std::string(e.what()) + ".";
+    }
+}
+
+// An empty file and another program's are databases too.
+std::string missing_table(const SQLite::Exception& e) {
+    const std::string_view what = e.what();
+    if (what.rfind("no such table: ", 0) != 0) return {};
+    const auto table = what.substr(what.find('.') + 1);
+    return "it is no assessment: it has no table [" + std::string(table) + "].";
+}
+
+bool is_in_use(const SQLite::Exception& e) {
+    return e.getErrorCode() == SQLITE_BUSY || e.getErrorCode() == SQLITE_LOCKED;
+}
+
+char lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+}  // namespace
+
+file_error failure_of(const std::string& path, const SQLite::Exception& e) {
+    const std::string missing = missing_table(e);
+    return {path, missing.empty() ? trouble_of(e) : missing, is_in_use(e)};
+}
+
+std::string bracketed(std::string_view name) {
+    std::string quoted = "[";
+    return quoted.append(name).append("]");
+}
+
+bool same_name(std::string_view a, std::string_view b) {
+    return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                                [](char x, char y) { return lower(x) == lower(y); });
+}
+
+}  // namespace kel::store
