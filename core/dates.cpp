@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
 
 namespace kel {
 
@@ -15,10 +14,10 @@ constexpr std::array<std::string_view, 12> month_names{"January",   "February", 
 constexpr std::array<std::string_view, 7> weekday_names{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                         "Thursday", "Friday", "Saturday"};
 
-std::string formatted(const char* pattern, int a, int b, int c) {
-    char buffer[40];
-    std::snprintf(buffer, sizeof buffer, pattern, a, b, c);
-    return buffer;
+std::string padded(int number, std::size_t digits) {
+    std::string text = std::to_string(number);
+    if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+    return text;
 }
 
 // The first four parts of a text; `count` is that of all.
@@ -27,18 +26,22 @@ struct date_parts {
     std::size_t count = 0;
 };
 
+bool is_separator(char c) {
+    return c == '/' || c == '-' || c == '.' || c == ' ';
+}
+
+// In one pass: the load of a large farm reads thousands of dates.
 date_parts split_date(std::string_view text) {
     date_parts parts;
-    constexpr std::string_view separators = "/-. ";
-    while (true) {
-        const auto start = text.find_first_not_of(separators);
-        if (start == std::string_view::npos) return parts;
-        text.remove_prefix(start);
-        const auto end = std::min(text.find_first_of(separators), text.size());
-        if (parts.count < parts.part.size()) parts.part[parts.count] = text.substr(0, end);
-        ++parts.count;
-        text.remove_prefix(end);
+    std::size_t start = 0;
+    for (std::size_t at = 0; at <= text.size(); ++at) {
+        if (at < text.size() && !is_separator(text[at])) continue;
+        if (at > start && parts.count < parts.part.size())
+            parts.part[parts.count] = text.substr(start, at - start);
+        if (at > start) ++parts.count;
+        start = at + 1;
     }
+    return parts;
 }
 
 std::optional<int> whole_number(std::string_view text) {
@@ -49,9 +52,10 @@ std::optional<int> whole_number(std::string_view text) {
 }
 
 std::optional<int> month_number(std::string_view text) {
+    if (const auto number = whole_number(text)) return number;
     for (int m = 1; m <= 12; ++m)
         if (text == month_name(m)) return m;
-    return whole_number(text);
+    return std::nullopt;
 }
 
 std::string fixed_day(int day, int year) {
@@ -76,16 +80,15 @@ int day_of(date d) {
 }
 
 std::string short_date_text(date d) {
-    return formatted("%02d/%02d/%04d", day_of(d), month_of(d), year_of(d));
+    return padded(day_of(d), 2) + "/" + padded(month_of(d), 2) + "/" + padded(year_of(d), 4);
 }
 
 std::string long_date_text(date d) {
-    return formatted("%02d", day_of(d), 0, 0) + " " + std::string(month_name(month_of(d))) + " " +
-           formatted("%04d", year_of(d), 0, 0);
+    return padded(day_of(d), 2) + " " + std::string(month_name(month_of(d))) + " " + padded(year_of(d), 4);
 }
 
 std::string iso_date_text(date d) {
-    return formatted("%04d-%02d-%02d", year_of(d), month_of(d), day_of(d));
+    return padded(year_of(d), 4) + "-" + padded(month_of(d), 2) + "-" + padded(day_of(d), 2);
 }
 
 std::optional<date> parse_date(std::string_view text) {
