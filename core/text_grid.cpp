@@ -1,5 +1,6 @@
 #include "core/text_grid.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "core/numbers.h"
@@ -13,11 +14,13 @@ std::size_t at(int i) {
 }  // namespace
 
 const std::string& text_grid::cell(int row, int column) const {
-    return rows_.at(at(row)).at(at(column));
+    return rows_.at(at(row))->at(at(column));
 }
 
 void text_grid::set_cell(int row, int column, std::string text) {
-    rows_.at(at(row)).at(at(column)) = std::move(text);
+    std::shared_ptr<cells>& own = rows_.at(at(row));
+    if (own.use_count() > 1) own = std::make_shared<cells>(*own);
+    own->at(at(column)) = std::move(text);
 }
 
 float text_grid::number(int row, int column) const {
@@ -25,7 +28,7 @@ float text_grid::number(int row, int column) const {
 }
 
 int text_grid::add_row() {
-    rows_.emplace_back(columns_.size());
+    rows_.push_back(empty_row());
     return row_count() - 1;
 }
 
@@ -35,11 +38,20 @@ void text_grid::erase_row(int row) {
 }
 
 void text_grid::set_row_count(int rows) {
-    rows_.resize(at(rows), std::vector<std::string>(columns_.size()));
+    rows_.reserve(at(rows));
+    while (row_count() < rows)
+        rows_.push_back(empty_row());
+    rows_.resize(at(rows));
 }
 
 void text_grid::keep_entry_row(int row) {
     if (row == row_count() - 1) add_row();
+}
+
+bool text_grid::operator==(const text_grid& other) const {
+    return std::equal(
+        rows_.begin(), rows_.end(), other.rows_.begin(), other.rows_.end(),
+        [](const auto& ours, const auto& theirs) { return ours == theirs || *ours == *theirs; });
 }
 
 int text_grid::find(int column, std::string_view text) const {

@@ -3,6 +3,7 @@
 // empty entry row, which is neither saved nor counted.
 #pragma once
 
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -57,11 +58,17 @@ class text_grid {
     /// Single precision sum of a column over the first `rows` rows.
     float sum(int column, int rows) const;
 
-    bool operator==(const text_grid& other) const { return rows_ == other.rows_; }
+    bool operator==(const text_grid& other) const;
 
   private:
+    using cells = std::vector<std::string>;
+
+    std::shared_ptr<cells> empty_row() const { return std::make_shared<cells>(columns_.size()); }
+
     std::span<const grid_column> columns_;
-    std::vector<std::vector<std::string>> rows_;
+    // Shared with the copies of the grid until one of them is written to: a Save works on a copy, and mostly
+    // changes few of its rows.
+    std::vector<std::shared_ptr<cells>> rows_;
 };
 
 }  // namespace kel
