@@ -1,7 +1,6 @@
 #include "core/assessment_store.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "core/store_connection.h"
@@ -11,23 +10,31 @@ namespace kel {
 
 using store::bracketed;
 using store::guarded;
+using store::listed;
 
 namespace {
 
-// A word at a time: a save waits for it.
-std::uint64_t mixed(std::uint64_t digest, std::string_view text) {
-    constexpr std::uint64_t prime = 0x9e3779b97f4a7c15U;
-    const auto mix = [&](std::uint64_t word) {
-        digest = (digest ^ word) * prime;
-        digest ^= digest >> 32U;
-    };
-    mix(text.size());  // "ab", "c" is not "a", "bc"
-    for (; !text.empty(); text.remove_prefix(std::min(text.size(), sizeof(std::uint64_t)))) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, text.data(), std::min(text.size(), sizeof word));
-        mix(word);
+std::vector<std::uint64_t> all_of(const column_digests& digests) {
+    std::vector<std::uint64_t> all;
+    all.reserve(static_cast<std::size_t>(digests.columns()));
+    for (int column = 0; column < digests.columns(); ++column)
+        all.push_back(digests.of(column));
+    return all;
+}
+
+// Of these columns or of all; none if one of them is not there, or if no row is.
+std::vector<std::uint64_t> digests_of(const store::emptied_table& table,
+                                      const std::vector<std::string_view>& columns) {
+    if (table.names.empty() || columns.empty()) return all_of(table.digests);
+    std::vector<std::uint64_t> chosen;
+    chosen.reserve(columns.size());
+    for (const std::string_view column : columns) {
+        const auto named = [column](const std::string& name) { return store::same_name(name, column); };
+        const auto found = std::find_if(table.names.begin(), table.names.end(), named);
+        if (found == table.names.end()) return {};
+        chosen.push_back(table.digests.of(static_cast<int>(found - table.names.begin())));
     }
-    return digest;
+    return chosen;
 }
 
 }  // namespace
@@ -60,33 +67,33 @@ database database::attach(const std::string& path) const {
     return {shared_, std::move(schema), path};
 }
 
-// Beside the wrapper, whose cells each count their references.
 std::uint64_t database::digest(std::string_view table, const std::vector<std::string_view>& columns,
                                std::uint64_t from) const {
-    std::string names;
-    for (const std::string_view column : columns)
-        names += (names.empty() ? "" : ", ") + bracketed(column);
-    const std::string sql =
-        "SELECT " + (names.empty() ? "*" : names) + " FROM " + quoted(table) + " ORDER BY rowid";
+    std::uint64_t digest = joined_digest(from, table);
+    for (const std::uint64_t of_column : column_digests_of(table, columns))
+        digest = joined_digest(digest, of_column);
+    return digest;
+}
+
+// What this save has written needs no reading.
+std::vector<std::uint64_t> database::column_digests_of(std::string_view table,
+                                                       const std::vector<std::string_view>& columns) const {
+    const auto written = shared_->emptied.find(quoted(table));
+    if (written != shared_->emptied.end())
+        if (auto known = digests_of(written->second, columns); !known.empty()) return known;
     return guarded(path_, [&] {
-        sqlite3* handle = shared_->sqlite.getHandle();
-        sqlite3_stmt* prepared = nullptr;
-        const auto check = [&](int result) {
-            if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE)
-                throw SQLite::Exception(handle, result);
-            return result;
-        };
-        check(sqlite3_prepare_v2(handle, sql.c_str(), -1, &prepared, nullptr));
-        const std::unique_ptr<sqlite3_stmt, store::statement_end> rows(prepared);
-        std::uint64_t digest = mixed(from, table);
-        while (check(sqlite3_step(prepared)) == SQLITE_ROW)
-            for (int column = 0; column < sqlite3_column_count(prepared); ++column) {
-                const auto* text = static_cast<const char*>(sqlite3_column_blob(prepared, column));
-                const auto size = static_cast<std::size_t>(sqlite3_column_bytes(prepared, column));
-                digest = mixed(digest, text ? std::string_view(text, size) : std::string_view{});
-            }
-        return digest;
+        store::row_query rows(shared_->sqlite, "SELECT " + (columns.empty() ? "*" : listed(columns)) +
+                                                   " FROM " + quoted(table) + " ORDER BY rowid");
+        column_digests digests(rows.column_count());
+        while (rows.step())
+            for (int column = 0; column < digests.columns(); ++column)
+                digests.add(column, rows.text(column));
+        return all_of(digests);
     });
+}
+
+bool database::has_written() const {
+    return sqlite3_total_changes(shared_->sqlite.getHandle()) != 0;
 }
 
 std::optional<std::string> database::lookup(std::string_view column, std::string_view table,
@@ -98,6 +105,7 @@ std::optional<std::string> database::lookup(std::string_view column, std::string
 
 void database::delete_rows(std::string_view table) const {
     guarded(path_, [&] { shared_->statement("DELETE FROM " + quoted(table)).exec(); });
+    if (shared_->saving) shared_->emptied[quoted(table)] = {};
 }
 
 void database::delete_rows(std::string_view table, std::string_view column, std::string_view value) const {
@@ -106,6 +114,7 @@ void database::delete_rows(std::string_view table, std::string_view column, std:
             shared_->statement("DELETE FROM " + quoted(table) + " WHERE " + bracketed(column) + " = ?");
         statement.bind(1, std::string(value));
         statement.exec();
+        shared_->emptied.erase(quoted(table));
     });
 }
 
@@ -122,6 +131,7 @@ int database::update_rows(std::string_view table, const std::vector<assignment>&
         for (const auto& value : values)
             statement.bind(++index, std::string(value.text));
         statement.bind(++index, std::string(key));
+        shared_->emptied.erase(quoted(table));
         return statement.exec();
     });
 }
@@ -136,25 +146,25 @@ save_transaction::save_transaction(const database& db) : db_(db) {
 
 save_transaction::~save_transaction() {
     if (!open_) return;
-    const auto exec_quietly = [this](const char* sql) {
+    const auto roll_back = [this] {
         try {
-            db_.shared_->sqlite.exec(sql);
+            db_.shared_->end("ROLLBACK");
         } catch (const SQLite::Exception&) {
             // The engine has rolled back by itself, as after a full disc.
         }
     };
-    exec_quietly("ROLLBACK");
+    roll_back();
     if (db_.shared_->attached == 0) return;
     try {
         db_.shared_->begin();
     } catch (const SQLite::Exception&) {
         return;  // Another program is at the file; the next save clears away.
     }
-    exec_quietly("ROLLBACK");
+    roll_back();
 }
 
 void save_transaction::commit() {
-    guarded(db_.path(), [&] { db_.shared_->sqlite.exec("COMMIT"); });
+    guarded(db_.path(), [&] { db_.shared_->end("COMMIT"); });
     open_ = false;
 }
 

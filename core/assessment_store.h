@@ -32,20 +32,25 @@ class database {
     /// Opens a second file within this one's transactions.
     database attach(const std::string& path) const;
 
-    /// Select * from [table], or only its rows whose `column` equals `value`.
+    /// Select * from [table], only these columns of it, or only its rows whose `column` equals `value`.
     recordset open(std::string_view table) const;
+    recordset open(std::string_view table, const std::vector<std::string_view>& columns) const;
     recordset open(std::string_view table, std::string_view column, std::string_view value) const;
     /// Select [column] from [table] where [key_column] = value, first row; nothing if there is none.
     std::optional<std::string> lookup(std::string_view column, std::string_view table,
                                       std::string_view key_column, std::string_view value) const;
 
     /// A number that tells the rows of a table, in stored order and with these columns (none named: all),
-    /// from others; it continues `from`. As quick as SQLite reads them.
+    /// from others; it continues `from`. As quick as SQLite reads them, and at once for a table that the save
+    /// under way has written anew.
     std::uint64_t digest(std::string_view table, const std::vector<std::string_view>& columns,
                          std::uint64_t from) const;
 
     void delete_rows(std::string_view table) const;
     void delete_rows(std::string_view table, std::string_view column, std::string_view value) const;
+
+    /// Whether anything was written through this connection since it was opened.
+    bool has_written() const;
 
     struct assignment {
         std::string_view column;
@@ -61,6 +66,8 @@ class database {
     struct connection;
     database(std::shared_ptr<connection> shared, std::string schema, std::string path);
     std::string quoted(std::string_view table) const;
+    std::vector<std::uint64_t> column_digests_of(std::string_view table,
+                                                 const std::vector<std::string_view>& columns) const;
 
     std::shared_ptr<connection> shared_;
     std::string schema_;
@@ -82,7 +89,9 @@ class recordset {
     int column_count() const;
     int column(std::string_view name) const;  // throws file_error for a column the table lacks
     std::string text(std::string_view name) const { return text(column(name)); }
-    std::string text(int column) const;
+    std::string text(int column) const { return std::string(view(column)); }
+    /// As text, without a copy: it ends with the next move.
+    std::string_view view(int column) const;
     /// Empty for an empty cell; file_error for a text that is no date.
     std::optional<date> date_value(std::string_view name) const;
 
@@ -90,7 +99,7 @@ class recordset {
     void edit();
     void set(std::string_view name, std::string_view text) { set(column(name), text); }
     void set(int column, std::string_view text);
-    /// As set, without a copy: the text must stay as it is until update.
+    /// As set, without a copy: the text must stay as it is as long as the recordset is written to.
     void set_kept(int column, const std::string& text);
     void set_kept(int column, std::string&& text) = delete;
     void set(std::string_view name, date d);

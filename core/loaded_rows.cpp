@@ -25,8 +25,20 @@ void loaded_rows::remember(const database& db) {
     path_ = db.path();
 }
 
+// The stamp after a save tells that file only if nobody wrote between the two.
+void loaded_rows::remember_saved(const database& db, std::uint64_t digest, const file_stamp& before) {
+    stamp_ = stamp_of(db.path());
+    if (stamp_.change_counter - before.change_counter > 1) stamp_ = {};
+    digest_ = digest;
+    path_ = db.path();
+}
+
 bool loaded_rows::changed(const database& db) const {
-    if (path_.empty() || !same_file(path_, db.path()) || stamp_of(path_) == stamp_) return false;
+    return changed(db, stamp_of(db.path()));
+}
+
+bool loaded_rows::changed(const database& db, const file_stamp& now) const {
+    if (path_.empty() || !same_file(path_, db.path()) || now == stamp_) return false;
     return digest(db) != digest_;
 }
 

@@ -37,7 +37,10 @@ class loaded_rows {
     bool may_be_replaced(const std::string& path, prompts& person) const;
 
   private:
+    friend class module_save;
     std::uint64_t digest(const database& db) const;
+    bool changed(const database& db, const file_stamp& now) const;
+    void remember_saved(const database& db, std::uint64_t digest, const file_stamp& before);
 
     std::vector<saved_table> tables_;
     std::string path_;

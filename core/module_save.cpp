@@ -34,17 +34,28 @@ module_save::module_save(application_state& state, prompts& person, loaded_rows&
 }
 
 void module_save::begin(const std::string& path) {
-    transaction_.emplace(db_.emplace(path));
-    if (!rows_.changed(*db_)) return;
+    db_.emplace(path);
+    lock();
+    if (!rows_.changed(*db_, at_start_)) return;
     transaction_.reset();  // no other program waits behind the question
-    if (person_.ask(rows_changed_meanwhile(path)) == answer::yes) transaction_.emplace(*db_);
+    if (person_.ask(rows_changed_meanwhile(path)) == answer::yes) lock();
+}
+
+void module_save::lock() {
+    transaction_.emplace(*db_);
+    at_start_ = stamp_of(db_->path());
 }
 
 void module_save::commit() {
+    const bool as_loaded = !db_->has_written() && rows_.stamp_ == at_start_;
+    const std::uint64_t saved = as_loaded ? rows_.digest_ : rows_.digest(*db_);  // before another can write
     transaction_->commit();
     transaction_.reset();
-    if (fresh_) put_in_place();
-    rows_.remember(*db_);
+    if (fresh_) {
+        put_in_place();
+        at_start_ = stamp_of(target_.path);
+    }
+    rows_.remember_saved(*db_, saved, at_start_);
 }
 
 void module_save::put_in_place() {

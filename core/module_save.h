@@ -39,6 +39,7 @@ class module_save {
 
   private:
     void begin(const std::string& path);
+    void lock();
     void put_in_place();
 
     save_target target_;
@@ -47,6 +48,7 @@ class module_save {
     loaded_rows& rows_;
     std::optional<fresh_file> fresh_;
     std::optional<database> db_;
+    file_stamp at_start_;  // of the file as this save found it
     std::optional<save_transaction> transaction_;
 };
 

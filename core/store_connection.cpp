@@ -58,9 +58,49 @@ std::string bracketed(std::string_view name) {
     return quoted.append(name).append("]");
 }
 
+std::string listed(const std::vector<std::string_view>& names) {
+    std::string all;
+    for (const std::string_view name : names)
+        all += (all.empty() ? "" : ", ") + bracketed(name);
+    return all;
+}
+
 bool same_name(std::string_view a, std::string_view b) {
     return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
                                 [](char x, char y) { return lower(x) == lower(y); });
+}
+
+row_query::row_query(const SQLite::Database& db, const std::string& sql) : db_(db.getHandle()) {
+    sqlite3_stmt* prepared = nullptr;
+    const int result = sqlite3_prepare_v2(db_, sql.c_str(), -1, &prepared, nullptr);
+    statement_.reset(prepared);
+    check(result);
+}
+
+void row_query::bind(int index, const std::string& text) {
+    check(sqlite3_bind_text(statement_.get(), index, text.data(), static_cast<int>(text.size()),
+                            SQLITE_STATIC));
+}
+
+bool row_query::step() {
+    if (ended_) return false;  // the engine would begin anew
+    const int result = sqlite3_step(statement_.get());
+    if (result == SQLITE_ROW) return true;
+    ended_ = true;
+    if (result != SQLITE_DONE) check(result);
+    return false;
+}
+
+bool row_query::keeps_texts(int behind) const {
+    for (int column = 0; column < column_count() - behind; ++column) {
+        const char* type = sqlite3_column_decltype(statement_.get(), column);
+        if (!type || std::string_view(type) != "TEXT") return false;
+    }
+    return true;
+}
+
+void row_query::check(int result) const {
+    if (result != SQLITE_OK) throw SQLite::Exception(db_, result);
 }
 
 }  // namespace kel::store

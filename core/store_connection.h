@@ -5,12 +5,15 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/assessment_store.h"
+#include "core/column_digests.h"
 #include "core/strangers_file.h"
 #include "core/super_journals.h"
 
@@ -30,12 +33,49 @@ auto guarded(const std::string& path, F&& work) {
 }
 
 std::string bracketed(std::string_view name);
+/// [one], [two]
+std::string listed(const std::vector<std::string_view>& names);
 
 /// Names of columns, whose letters count alike in both cases.
 bool same_name(std::string_view a, std::string_view b);
 
-struct statement_end {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+/// A SELECT without the wrapper, whose cells each count their references. Throws SQLite::Exception.
+class row_query {
+  public:
+    row_query(const SQLite::Database& db, const std::string& sql);
+
+    /// `text` must stay until the last step.
+    void bind(int index, const std::string& text);
+    /// The next row; false behind the last one, then and ever after.
+    bool step();
+    int column_count() const { return sqlite3_column_count(statement_.get()); }
+    const char* name(int column) const { return sqlite3_column_name(statement_.get(), column); }
+    /// Of the row that it stands on, until the next step; empty for a null.
+    std::string_view text(int column) const {
+        sqlite3_value* value = sqlite3_column_value(statement_.get(), column);
+        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+        const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
+        return text ? std::string_view(text, size) : std::string_view{};
+    }
+    std::int64_t number(int column) const { return sqlite3_column_int64(statement_.get(), column); }
+    /// Whether every column but the last `behind` ones gives back the text that was put in.
+    bool keeps_texts(int behind) const;
+
+  private:
+    struct statement_end {
+        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+    };
+    void check(int result) const;
+
+    sqlite3* db_;
+    std::unique_ptr<sqlite3_stmt, statement_end> statement_;
+    bool ended_ = false;
+};
+
+/// A table that a save has emptied, with the digests of the rows that it has put in since.
+struct emptied_table {
+    std::vector<std::string> names;  // of all columns; none before the first row
+    column_digests digests{0};
 };
 
 }  // namespace kel::store
@@ -45,8 +85,9 @@ namespace kel {
 struct database::connection {
     static constexpr int busy_timeout_ms = 2000;
 
+    // One thread has it for itself, so that no cell waits for a lock and each can be read as it lies there.
     connection(const std::string& path, const std::string& named)
-        : sqlite(path, SQLite::OPEN_READWRITE, busy_timeout_ms), main_file(path) {
+        : sqlite(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busy_timeout_ms), main_file(path) {
         harden(sqlite.getHandle());
         check_layout(sqlite, "main", named);
     }
@@ -73,12 +114,22 @@ struct database::connection {
     void begin() {
         sqlite.exec("BEGIN IMMEDIATE");
         if (attached > 0) remove_spent_super_journals(main_file);
+        saving = true;
+    }
+
+    void end(const char* how) {
+        saving = false;
+        emptied.clear();
+        sqlite.exec(how);
     }
 
     SQLite::Database sqlite;
     std::string main_file;
     std::map<std::string, std::unique_ptr<SQLite::Statement>> prepared;
     int attached = 0;
+    /// By schema and name. Only within a save, and only as long as nothing but whole rows was added to them.
+    std::map<std::string, store::emptied_table> emptied;
+    bool saving = false;
 };
 
 }  // namespace kel

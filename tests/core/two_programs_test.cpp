@@ -79,6 +79,20 @@ TEST_F(ChangedRows, AreNotRememberedFromASaveThatFailed) {
     EXPECT_TRUE(save("mine"));
 }
 
+// What stood in the file when the person agreed is what the next Save compares with.
+TEST_F(ChangedRows, AreAskedAboutAlsoBehindASaveThatHadNothingToWrite) {
+    const auto save_nothing = [this] {
+        module_save saving(file, person, loaded);
+        if (saving) saving.commit();
+    };
+    save_nothing();
+    other_program_writes("Land", "Soil", "theirs");
+    person.expect(rows_changed_meanwhile(file), answer::no).expect(rows_changed_meanwhile(file), answer::yes);
+    EXPECT_FALSE(save("mine"));
+    save_nothing();
+    EXPECT_TRUE(save("mine"));
+}
+
 class OpenMark : public farm_test {
   protected:
     const std::string farm = path("farm.kel");
