@@ -2,20 +2,16 @@
 
 namespace kel {
 
-namespace {
-
 // A text that is no date goes through as it stands: the module that reads it says what is wrong.
-std::string stored_date_text(const std::string& shown) {
-    const auto d = parse_date(shown);
+std::string stored_text(const grid_column& column, const std::string& shown) {
+    const auto d = column.is_date ? parse_date(shown) : std::nullopt;
     return d ? iso_date_text(*d) : shown;
 }
 
-std::string shown_date_text(const std::string& stored) {
-    const auto d = parse_date(stored);
-    return d ? short_date_text(*d) : stored;
+std::string shown_text(const grid_column& column, std::string_view stored) {
+    const auto d = column.is_date ? parse_date(stored) : std::nullopt;
+    return d ? short_date_text(*d) : std::string(stored);
 }
-
-}  // namespace
 
 std::vector<int> stored_columns(const recordset& table, const text_grid& grid) {
     std::vector<int> stored;
@@ -34,8 +30,9 @@ void save_grid(const database& db, std::string_view table, const text_grid& grid
             const int into = stored[static_cast<std::size_t>(c)];
             const std::string& text = grid.cell(row, c);
             if (into < 0 || text.empty()) continue;
-            if (grid.columns()[static_cast<std::size_t>(c)].is_date)
-                target.set(into, stored_date_text(text));
+            const grid_column& column = grid.columns()[static_cast<std::size_t>(c)];
+            if (column.is_date)
+                target.set(into, stored_text(column, text));
             else
                 target.set_kept(into, text);
         }
@@ -51,10 +48,9 @@ void load_grid_row(const recordset& source, const std::vector<int>& stored, text
     for (int c = 0; c < grid.column_count(); ++c) {
         const int from = stored[static_cast<std::size_t>(c)];
         if (from < 0) continue;
-        std::string text = source.text(from);
+        const std::string_view text = source.view(from);
         if (text.empty()) continue;
-        const bool is_date = grid.columns()[static_cast<std::size_t>(c)].is_date;
-        grid.set_cell(row, c, is_date ? shown_date_text(text) : std::move(text));
+        grid.set_cell(row, c, shown_text(grid.columns()[static_cast<std::size_t>(c)], text));
     }
 }
 

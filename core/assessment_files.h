@@ -12,6 +12,11 @@
 
 namespace kel {
 
+/// A cell's text as the file has it and as the grid has it: a date is ISO-8601 there and day first here; all
+/// other text is the same.
+std::string stored_text(const grid_column& column, const std::string& shown);
+std::string shown_text(const grid_column& column, std::string_view stored);
+
 /// Where each column of the grid is stored in the table; -1 for one that is not.
 std::vector<int> stored_columns(const recordset& table, const text_grid& grid);
 

@@ -4,8 +4,9 @@ namespace kel {
 
 std::vector<farm_field> read_farm_fields(const database& db) {
     std::vector<farm_field> fields;
-    for (recordset rows = db.open("Field Data"); !rows.eof(); rows.move_next())
-        fields.push_back({rows.text("Field Name"), rows.text("Size"), rows.text("Soil")});
+    for (recordset rows = db.open("Field Data", {"Field Name", "Size", "Soil"}); !rows.eof();
+         rows.move_next())
+        fields.push_back({rows.text(0), rows.text(1), rows.text(2)});
     return fields;
 }
 

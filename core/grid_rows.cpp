@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t most_boxes = 20;
 
-bool belongs(const row_rules& rules, const std::string& field) {
+bool belongs(const row_rules& rules, std::string_view field) {
     return rules.fields->contains(field) || (field.empty() && rules.nameless_rows_pass);
 }
 
@@ -36,9 +36,9 @@ void append_rows(const database& db, std::string_view table, text_grid& grid, co
     const std::vector<int> stored = stored_columns(rows, grid);
     const int field_column = rules.fields ? rows.column(rules.field_column) : -1;
     for (; !rows.eof(); rows.move_next()) {
-        const std::string field = rules.fields ? rows.text(field_column) : std::string{};
+        const std::string_view field = rules.fields ? rows.view(field_column) : std::string_view{};
         if (rules.fields && !belongs(rules, field)) {
-            told.add(rules.unknown(field));
+            told.add(rules.unknown(std::string(field)));
             continue;
         }
         const int row = grid.add_row();

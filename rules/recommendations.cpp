@@ -13,7 +13,7 @@ void save_recommendations(const database& db, const std::vector<recommendation>&
     const int field = stored.column("Field Area ID");
     const int required = stored.column("N required");
     for (; !stored.eof(); stored.move_next())
-        if (last.contains(stored.text(field))) stored.remove();
+        if (last.contains(stored.view(field))) stored.remove();
     for (const recommendation& r : found) {
         if (r.field.empty() || last.at(r.field) != &r) continue;
         stored.add_new();
