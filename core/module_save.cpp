@@ -47,7 +47,7 @@ void module_save::lock() {
 }
 
 void module_save::commit() {
-    const bool as_loaded = !db_->has_written() && rows_.stamp_ == at_start_;
+    const bool as_loaded = !fresh_ && !db_->has_written() && rows_.stamp_ == at_start_;
     const std::uint64_t saved = as_loaded ? rows_.digest_ : rows_.digest(*db_);  // before another can write
     transaction_->commit();
     transaction_.reset();

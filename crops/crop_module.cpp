@@ -148,12 +148,11 @@ void crop_module::back() {
 bool crop_module::save() {
     const auto target = file_to_save(state_, person_, text::cannot_save_title);
     if (!target) return false;
-    text_grid crops = crops_;
-    for (int row = 0; row < crops.data_row_count(); ++row)
-        crops.set_cell(row, crop_column::winter_status, winter_status_);
+    for (int row = 0; row < crops_.data_row_count(); ++row)  // hidden, and the same in every row
+        crops_.set_cell(row, crop_column::winter_status, winter_status_);
     module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
-    save_crops(file.db(), crops);
+    save_crops(file.db(), crops_);
     file.commit();
     return true;
 }

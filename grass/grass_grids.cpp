@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::string_view site_table = "Site";
 constexpr std::string_view livestock_table = "LU";
+constexpr int few_rows = 4;  // one row of so many
 
 constexpr auto entered = column_kind::entered;
 constexpr auto calculated = column_kind::calculated;
@@ -174,56 +176,83 @@ consteval std::array<int, stocking_columns.size()> places_in_site() {
 }
 constexpr auto in_site = places_in_site();
 
-// Whether the file has the page's fields in the page's order.
-bool stands_in_order(const database& db, const text_grid& page, int rows) {
-    recordset file = db.open(site_table);
-    const int field = file.column(page.columns().front().stored);
-    int row = 0;
-    for (; !file.eof(); file.move_next(), ++row)
-        if (row == rows || file.text(field) != page.cell(row, 0)) return false;
-    return row == rows;
+const grid_column& column_of(const text_grid& page, int column) {
+    return page.columns()[static_cast<std::size_t>(column)];
 }
 
 // The columns that a page saves, behind that of the field.
 std::vector<int> own_columns_of(const text_grid& page, int area) {
     std::vector<int> own;
     for (int c = 1; c < page.column_count(); ++c)
-        if (c == area || page.columns()[static_cast<std::size_t>(c)].kind != carried) own.push_back(c);
+        if (c == area || column_of(page, c).kind != carried) own.push_back(c);
     return own;
 }
 
-std::string stored_text(const text_grid& page, int row, int column) {
-    const std::string& text = page.cell(row, column);
-    if (!page.columns()[static_cast<std::size_t>(column)].is_date) return text;
-    const auto day = parse_date(text);
-    return day ? iso_date_text(*day) : text;
+// The file's rows with the field and the page's own columns behind it.
+recordset open_own(const database& db, const text_grid& page, const std::vector<int>& own) {
+    std::vector<std::string_view> names{column_of(page, 0).stored};
+    names.reserve(own.size() + 1);
+    for (const int c : own)
+        names.push_back(column_of(page, c).stored);
+    return db.open(site_table, names);
 }
 
-// Rows whose own columns hold what the page shows are not written.
-void update_in_place(const database& db, const text_grid& page, int rows, const std::vector<int>& own) {
-    recordset file = db.open(site_table);
-    const std::vector<int> stored = stored_columns(file, page);
-    for (int row = 0; row < rows; ++row, file.move_next()) {
-        const auto differs = [&](int c) {
-            return file.text(stored[static_cast<std::size_t>(c)]) != stored_text(page, row, c);
-        };
-        if (std::ranges::none_of(own, differs)) continue;
+bool differs(const recordset& file, const text_grid& page, int row, const std::vector<int>& own) {
+    int stored = 0;
+    return std::ranges::any_of(own, [&](int c) {
+        const std::string_view text = file.view(++stored);
+        if (!column_of(page, c).is_date) return text != page.cell(row, c);
+        return text != stored_text(column_of(page, c), page.cell(row, c));
+    });
+}
+
+// Rows whose own columns hold other texts than the page; nothing unless the file has the page's fields in the
+// page's order.
+std::optional<std::vector<int>> changed_rows(const database& db, const text_grid& page, int rows,
+                                             const std::vector<int>& own) {
+    std::vector<int> changed;
+    int row = 0;
+    recordset file = open_own(db, page, own);
+    for (; !file.eof(); file.move_next(), ++row) {
+        if (row == rows || file.view(0) != page.cell(row, 0)) return std::nullopt;
+        if (differs(file, page, row, own)) changed.push_back(row);
+    }
+    return row == rows ? std::optional(changed) : std::nullopt;
+}
+
+void update_in_place(const database& db, const text_grid& page, const std::vector<int>& changed,
+                     const std::vector<int>& own) {
+    recordset file = open_own(db, page, own);
+    int at = 0;
+    for (const int row : changed) {
+        for (; at < row; ++at)
+            file.move_next();
         file.edit();
-        for (const int c : own)
-            file.set(stored[static_cast<std::size_t>(c)], stored_text(page, row, c));
+        for (std::size_t i = 0; i < own.size(); ++i)
+            file.set(static_cast<int>(i) + 1, stored_text(column_of(page, own[i]), page.cell(row, own[i])));
         file.update();
     }
 }
 
-// Rows that stand as they stood get the page's own columns only. Otherwise all rows are written anew with the
-// other columns taken from the file; a field that is new to it brings its area from the profile.
-void save_page(const database& db, const text_grid& page, int rows, int area) {
-    if (stands_in_order(db, page, rows)) return update_in_place(db, page, rows, own_columns_of(page, area));
+// All rows anew, with the other page's columns taken from the file; a field that is new to it brings its area
+// from the profile.
+void save_anew(const database& db, const text_grid& page, int rows, int area) {
     text_grid whole = page;
     take_carried(db, site_table, whole, rows);
     for (int row = 0; row < rows; ++row)
-        whole.set_cell(row, area, page.cell(row, area));
+        if (whole.cell(row, area) != page.cell(row, area)) whole.set_cell(row, area, page.cell(row, area));
     save_grid(db, site_table, whole, rows);
+}
+
+// Of rows that stand as they stood only those that have changed are written, in place. Where most have, all
+// of them are written sooner anew.
+void save_page(const database& db, const text_grid& page, int rows, int area) {
+    const std::vector<int> own = own_columns_of(page, area);
+    const auto changed = changed_rows(db, page, rows, own);
+    if (changed && static_cast<int>(changed->size()) * few_rows <= rows)
+        update_in_place(db, page, *changed, own);
+    else
+        save_anew(db, page, rows, area);
 }
 
 }  // namespace
@@ -353,13 +382,14 @@ void save_livestock(const database& db, const text_grid& livestock) {
 }
 
 void save_silage_rates(const database& db, const silage_plan& plan) {
-    recordset record = db.open(site_table);
-    const int rate = record.column("Silage Rate");
+    recordset record = db.open(site_table, {"Silage Rate"});
     for (const silage_row& row : plan.rows) {
         if (record.eof()) return;
-        record.edit();
-        record.set(rate, row.lus_per_ha);
-        record.update();
+        if (record.view(0) != row.lus_per_ha) {
+            record.edit();
+            record.set(0, row.lus_per_ha);
+            record.update();
+        }
         record.move_next();
     }
 }

@@ -59,6 +59,27 @@ TEST_F(grass_file_test, TheStockingSavesKeepWhatTheSitePageStored) {
     EXPECT_EQ(column_of(state.assess_file, "LU", "Stock Type"), texts{"Dairy cows"});
 }
 
+// One changed row of many is written in place, many of them with all the others.
+TEST_F(grass_file_test, AnyNumberOfChangedRowsKeepsTheOtherPagesColumns) {
+    open_farm({{"A", "1"}, {"B", "2"}, {"C", "3"}, {"D", "4"}, {"E", "5"}});
+    for (const char* field : {"A", "B", "C", "D", "E"})
+        add_site(field,
+                 {{"Manure current", "7"}, {"Silage Rate", field}, {"End of season date", "2024-10-31"}});
+    load();
+    texts manures(5, "7");
+    for (const std::vector<int>& changed : {std::vector{3}, std::vector{0, 1, 2, 4}}) {
+        for (const int row : changed) {
+            manures[static_cast<std::size_t>(row)] = std::to_string(10 + row);
+            site().enter_manure(row, site_column::manure_current, std::to_string(10 + row));
+        }
+        EXPECT_TRUE(module.cmdSite_save());
+        EXPECT_EQ(site_column_texts("Manure current"), manures);
+        EXPECT_EQ(site_column_texts("Field Area ID"), (texts{"A", "B", "C", "D", "E"}));
+        EXPECT_EQ(site_column_texts("Silage Rate"), (texts{"A", "B", "C", "D", "E"}));
+        EXPECT_EQ(site_column_texts("End of season date"), texts(5, "2024-10-31"));
+    }
+}
+
 TEST_F(grass_file_test, AnotherNameMakesACopyAndLastYearsFileIsRefused) {
     open_stored_farm();
     const std::string first = state.assess_file;
