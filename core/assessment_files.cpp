@@ -25,16 +25,15 @@ void save_grid(const database& db, std::string_view table, const text_grid& grid
     recordset target = db.open(table);
     const std::vector<int> stored = stored_columns(target, grid);
     for (int row = 0; row < rows; ++row) {
+        const std::span<const std::string> cells = grid.row(row);
         target.add_new();
-        for (int c = 0; c < grid.column_count(); ++c) {
-            const int into = stored[static_cast<std::size_t>(c)];
-            const std::string& text = grid.cell(row, c);
-            if (into < 0 || text.empty()) continue;
-            const grid_column& column = grid.columns()[static_cast<std::size_t>(c)];
+        for (std::size_t c = 0; c < cells.size(); ++c) {
+            const grid_column& column = grid.columns()[c];
+            if (stored[c] < 0 || cells[c].empty()) continue;
             if (column.is_date)
-                target.set(into, stored_text(column, text));
+                target.set(stored[c], stored_text(column, cells[c]));
             else
-                target.set_kept(into, text);
+                target.set_kept(stored[c], cells[c]);
         }
         target.update();
     }

@@ -36,7 +36,7 @@ std::vector<std::string_view> stored_names(const text_grid& grid, const std::vec
 void take_row(const recordset& file, const std::vector<int>& taken, text_grid& grid, int row) {
     for (std::size_t i = 1; i < taken.size(); ++i) {
         const std::string_view stored = file.view(static_cast<int>(i));
-        if (stored == grid.cell(row, taken[i])) continue;
+        if (stored == grid.row(row)[static_cast<std::size_t>(taken[i])]) continue;
         std::string text = shown_text(column_of(grid, taken[i]), stored);
         if (text != grid.cell(row, taken[i])) grid.set_cell(row, taken[i], std::move(text));
     }

@@ -17,6 +17,10 @@ const std::string& text_grid::cell(int row, int column) const {
     return rows_.at(at(row))->at(at(column));
 }
 
+std::span<const std::string> text_grid::row(int row) const {
+    return *rows_.at(at(row));
+}
+
 void text_grid::set_cell(int row, int column, std::string text) {
     std::shared_ptr<cells>& own = rows_.at(at(row));
     if (own.use_count() > 1) own = std::make_shared<cells>(*own);

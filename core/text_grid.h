@@ -35,6 +35,8 @@ class text_grid {
     int row_count() const { return static_cast<int>(rows_.size()); }
 
     const std::string& cell(int row, int column) const;
+    /// The cells of a row, until it is written to.
+    std::span<const std::string> row(int row) const;
     void set_cell(int row, int column, std::string text);
     /// Numbers of cells, by the leading-number rule.
     float number(int row, int column) const;

@@ -199,23 +199,25 @@ recordset open_own(const database& db, const text_grid& page, const std::vector<
 
 bool differs(const recordset& file, const text_grid& page, int row, const std::vector<int>& own) {
     int stored = 0;
+    const std::span<const std::string> cells = page.row(row);
     return std::ranges::any_of(own, [&](int c) {
         const std::string_view text = file.view(++stored);
-        if (!column_of(page, c).is_date) return text != page.cell(row, c);
-        return text != stored_text(column_of(page, c), page.cell(row, c));
+        const std::string& cell = cells[static_cast<std::size_t>(c)];
+        return column_of(page, c).is_date ? text != stored_text(column_of(page, c), cell) : text != cell;
     });
 }
 
-// Rows whose own columns hold other texts than the page; nothing unless the file has the page's fields in the
-// page's order.
-std::optional<std::vector<int>> changed_rows(const database& db, const text_grid& page, int rows,
-                                             const std::vector<int>& own) {
+// The few rows whose own columns hold other texts than the page; nothing if they are many, or if the file has
+// not the page's fields in the page's order.
+std::optional<std::vector<int>> few_changed_rows(const database& db, const text_grid& page, int rows,
+                                                 const std::vector<int>& own) {
     std::vector<int> changed;
     int row = 0;
     recordset file = open_own(db, page, own);
     for (; !file.eof(); file.move_next(), ++row) {
         if (row == rows || file.view(0) != page.cell(row, 0)) return std::nullopt;
         if (differs(file, page, row, own)) changed.push_back(row);
+        if (static_cast<int>(changed.size()) * few_rows > rows) return std::nullopt;
     }
     return row == rows ? std::optional(changed) : std::nullopt;
 }
@@ -248,8 +250,7 @@ void save_anew(const database& db, const text_grid& page, int rows, int area) {
 // of them are written sooner anew.
 void save_page(const database& db, const text_grid& page, int rows, int area) {
     const std::vector<int> own = own_columns_of(page, area);
-    const auto changed = changed_rows(db, page, rows, own);
-    if (changed && static_cast<int>(changed->size()) * few_rows <= rows)
+    if (const auto changed = few_changed_rows(db, page, rows, own))
         update_in_place(db, page, *changed, own);
     else
         save_anew(db, page, rows, area);
