@@ -101,10 +101,21 @@ class cells_reader {
     std::map<std::string, float, std::less<>> values_;
 };
 
+bool has_table(const database& reference, std::string_view table) {
+    return !reference.open("sqlite_master", "name", table).eof();
+}
+
+recordset open_figures(const database& reference, std::string_view table) {
+    if (!has_table(reference, table))
+        throw file_error(reference.path(),
+                         "it has no table [" + std::string(table) + "] with the figures for grassland.");
+    return reference.open(table);
+}
+
 // Tables from elsewhere may have none to tell.
 std::string source_of(const database& reference) {
     constexpr std::string_view table = "Grass_source";
-    if (reference.open("sqlite_master", "name", table).eof()) return {};
+    if (!has_table(reference, table)) return {};
     const recordset source = reference.open(table);
     return source.eof() ? std::string{} : source.text("Source");
 }
@@ -113,12 +124,12 @@ std::string source_of(const database& reference) {
 
 grass_tables::grass_tables(const database& reference) {
     cells_reader recs(reference, recs_table);
-    for (recordset row = reference.open(recs_table); !row.eof(); row.move_next())
+    for (recordset row = open_figures(reference, recs_table); !row.eof(); row.move_next())
         for (const std::string_view label : group_labels)
             recs.add(rec_key(row.text("Clover"), row.text("Site Class"), label), row.text(label));
     requirements_ = recs.take(needed_recs());
     cells_reader adjust(reference, adjust_table);
-    for (recordset row = reference.open(adjust_table); !row.eof(); row.move_next())
+    for (recordset row = open_figures(reference, adjust_table); !row.eof(); row.move_next())
         adjust.add(adjust_key(row.text("Clover"), row.text("Management"), row.text("Cuts"), row.text("Apps")),
                    row.text("Adjustment"));
     adjustments_ = adjust.take(needed_adjustments());

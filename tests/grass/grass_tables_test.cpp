@@ -70,6 +70,13 @@ TEST_F(DamagedGrassTables, AreRefusedWithTheNameOfTheCell) {
     }
 }
 
+TEST_F(DamagedGrassTables, AnotherFileAndOneWithoutItsSource) {
+    database(copy).delete_rows("Grass_source");
+    EXPECT_EQ(grass_tables(database(copy)).source(), "");
+    copy_whole_file(make_farm("farm.kel", {}), copy);
+    EXPECT_EQ(refusal(), "it has no table [Grass_Recs] with the figures for grassland.");
+}
+
 TEST_F(DamagedGrassTables, AnAdvisersTablesGoBeforeTheProgramsOwn) {
     EXPECT_EQ(state.places.grass_tables(), built);
     std::filesystem::create_directory(path("dbases"));
