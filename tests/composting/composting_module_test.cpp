@@ -168,6 +168,14 @@ TEST_F(CompostingModule, ClosingThePanelSavesUnlessTheFileFails) {
     EXPECT_EQ(stored("Field Area ID").front() + row(0).front(), "Long RigLong Rig");
 }
 
+TEST_F(CompostingModule, LastYearsFileIsNotSavedTo) {
+    std::swap(state.prev1_file, state.assess_file);
+    person.expect_file("Save the assessment", state.prev1_file)
+        .expect({"Cannot Save", "This is last years file and cannot be saved to at this time!"});
+    EXPECT_FALSE(module.save());
+    person.verify_done();
+}
+
 TEST_F(CompostingModule, ReportsTheResultAndTheRecordedCalculations) {
     viewer_stub viewer;
     report_desk desk{state, viewer, [] { return make_date(15, 11, 2026); }, "somebody"};
