@@ -20,8 +20,9 @@ struct tally {
     int runs = 0;
     int ended[3] = {};  // by save_end
     int lost = 0;
-    int littered = 0;                 // runs that left a file beside, the open mark of a killed process aside
-    std::map<std::string, int> left;  // which, and in how many runs
+    int littered = 0;                 // runs that left a file of the program's own beside
+    int journals = 0;                 // runs that left a journal
+    std::map<std::string, int> left;  // the files of the program's own, each with its runs
 };
 
 /// An undisturbed save: what it leaves, and how long it takes.
@@ -54,14 +55,25 @@ std::string kind_of(const std::string& path) {
     return number == std::string::npos ? name : name.substr(0, number) + "-mj...";
 }
 
-bool note_litter(const whole_save& whole, const folder_content& found, tally& sum) {
+bool is_journal(const std::string& path) {
+    return path.ends_with("-journal");
+}
+
+// A journal that was begun, and has nothing to undo, is the engine's: it stays until the next save of its
+// file, and a list that names it until the opening after that. Whatever is beside then stays for good.
+void count_litter(const whole_save& whole, const tortured_farm& farm, tally& sum) {
+    const folder_content found = farm.content();
+    if (std::any_of(found.begin(), found.end(), [](const auto& file) { return is_journal(file.first); })) {
+        ++sum.journals;
+        farm.save_each_file();
+    }
     bool any = false;
-    for (const auto& [path, content] : found) {
+    for (const auto& [path, content] : farm.recovered()) {
         if (is_mark(path) || whole.after.contains(path)) continue;
         ++sum.left[kind_of(path)];
         any = true;
     }
-    return any;
+    sum.littered += any ? 1 : 0;
 }
 
 std::string content_in(const folder_content& folder, const std::string& path) {
@@ -87,7 +99,6 @@ void judge(const tortured_save& save, const whole_save& whole, const folder_cont
     ++sum.runs;
     ++sum.ended[static_cast<int>(end)];
     sum.lost += any_other || mixed || untrue ? 1 : 0;
-    sum.littered += note_litter(whole, found, sum) ? 1 : 0;
 }
 
 std::uintmax_t largest_file(const folder_content& folder) {
@@ -97,7 +108,7 @@ std::uintmax_t largest_file(const folder_content& folder) {
     return bytes;
 }
 
-/// Returns how many runs lost something.
+/// Returns how many runs lost something, or left something for good.
 int torture(const tortured_save& save, const tortured_farm& farm, bool kills, int runs, chance& random) {
     const whole_save whole = run_whole(save, farm);
     tally sum;
@@ -108,13 +119,17 @@ int torture(const tortured_save& save, const tortured_farm& farm, bool kills, in
                   : run_on_full_disc(save, farm,
                                      largest_file(whole.after) * (save.all_files_together ? 4 : 2), random);
         judge(save, whole, farm.recovered(), end, sum);
+        count_litter(whole, farm, sum);
     }
     std::printf("%-38s %-10s %6d %10d %8d %8d %6d %8d\n", std::string(save.name).c_str(),
                 kills ? "kill" : "full disc", sum.runs, sum.ended[0], sum.ended[1], sum.ended[2], sum.lost,
                 sum.littered);
     for (const auto& [kind, times] : sum.left)
-        std::printf("    left beside: %s, in %d runs\n", kind.c_str(), times);
-    return sum.lost;
+        std::printf("    left for good: %s, in %d runs\n", kind.c_str(), times);
+    if (sum.journals > 0)
+        std::printf("    a journal with nothing to undo was left in %d runs; the next save took it away\n",
+                    sum.journals);
+    return sum.lost + sum.littered;
 }
 
 int run(std::string_view trouble, int runs, unsigned seed) {

@@ -99,18 +99,38 @@ void tortured_farm::restore() const {
     }
 }
 
-folder_content tortured_farm::recovered() const {
-    folder_content content;
-    std::vector<std::string> farms;
+std::vector<std::string> tortured_farm::assessments() const {
+    std::vector<std::string> files;
     for (const auto& entry : fs::directory_iterator(folder()))
-        if (entry.path().extension() == ".kel") farms.push_back(entry.path().string());
-    for (const std::string& farm : farms) {
-        clear_left_behind(farm);
-        database(farm).open("Type");
-    }
+        if (entry.path().extension() == ".kel") files.push_back(entry.path().string());
+    return files;
+}
+
+folder_content tortured_farm::content() const {
+    folder_content content;
     for (const auto& entry : fs::directory_iterator(folder()))
         content[entry.path().string()] = content_of(entry.path());
     return content;
+}
+
+folder_content tortured_farm::recovered() const {
+    for (const std::string& file : assessments()) {
+        clear_left_behind(file);
+        database(file).open("Type");
+    }
+    return content();
+}
+
+void tortured_farm::save_each_file() const {
+    for (const std::string& file : assessments()) {
+        const database db(file);
+        save_transaction save(db);
+        recordset row = db.open("Misc");  // the engine leaves out a change to what is there already
+        row.add_new();
+        row.set("Item", "another save");
+        row.update();
+        save.commit();
+    }
 }
 
 }  // namespace kel::torture

@@ -36,8 +36,13 @@ class tortured_farm {
     /// The folder as the next start of the program finds it: each assessment is opened once, which undoes
     /// what a save cut off has left half done.
     folder_content recovered() const;
+    folder_content content() const;
+    /// A small save into each of the files.
+    void save_each_file() const;
 
   private:
+    std::vector<std::string> assessments() const;
+
     bench::bench_farm farm_;
     folder_content before_;
 };
