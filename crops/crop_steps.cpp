@@ -5,7 +5,6 @@
 #include "crops/crop_messages.h"
 #include "crops/crop_module.h"
 #include "rules/closed_period_lookups.h"
-#include "rules/closed_periods.h"
 #include "rules/crop_catalogue.h"
 #include "rules/crop_lists.h"
 #include "rules/residue_groups.h"
@@ -46,7 +45,7 @@ bool is_offered(std::span<const std::string_view> names, std::string_view name) 
 // The crop type that Step 2 has first for the field; nothing for one without a use.
 std::optional<std::string> first_crop_type(const std::string& path, const std::string& field) {
     if (path.empty()) return std::nullopt;
-    const auto pair = split_crop_pair(field_crop_pair(database(path), field));
+    const auto pair = stored_field_use(database(path), field);
     return pair ? std::optional(pair->first) : std::nullopt;
 }
 

@@ -4,7 +4,7 @@
 #include "grass/grass_messages.h"
 #include "grass/site_page.h"
 #include "grass/sward_choices.h"
-#include "rules/closed_periods.h"
+#include "rules/closed_period_lookups.h"
 #include "rules/crop_catalogue.h"
 #include "rules/crop_lists.h"
 #include "rules/manure_lookups.h"
@@ -17,11 +17,6 @@ namespace col = site_column;
 
 namespace {
 
-/// What Step 2 has for the field; nothing for a field that was not assessed.
-std::optional<crop_pair> stored_use(const database& db, const std::string& field) {
-    return split_crop_pair(db.lookup("Crop", "Land", "Field Area ID", field).value_or(""));
-}
-
 std::vector<std::string> members_of(std::string_view type) {
     const auto members = crop_type_members(type);
     return {members.begin(), members.end()};
@@ -29,15 +24,9 @@ std::vector<std::string> members_of(std::string_view type) {
 
 }  // namespace
 
-bool site_page::field_in_other_row(int row, std::string_view name) const {
-    for (int r = 0; r < farm_.site.row_count(); ++r)
-        if (r != row && farm_.site.cell(r, col::field) == name) return true;
-    return false;
-}
-
 // Step 2 of this year says what the field grows first.
 bool site_page::field_is_grass(const database& db, const std::string& name) {
-    const auto use = stored_use(db, name);
+    const auto use = stored_field_use(db, name);
     if (!use || use->first == crop_types::grass) return true;
     const bool proceed = person_.ask(text::not_grass(use->first)) == answer::yes;
     if (proceed)
@@ -51,7 +40,7 @@ bool site_page::field_is_grass(const database& db, const std::string& name) {
 // Step 2 of last year says what was to follow.
 bool site_page::field_was_grass(const std::string& name) {
     if (state_.prev1_file.empty()) return true;
-    const auto use = stored_use(database(state_.prev1_file), name);
+    const auto use = stored_field_use(database(state_.prev1_file), name);
     if (!use || use->second == crop_types::grass) return true;
     if (person_.ask(text::not_grass_last_year(use->second)) != answer::yes) return false;
     person_.tell(text::review_last_year);
@@ -62,7 +51,8 @@ outcome site_page::enter_field(int row, const std::string& name) {
     if (name.empty()) return refuse(person_, text::no_field_id);
     const database db(state_.assess_file);
     if (!db.open("Crops", "Field Area ID", name).eof()) return refuse(person_, text::crop_recommended);
-    if (field_in_other_row(row, name)) return refuse(person_, module_messages::field_in_grid);
+    if (farm_.site.in_other_row(row, col::field, name))
+        return refuse(person_, module_messages::field_in_grid);
     if (!field_is_grass(db, name) || !field_was_grass(name)) return box_stays();
     text_grid& site = farm_.site;
     // What the stocking page has on another field that stood here is not this field's.

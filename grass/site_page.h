@@ -77,7 +77,6 @@ class site_page {
     opening applications_opening(int row) const;
     bool field_is_grass(const database& db, const std::string& name);
     bool field_was_grass(const std::string& name);
-    bool field_in_other_row(int row, std::string_view name) const;
     void set_site_class(int row);
     std::string adjustment(int row, std::string_view cuts, std::string_view applications);
     std::optional<message> missing_in(int row) const;

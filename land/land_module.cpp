@@ -104,15 +104,10 @@ opening land_module::click_animals(int row, int column) {
     }
 }
 
-bool land_module::field_in_other_row(int row, std::string_view name) const {
-    for (int r = 0; r < land_.row_count(); ++r)
-        if (r != row && land_.cell(r, land_column::field) == name) return true;
-    return false;
-}
-
 outcome land_module::enter_field(int row, const std::string& name) {
     if (name.empty()) return refuse(person_, land_messages::no_field_id);
-    if (field_in_other_row(row, name)) return refuse(person_, land_messages::field_in_grid);
+    if (land_.in_other_row(row, land_column::field, name))
+        return refuse(person_, land_messages::field_in_grid);
     // Read before the first cell is written: a file that cannot be read must leave the row as it was.
     const recordset field = database(state_.assess_file).open("Field Data", "Field Name", name);
     std::string soil = field.eof() ? "" : field.text("Soil");

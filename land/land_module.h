@@ -74,7 +74,6 @@ class land_module {
     void report(report_desk& desk);
 
   private:
-    bool field_in_other_row(int row, std::string_view name) const;
     void set_area(int row, int column, const area_pair& areas);
 
     application_state& state_;

@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "core/numbers.h"
-#include "rules/closed_periods.h"
 
 namespace kel {
 
@@ -80,6 +79,10 @@ closed_answer closed_for_manure(const std::string& path, std::string_view field,
 std::string field_crop_pair(const database& file, std::string_view field) {
     const std::string pair = land_text(file, field, "Crop").value_or("");
     return pair.empty() ? std::string(field_not_assessed) : pair;
+}
+
+std::optional<crop_pair> stored_field_use(const database& file, std::string_view field) {
+    return split_crop_pair(field_crop_pair(file, field));
 }
 
 float land_area_in_month(const database& file, std::string_view field, int month) {

@@ -11,6 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/assessment_store.h"
+#include "rules/closed_periods.h"
 
 namespace kel {
 
@@ -51,6 +52,9 @@ closed_answer closed_for_manure(const std::string& path, std::string_view field,
 
 /// [Land].Crop, or field_not_assessed without a row or with an empty cell.
 std::string field_crop_pair(const database& file, std::string_view field);
+
+/// The two crop types of the field's use; nothing for a field that was not assessed.
+std::optional<crop_pair> stored_field_use(const database& file, std::string_view field);
 
 /// Hectares of the month's cell, month 1 to 12; 0 for an empty or a closed one, no_land_row without a row.
 float land_area_in_month(const database& file, std::string_view field, int month);
