@@ -48,7 +48,7 @@ constexpr std::array<grid_column, 7> result_columns{{
     {"Total (kg/ha)",     "",    calculated, 15},
     {"Crop requirement",  "",    calculated, 13},
     {"Manures",           "",    calculated, 10},
-    {"Notes",             "",    calculated, 96},
+    {"Notes",             "",    calculated, 60},
 }};
 // clang-format on
 static_assert(crop_columns[crop_column::residue_group].stored == "N Residue Group" &&

@@ -54,6 +54,7 @@ QWidget* frmCrops_new::results_page() {
     layout->setContentsMargins({});
     results_ = new grid_view(module_.results(), "MSFlexGridCrops_result", page);
     results_->setAccessibleName(tr("Recommendations"));
+    results_->wrap_column(crop_result_column::notes);
     layout->addWidget(results_, 1);
     auto* label = new_text("lblCrops_result", page);
     label->setText(qt(text::results_label));

@@ -24,6 +24,10 @@ first_column::first_column(grid_view& grid) : QTableView(&grid), grid_(grid) {
     horizontalHeader()->setHighlightSections(false);
     for (int c = 1; c < model()->columnCount(); ++c)
         setColumnHidden(c, true);
+    for (int row = 0; row < model()->rowCount(); ++row)
+        setRowHeight(row, grid.rowHeight(row));
+    connect(grid.verticalHeader(), &QHeaderView::sectionResized, this,
+            [this](int row, int, int height) { setRowHeight(row, height); });
     connect(grid.verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, grid.verticalScrollBar(), &QScrollBar::setValue);
 }

@@ -17,6 +17,7 @@ namespace kel {
 namespace {
 constexpr int cell_padding_px = 12;
 constexpr int narrow_padding_px = 8;
+constexpr int row_padding_px = 8;
 }  // namespace
 
 grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent)
@@ -29,7 +30,7 @@ grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_padding_px);
     lay_out_columns();
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { keep_first_column(); });
 }
@@ -57,7 +58,6 @@ void grid_view::lay_out_columns() {
             header->fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, heading).height());
     }
     header->setFixedHeight(height + cell_padding_px);
-    first_column_px_ = columnWidth(0);
 }
 
 void grid_view::narrow_column(int column, const QString& widest) {
@@ -82,11 +82,30 @@ bool grid_view::fits(int column, const QString& text) const {
     return fontMetrics().horizontalAdvance(text) + narrow_padding_px <= columnWidth(column);
 }
 
-// The first column, which holds names, takes the width that the others leave.
+void grid_view::wrap_column(int column) {
+    wrapped_column_ = column;
+    setWordWrap(true);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &grid_view::lay_out_rows);
+    lay_out_rows();
+}
+
+// Measured here and not by the table, which leaves out the columns that are not in view.
+void grid_view::lay_out_rows() {
+    if (wrapped_column_ < 0) return;
+    const QRect room(0, 0, columnWidth(wrapped_column_) - narrow_padding_px, QWIDGETSIZE_MAX);
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        const QString text = model_->index(row, wrapped_column_).data().toString();
+        const int text_height = fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height();
+        setRowHeight(row, std::max(fontMetrics().height(), text_height) + row_padding_px);
+    }
+}
+
+// The first column, which holds names, takes the width that the others leave, unless one is wrapped.
 void grid_view::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
-    const int others = horizontalHeader()->length() - columnWidth(0);
-    setColumnWidth(0, std::max(first_column_px_, viewport()->width() - others));
+    const int wide = std::max(0, wrapped_column_);
+    const int others = horizontalHeader()->length() - columnWidth(wide);
+    setColumnWidth(wide, std::max(laid_out_width(wide), viewport()->width() - others));
     keep_first_column();
 }
 
@@ -119,6 +138,7 @@ void grid_view::refresh() {
     const int row = current_row();
     const int column = std::max(0, current_column());
     model_->refresh();
+    lay_out_rows();
     if (row >= 0 && model_->rowCount() > 0 && !currentIndex().isValid())
         setCurrentIndex(model_->index(std::min(row, model_->rowCount() - 1), column));
 }

@@ -32,6 +32,9 @@ class grid_view : public QTableView {
     void fit_column(int column);
     /// Whether a cell of the column shows the text in full.
     bool fits(int column, const QString& text) const;
+    /// Wraps the texts of this column, which takes the width that the others leave; each row becomes as high
+    /// as its text needs.
+    void wrap_column(int column);
 
     /// Shows the grid as it now is and puts the current cell back within it.
     void refresh();
@@ -54,6 +57,7 @@ class grid_view : public QTableView {
 
   private:
     void lay_out_columns();
+    void lay_out_rows();
     void copy_selection() const;
     bool leaves_by_tab(const QKeyEvent* event) const;
     int laid_out_width(int column) const;
@@ -61,7 +65,7 @@ class grid_view : public QTableView {
     grid_model* model_;
     first_column* first_ = nullptr;  // made at the first scroll sideways
     bool locked_ = false;
-    int first_column_px_ = 0;  // what its heading and cells need
+    int wrapped_column_ = -1;  // none
 };
 
 }  // namespace kel
