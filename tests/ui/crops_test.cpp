@@ -8,6 +8,7 @@
 #include "core/file_error.h"
 #include "core/module_messages.h"
 #include "crops/crop_messages.h"
+#include "shell/years_messages.h"
 #include "tests/ui/screen_fixture.h"
 
 namespace kel::test {
@@ -190,29 +191,89 @@ TEST_F(Crops, AMismatchIsAskedAboutAndItsListShown) {
     press_key(Qt::Key_Escape);
 }
 
-TEST_F(Crops, TheManureApplicationsAreOpenedFromTheStepAndCloseToIt) {
+TEST_F(Crops, TheManureRecordOfThisAndOfLastYearIsOpenedFromTheStepAndClosesToIt) {
     open_table();
-    add_row(state.assess_file, "Manure_applic",
-            {{"Field Area ID", "Long Rig"}, {"Date", "2025-03-01"}, {"Available N Rate", "24.336"}});
+    const std::string last = make_farm("last.kel", {{"Long Rig", "15"}}, 2023);
+    const auto spread = [](const std::string& file, const char* manure, const char* day) {
+        add_row(file, "Manure_applic",
+                {{"Field Area ID", "Long Rig"},
+                 {"Manure Type", manure},
+                 {"Date", day},
+                 {"Available N Rate", "24.336"},
+                 {"Available N Rate Next", "5.25"}});
+    };
+    spread(state.assess_file, "Pig slurry", "2025-03-01");
+    spread(last, "Layer manure", "2024-03-01");
     begin_row("Long", "Kale");
     enter_text("Carrots");
-    drive::click_cell(crops, 0, 12);
-    press("crop", "cmdCrops_manures_applications");
-    EXPECT_TRUE(in_view("reduction"));
-    EXPECT_FALSE(in_view("crop"));
-    person.expect(module_messages::close_module, answer::yes);
-    press("reduction", "cmdReductions_cancel");
-    ASSERT_TRUE(in_view("crop"));
-    EXPECT_EQ(cell(crops, 0, 2), "C");
-    press("crop", "cmdCrops_manures_transfer");
-    EXPECT_EQ(drive::control<QLineEdit>(screen("crop"), "txtCrops_manures")->text(), "24.34");
-    press("crop", "cmdCrops_manures_enter");
-    EXPECT_EQ(cell(crops, 0, 12), "24.34");
     drive::click_cell(crops, 0, 13);
     person.expect(says::not_linked);
     press("crop", "cmdCrops_manures_applications");
     EXPECT_TRUE(in_view("crop"));
     press_key(Qt::Key_Escape);
+
+    run->state().prev1_file = last;
+    struct {
+        int column;
+        const char* manure;
+        const char* transferred;
+    } const steps[] = {{12, "Pig slurry", "24.34"}, {13, "Layer manure", "5.25"}};
+    for (const auto& [column, manure, transferred] : steps) {
+        drive::click_cell(crops, 0, column);
+        press("crop", "cmdCrops_manures_applications");
+        EXPECT_FALSE(in_view("crop"));
+        EXPECT_EQ(cell(grid("reduction", "MSFlexGridReductions"), 0, 3), manure);
+        person.expect(module_messages::close_module, answer::yes);
+        press("reduction", "cmdReductions_cancel");
+        ASSERT_TRUE(in_view("crop"));
+        EXPECT_EQ(cell(crops, 0, 2), "C");
+        EXPECT_TRUE(shows("fraCrops_manures"));
+        press("crop", "cmdCrops_manures_transfer");
+        EXPECT_EQ(drive::control<QLineEdit>(screen("crop"), "txtCrops_manures")->text(), transferred);
+        EXPECT_EQ(focus_name(), "txtCrops_manures");
+        press("crop", "cmdCrops_manures_enter");
+        EXPECT_EQ(cell(crops, 0, column), transferred);
+    }
+}
+
+// The only way on which rows of one farm could end up in the file of another.
+TEST_F(Crops, AnotherFarmOpenedFromTheManureRecordBringsItsOwnCrops) {
+    const std::string other = make_farm("other.kel", {{"Haugh", "2", "Sands"}});
+    add_row(other, "Crops",
+            {{"Field Area ID", "Haugh"}, {"Next Crop", "WW"}, {"Winter Rainfall Status", "High"}});
+    state.no_related_prompt = 1;
+    open_table();
+    const std::string first = state.assess_file;
+    begin_row("Long", "Kale");
+    drive::click_cell(crops, 0, 12);
+    press("crop", "cmdCrops_manures_applications");
+    press("reduction", "cmdReductions_open");
+    person.expect_file("Open an existing assessment", other);
+    press("years", "cmdYear_browse1");
+    person.expect(years_messages::nothing_linked, answer::yes);
+    press("years", "cmdYear_ok");
+    person.expect(module_messages::close_module, answer::yes);
+    press("reduction", "cmdReductions_cancel");
+    ASSERT_TRUE(in_view("crop"));
+    EXPECT_FALSE(shows("fraCrops_manures"));
+    EXPECT_EQ(shown_text("crop", "lblCrops_instruction"), says::winter_instruction);
+    EXPECT_EQ(focus_name(), "optCrops_winter_rain_1");
+    press("crop", "cmdCrops_winter_rain");
+    EXPECT_EQ(crops->model()->rowCount(), 2);
+    EXPECT_EQ(cell(crops, 0, 0), "Haugh");
+    press("crop", "cmdCrops_save");
+    EXPECT_EQ(column_of(other, "Crops", "Field Area ID"), (texts{"Haugh"}));
+    EXPECT_TRUE(column_of(first, "Crops", "Field Area ID").empty());
+}
+
+TEST_F(Crops, TheWindowsOwnCloseRefusedLeavesTheOpenBoxItsFocus) {
+    open_table();
+    drive::click_cell(crops, 0, 0);
+    ASSERT_EQ(focus_name(), "lstCrops_field");
+    person.expect(module_messages::close_the_module, answer::no);
+    screen("crop")->close();
+    EXPECT_TRUE(shows("fraCrops_field"));
+    EXPECT_EQ(focus_name(), "lstCrops_field");
 }
 
 TEST_F(Crops, TheReportIsShownAndTheResultsAreStoredAsTheModuleCloses) {

@@ -124,9 +124,13 @@ void frmCrops_new::show_phase() {
     }
 }
 
-// A file that cannot be written leaves the results, too.
+// A file that cannot be written leaves the results, too. Where nothing changes the focus stays, too: it may
+// be in an open box.
 bool frmCrops_new::may_close() {
-    const auto shown = qScopeGuard([this] { show_phase(); });
+    const crop_phase before = module_.phase();
+    const auto shown = qScopeGuard([this, before] {
+        if (module_.phase() != before) show_phase();
+    });
     return module_.close();
 }
 
