@@ -82,6 +82,7 @@ class list_dialog : public QDialog {
         layout->addWidget(new_line("Label2", list.note));
         auto* rows = new QListWidget;
         rows->setObjectName("List1");
+        rows->setWordWrap(true);
         rows->setAccessibleName(qt(list.heading));
         for (const std::string& row : list.rows)
             rows->addItem(qt(row));

@@ -3,10 +3,13 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QScrollBar>
 
 namespace kel {
 
 namespace {
+
+constexpr int table_rounding_px = 2;
 
 // The tag of an icon in the field record is not closed, so that what fills its cell follows the address.
 QUrl address_alone(const QUrl& name) {
@@ -36,6 +39,11 @@ page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
     paper.setColor(QPalette::Link, QColor(0, 70, 160));
     setPalette(paper);
     document()->setDocumentMargin(16);
+    // A table of full width may come out wider than the page by what its columns were rounded up.
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int furthest) {
+        setHorizontalScrollBarPolicy(furthest > table_rounding_px ? Qt::ScrollBarAsNeeded
+                                                                  : Qt::ScrollBarAlwaysOff);
+    });
     connect(this, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& link) { follow(source().resolved(link)); });
 }
