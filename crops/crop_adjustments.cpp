@@ -226,8 +226,8 @@ std::optional<int> winter_rain_adjustment(std::string_view status, const rained_
 
 std::optional<int> spring_rain_adjustment(std::string_view status, const rained_on& row,
                                           rain_memory& memory) {
-    return rain_adjustment(status == rain_status::high, row, memory.soil_code, memory.spring_kg_per_ha,
-                           spring_figure);
+    const bool high = !status.empty() && status != rain_status::low;
+    return rain_adjustment(high, row, memory.soil_code, memory.spring_kg_per_ha, spring_figure);
 }
 
 std::optional<std::string_view> winter_rain_default(const database& climate, std::string_view town) {
