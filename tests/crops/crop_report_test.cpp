@@ -70,47 +70,22 @@ TEST_F(CropReport, TellsTheCropItsManuresTheFiguresAndTheAdjustmentsInOrder) {
         module.enter_answer(0, chosen(answer));
     module.enter_manures(0, col::manures, "40");
     module.enter_manures(0, col::previous_manures, "10");
-    expect_in_order(
-        page(),
-        {"Nitrogen Recommendations For Cropped Fields And Fields Where New Grass Is To Be Established",
-         "Field and crop details:",
-         "Field name:",
-         "North",
-         "Soil Type:",
-         "Sandy loams",
-         "Planned Crop:",
-         "Winter wheat (breadmaking)",
-         "Previous Crop:",
-         "Kale (Residue Group = 5)",
-         "Manures/slurries known to have been applied in the last two years:",
-         "Manure/Slurry Type",
-         "Incorporation Time",
-         "Date of Application",
-         "Application Rate (tonnes/ha)",
-         "02/03/2023",
-         "early March",
-         "01/03/2025",
-         "Recommendation summary:",
-         "Total N Requirement (kg/ha)",
-         "130 - 100",
-         "Obtained From Manures/Slurries (kg/ha)",
-         "50",
-         "Remaining Total Requirement (kg/ha)",
-         "160 - 130",
-         "Spring Application (kg/ha)",
-         "160 - 130",
-         "Seedbed Application (kg/ha)",
-         "0",
-         "Notes:",
-         "A 20% / 80% split",
-         taken_into_account,
-         "The intended market of the crop",
-         "Take-all",
-         "Manure applications to the crop",
-         "Manure applications to the previous crop",
-         "High winter rainfall",
-         "High spring rainfall",
-         "Generated from"});
+    // clang-format off
+    expect_in_order(page(), {
+        "Nitrogen Recommendations For Cropped Fields And Fields Where New Grass Is To Be Established",
+        "Field and crop details:", "Field name:", "North", "Soil Type:", "Sandy loams",
+        "Planned Crop:", "Winter wheat (breadmaking)", "Previous Crop:", "Kale (Residue Group = 5)",
+        "Manures/slurries known to have been applied in the last two years:",
+        "Manure/Slurry Type", "Incorporation Time", "Date of Application", "Application Rate (tonnes/ha)",
+        "02/03/2023", "early March", "01/03/2025",
+        "Recommendation summary:", "Total N Requirement (kg/ha)", "130 - 100",
+        "Obtained From Manures/Slurries (kg/ha)", "50", "Remaining Total Requirement (kg/ha)", "160 - 130",
+        "Spring Application (kg/ha)", "160 - 130", "Seedbed Application (kg/ha)", "0",
+        "Notes:", "A 20% / 80% split", taken_into_account,
+        "The intended market of the crop", "Take-all", "Manure applications to the crop",
+        "Manure applications to the previous crop", "High winter rainfall", "High spring rainfall",
+        "Generated from"});
+    // clang-format on
     EXPECT_EQ(viewer.hidden, screen_id::land);
     EXPECT_EQ(state.viewer_back, screen_id::crops);
 }
@@ -131,16 +106,14 @@ TEST_F(CropReport, VegetablesOnLightSoilsHaveTheirAdviceAndTheirTenth) {
     add_crop(0, "North", "Lettuce", "Winter barley");
     const std::string advice = "Further adjustments may be required for vegetable crops, for example:";
     const std::string tenth = "10% has been added for growing a vegetable crop sand or shallow soils";
-    const std::string text = page();
-    expect_in_order(text, {"Notes:", "Apply no more than 100kg/ha", advice, "Varietal differences",
-                           "Soil analysis", "Covered Crops", "starter fertilisers", "Double cropping",
-                           "then add an extra 15 kg/ha.", "FACTS adviser.", taken_into_account, tenth});
+    expect_in_order(page(), {"Notes:", "Apply no more than 100kg/ha", advice, "Varietal differences",
+                             "Soil analysis", "Covered Crops", "starter fertilisers", "Double cropping",
+                             "then add an extra 15 kg/ha.", "FACTS adviser.", taken_into_account, tenth});
     for (const auto pulse : {"Beans", "Peas"}) {
         plan(0, pulse);
         const std::string without = page();
-        EXPECT_FALSE(has(without, advice)) << pulse;
         expect_in_order(without, {"Notes:", taken_into_account, tenth});
-        EXPECT_FALSE(has(without, "None"));
+        EXPECT_FALSE(has(without, advice) || has(without, "None")) << pulse;
     }
 }
 

@@ -21,21 +21,6 @@ class CropSteps : public crops_test {
 
 }  // namespace
 
-TEST_F(CropSteps, EachCellOpensItsBoxAndTheGreyOnesNone) {
-    const std::pair<int, crop_box> boxes[] = {{col::field, crop_box::field},
-                                              {col::planned_crop, crop_box::planned_crop},
-                                              {col::previous_crop, crop_box::previous_crop},
-                                              {col::manures, crop_box::manures},
-                                              {col::previous_manures, crop_box::manures},
-                                              {col::spring_status, crop_box::question}};
-    for (const auto& [column, box] : boxes)
-        EXPECT_EQ(module.click(0, column).box, box_id(box)) << column;
-    for (const int column : {col::soil, col::residue_group, col::market, col::harvest}) {
-        person.expect(module_messages::calculation);
-        EXPECT_TRUE(module.click(0, column).box.none()) << column;
-    }
-}
-
 TEST_F(CropSteps, FieldIsRefusedInOrderAndTakesItsSoil) {
     add_row(state.assess_file, "Site", {{"Field Area ID", "South"}});
     person.expect(module_messages::no_field_id);
@@ -74,15 +59,6 @@ TEST_F(CropSteps, PreviousCropIsRefusedInOrder) {
     EXPECT_EQ(cell(0, col::winter_rain), "20");
 }
 
-TEST_F(CropSteps, PreviousHarvestOnLeapDayMovesToTheDayBefore) {
-    state.kel_year_start = make_date(19, 12, 2023);
-    module.open();
-    module.enter_winter_rain(dry_winter);
-    person.expect(says::previous_harvest_after_year);
-    EXPECT_EQ(module.enter_previous_crop(0, entry("Kale", make_date(29, 2, 2028))),
-              box_stays(1, {{1, "28/02/2023"}}));
-}
-
 TEST_F(CropSteps, PlannedCropIsRefusedInOrder) {
     ASSERT_TRUE(follow(0, "Winter wheat").closes);
     const auto enter = [&](const std::string& name, date cut, date seed) {
@@ -93,6 +69,8 @@ TEST_F(CropSteps, PlannedCropIsRefusedInOrder) {
     person.expect(says::harvest_before_year);
     EXPECT_EQ(enter("Kale", make_date(18, 12, 2024), make_date(1, 1, 2030)),
               box_stays(1, {{1, "18/12/2025"}}));
+    person.expect(says::harvest_before_year);
+    EXPECT_EQ(enter("Kale", make_date(29, 2, 2024), sown), box_stays(1, {{1, "28/02/2025"}}));
     person.expect(says::sowing_after_harvest);
     EXPECT_EQ(enter("Kale", make_date(1, 3, 2025), make_date(2, 3, 2025)), box_stays(2, {{2, "28/02/2025"}}));
     ASSERT_TRUE(module.enter_previous_crop(0, entry("Kale", make_date(2, 8, 2025))).closes);

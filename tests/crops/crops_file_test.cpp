@@ -29,31 +29,23 @@ class CropFile : public crops_test {
 
 }  // namespace
 
-TEST_F(CropFile, WinterRainIsThatOfTheTownUnlessOneIsStored) {
+TEST_F(CropFile, WinterRainIsThatOfTheTownUnlessOneIsStoredAndElseMustBeGiven) {
     open_farm({{"North", "5"}});
-    module.open();
+    const std::pair<std::string, std::optional<int>> towns[] = {
+        {"Cupar", dry_winter}, {"Dumfries", wet_winter}, {"", std::nullopt}, {"Atlantis", std::nullopt}};
+    for (const auto& [town, answer] : towns) {
+        state.farm_town = town;
+        module.open();
+        EXPECT_EQ(module.winter_answer(), answer) << town;
+    }
+    person.expect(says::no_winter_answer);
+    EXPECT_FALSE(module.enter_winter_rain(module.winter_answer()));
     EXPECT_EQ(module.phase(), crop_phase::winter_question);
-    EXPECT_EQ(module.winter_answer(), dry_winter);
-    state.farm_town = "Dumfries";
-    module.open();
-    EXPECT_EQ(module.winter_answer(), wet_winter);
+    EXPECT_TRUE(module.close()) << "not asked";
     store_crop(state.assess_file, {{"Field Area ID", "Gone"}, {"Winter Rainfall Status", "Low"}});
     person.expect(module_messages::field_does_not_exist("Gone"));
     module.open();
     EXPECT_EQ(module.winter_answer(), dry_winter);
-    EXPECT_TRUE(module.close());
-}
-
-TEST_F(CropFile, WithoutRainOfTheTownTheAnswerMustBeGiven) {
-    open_farm({{"North", "5"}});
-    for (const auto town : {"", "Atlantis"}) {
-        state.farm_town = town;
-        module.open();
-        EXPECT_EQ(module.winter_answer(), std::nullopt);
-        person.expect(says::no_winter_answer);
-        EXPECT_FALSE(module.enter_winter_rain(std::nullopt));
-        EXPECT_EQ(module.phase(), crop_phase::winter_question);
-    }
     EXPECT_TRUE(module.enter_winter_rain(wet_winter));
     EXPECT_EQ(module.phase(), crop_phase::table);
 }
@@ -144,19 +136,6 @@ TEST_F(CropFile, ManuresAreTransferredForTheDatesOfTheRow) {
     EXPECT_EQ(cells(0, col::manures, col::previous_manures), (texts{"", ""}));
 }
 
-TEST_F(CropFile, TheApplicationsOpenForThisCropAndForThePreviousOneOnlyWithALink) {
-    open({{"North", "5"}});
-    module.open_manures(0, col::manures);
-    EXPECT_EQ(state.manure_caller, manure_opener::new_crop);
-    person.expect(says::not_linked);
-    module.open_manures(0, col::previous_manures);
-    state.prev1_file = make_farm("last.kel", {{"North", "5"}}, 2023);
-    module.open_manures(0, col::previous_manures);
-    EXPECT_EQ(state.manure_caller, manure_opener::old_crop);
-    EXPECT_EQ(shown.in_place_of, (std::vector{std::pair{screen_id::crops, screen_id::manure},
-                                              std::pair{screen_id::crops, screen_id::manure}}));
-}
-
 TEST_F(CropFile, CalculateWantsEveryCropThenEveryPreviousCrop) {
     open({{"North", "5"}, {"South", "6"}});
     module.enter_field(0, "North");
@@ -175,24 +154,8 @@ TEST_F(CropFile, CalculateWantsEveryCropThenEveryPreviousCrop) {
     EXPECT_EQ(module.instruction(), says::results_instruction);
 }
 
-TEST_F(CropFile, ResultsAreWorkedOutRowByRowWithTheRainOfNow) {
-    open({{"North", "5", "Sands"}, {"South", "6", "Sands"}, {"West", "7", "Peaty soils"}}, wet_winter);
-    add_crop(0, "North", "Winter wheat", "Kale");
-    module.enter_manures(0, col::manures, "40");
-    module.enter_manures(0, col::previous_manures, "10.5");
-    add_crop(1, "South", "Cabbage", "Leek (average yield - 17.5 t/ha)");
-    add_crop(2, "West", "Linseed", "Winter wheat");
-    ASSERT_TRUE(module.calculate());
-    EXPECT_EQ(module.results().row_count(), 3);
-    const std::string note =
-        "A 33% / 67% split between the start of spring growth and growth stage 30-31 is recommended.";
-    EXPECT_EQ(result(0), (texts{"North", "109.5 - 79.5", "0", "109.5 - 79.5", "140 - 110", "50.5", note}));
-    EXPECT_EQ(result(1)[3], "355.5");
-    EXPECT_EQ(result(2), (texts{"West", "0", "0", "0", "0", "0", ""}));
-}
-
-TEST_F(CropFile, StoredRainIsWorkedOutAnewAndTheGuardSparesTheStoredMarket) {
-    open_farm({{"North", "5", "Sands"}});
+TEST_F(CropFile, ResultsHaveTheRainOfNowAndTheGuardSparesTheStoredMarket) {
+    open_farm({{"North", "5", "Sands"}, {"South", "6", "Sands"}});
     store_crop(state.assess_file, {{"Field Area ID", "North"},
                                    {"Soil Type", "Sands"},
                                    {"Next Crop", "SB (low N)"},
@@ -202,9 +165,15 @@ TEST_F(CropFile, StoredRainIsWorkedOutAnewAndTheGuardSparesTheStoredMarket) {
                                    {"Undersowing Adjustment (kg/ha)", "-25"},
                                    {"Winter Rainfall Adjustment (kg/ha)", "90"},
                                    {"Spring Rainfall Adjustment (kg/ha)", "90"}});
-    open_table();
+    open_table(wet_winter);
+    add_crop(1, "South", "Winter wheat", "Kale");
+    module.enter_manures(1, col::manures, "40");
+    module.enter_manures(1, col::previous_manures, "10.5");
     ASSERT_TRUE(module.calculate());
-    EXPECT_EQ(result(0)[3], "112");
+    EXPECT_EQ(result(0), (texts{"North", "112", "0", "112", "130", "0", ""}));
+    EXPECT_EQ(result(1), (texts{"South", "109.5 - 79.5", "0", "109.5 - 79.5", "140 - 110", "50.5",
+                                "A 33% / 67% split between the start of spring growth and growth stage 30-31 "
+                                "is recommended."}));
     module.back();
     person.expect(says::malting_after_crop);
     follow(0, "Beans");
