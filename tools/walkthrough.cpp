@@ -279,12 +279,13 @@ void walk::crops() {
     drive::press(crops, "cmdCrops_cancel");
 }
 
-// A row for the wet ground, where this barley is not to be grown; the messages tell so.
+// A row for the wet ground, where this barley is not to be grown: a message tells so and the crop is gone.
 void walk::refused_malting_barley(grid_view* table) {
     QWidget* crops = screen("crop");
     const int row = table->model()->rowCount() - 1;
     drive::enter_choice(crops, table, row, 0, "Crops_field", "Low Moss");
     drive::enter_choice(crops, table, row, 2, "Crops_ccrop", "Spring barley (low N malting)");
+    picture("crop", "crops_refused");
     drive::click_cell(table, row, 0);
     drive::press(crops, "cmdCrops_field_erase");
 }

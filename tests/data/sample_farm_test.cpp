@@ -285,6 +285,37 @@ TEST_F(SampleFarm, CropRowsAreAsTheCropsModuleWritesThemWithTheirRecommendations
               "30 - 0");
 }
 
+// No row can hold the refusal, since the row that it leaves has no crop and stops Calculate; the fields on
+// which the guide has it shown are there. The ley is why Station Park has feed barley.
+TEST_F(SampleFarm, LowNMaltingBarleyIsRefusedAfterTheLeyAndAfterThePermanentGrass) {
+    no_screens others;
+    const auto years = sample_years();
+    struct {
+        std::size_t year;
+        const char* field;
+        const char* previous;
+        const message& refusal;
+    } const cases[] = {
+        {1, "Station Park", nullptr, crop_messages::malting_after_crop},
+        {2, "Low Moss", "Permanent grass", crop_messages::malting_after_crop},
+        {2, "Low Moss", nullptr, crop_messages::malting_on_soil},
+    };
+    for (const auto& [year, field, previous, refusal] : cases) {
+        state.assess_file = years[year - 1].path;
+        open(years[year].path, years[year].start);
+        crop_module module(state, person, others);
+        module.open();
+        module.enter_winter_rain(module.winter_answer());
+        int row = module.crops().find(crop_column::field, field);
+        if (row < 0) module.enter_field(row = module.crops().data_row_count(), field);
+        if (previous) module.enter_previous_crop(row, {{{.text = previous}, {}}});
+        module.enter_planned_crop(row, {{{.text = "Spring barley (low N malting)"}, {}, {}}});
+        EXPECT_EQ(person.told.back(), refusal) << field;
+        EXPECT_EQ(module.crops().cell(row, crop_column::planned_crop), "") << field;
+        EXPECT_FALSE(module.calculate());
+    }
+}
+
 TEST(SampleChain, FirstCropsFollowLastYearsSecondCropsButForOneField) {
     const auto years = sample_years();
     std::vector<std::string> mismatches;
