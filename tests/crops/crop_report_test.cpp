@@ -91,7 +91,7 @@ TEST_F(CropReport, TellsTheCropItsManuresTheFiguresAndTheAdjustmentsInOrder) {
 }
 
 TEST_F(CropReport, ARowWithNothingToSayHasNone) {
-    open({{"North", "5", "Sandy loams"}});
+    open({{"North", "5", "Sands"}});
     add_crop(0, "North", "Linseed", "Winter barley");
     const std::string text = page();
     expect_in_order(text, {"Previous Crop:", "Winter barley (Residue Group = 1)",

@@ -12,7 +12,8 @@ const date previous_harvest = make_date(31, 7, 2024);
 class CropSteps : public crops_test {
   protected:
     void SetUp() override {
-        open({{"North", "5", "Sandy loams"}, {"South", "6", "Peaty soils"}}, wet_winter);
+        open({{"North", "5", "Sandy loams"}, {"South", "6", "Peaty soils"}, {"East", "7", "Humose soils"}},
+             wet_winter);
     }
     void add_use(const std::string& file, const std::string& pair) {
         add_row(file, "Land", {{"Field Area ID", "North"}, {"Crop", pair}});
@@ -84,8 +85,8 @@ TEST_F(CropSteps, PlannedCropIsRefusedInOrder) {
 }
 
 TEST_F(CropSteps, DatesAreOfferedFromTheRowAndElseFromTheYear) {
-    const auto days = [&](int column) {
-        const opening box = module.click(0, column);
+    const auto days = [&](int column, int row = 0) {
+        const opening box = module.click(row, column);
         texts found;
         for (std::size_t part = 1; part < box.parts.size(); ++part)
             found.push_back(box.parts[part].text);
@@ -95,6 +96,9 @@ TEST_F(CropSteps, DatesAreOfferedFromTheRowAndElseFromTheYear) {
     EXPECT_EQ(days(col::planned_crop).front(), "31/07/2025");
     add_crop(0, "North", "Kale", "Winter wheat");
     EXPECT_EQ(days(col::planned_crop), (texts{"31/07/2025", "01/10/2024"}));
+    // The sowing date of a new row is the one that was entered last.
+    module.enter_planned_crop(0, entry("Kale", harvest, make_date(5, 9, 2024)));
+    EXPECT_EQ(days(col::planned_crop, 1), (texts{"31/07/2025", "05/09/2024"}));
     EXPECT_EQ(module.click(0, col::planned_crop).parts.front().text, "Kale");
     EXPECT_EQ(module.click(0, col::previous_crop).parts.front().text, "Winter wheat");
 }
@@ -156,6 +160,12 @@ TEST_F(CropSteps, ClearingACellEmptiesWhatHangsOnIt) {
     module.clear_planned_crop(0);
     EXPECT_EQ(cells(0, col::planned_crop, col::spring_status),
               (texts{"", "K", "5", "", "", "", "", "", "", "", "40", "", "", "", "", ""}));
+    plan(0, "Potatoes");
+    module.enter_answer(0, chosen(3));
+    module.enter_answer(0, chosen(0));
+    EXPECT_EQ(cell(0, col::variety), "10");
+    module.clear_previous_crop(0);
+    EXPECT_EQ(cell(0, col::variety), "");
     EXPECT_TRUE(module.erase_row(0).closes);
     person.expect(module_messages::cannot_delete);
     EXPECT_FALSE(module.erase_row(0).closes);
@@ -188,8 +198,12 @@ TEST_F(CropSteps, LowNMaltingBarleyIsTakenOutAtEachOfItsThreeMoments) {
     follow(0, "Winter wheat");
     EXPECT_TRUE(plan(0, barley).next);
     person.expect(says::malting_on_soil);
-    EXPECT_TRUE(module.enter_field(0, "South").closes);
+    EXPECT_TRUE(module.enter_field(0, "East").closes);
     EXPECT_TRUE(emptied(0));
+    // Where both are wrong, the crop before is told.
+    follow(0, "Beans");
+    person.expect(says::malting_after_crop);
+    plan(0, barley);
 }
 
 }  // namespace kel::test

@@ -185,12 +185,12 @@ TEST_F(CropFile, BackAndCloseStoreTheRecommendationsInView) {
     for (const auto& [field, n] : {std::pair{"South", "1"}, {"Grassy", "2"}, {"South", "3"}})
         add_row(state.assess_file, "Recommendations", {{"Field Area ID", field}, {"N required", n}});
     add_crop(0, "North", "Winter wheat", "Kale");
-    add_crop(1, "South", "Carrots", "Winter wheat");
+    add_crop(1, "South", "Winter oilseed rape", "Winter wheat");
     ASSERT_TRUE(module.calculate());
     EXPECT_EQ(recommended().size(), 3U);
     module.back();
     EXPECT_EQ(module.phase(), crop_phase::table);
-    EXPECT_EQ(recommended(), (texts{"Grassy: 2", "North: 140 - 110", "South: 66"}));
+    EXPECT_EQ(recommended(), (texts{"Grassy: 2", "North: 140 - 110", "South: 210"}));
     EXPECT_TRUE(column_of(state.assess_file, "Crops", "Field Area ID").empty());
 
     module.enter_manures(1, col::manures, "6");
@@ -199,7 +199,7 @@ TEST_F(CropFile, BackAndCloseStoreTheRecommendationsInView) {
     person.expect(module_messages::close_the_module, answer::no);
     EXPECT_FALSE(module.close());
     EXPECT_EQ(module.phase(), crop_phase::results);
-    EXPECT_EQ(recommended(), (texts{"Grassy: 2", "North: 140 - 110", "South: 60"}));
+    EXPECT_EQ(recommended(), (texts{"Grassy: 2", "North: 140 - 110", "South: 204"}));
 }
 
 TEST_F(CropFile, AFileThatCannotBeWrittenLeavesTheTableAndItsOldRows) {
