@@ -24,8 +24,9 @@ std::vector<std::string> set_fieldlist(const std::string& assessment) {
 }
 
 bool is_assessment(const std::string& path, const application_state& state) {
-    const std::array<std::string, 3> worked_on{state.assess_file, state.prev1_file, state.prev2_file};
-    return std::any_of(worked_on.begin(), worked_on.end(),
+    const std::array<std::string, 6> files{state.assess_file,  state.prev1_file, state.prev2_file,
+                                           state.slot_current, state.slot_prev1, state.slot_prev2};
+    return std::any_of(files.begin(), files.end(),
                        [&](const std::string& file) { return !file.empty() && same_file(path, file); });
 }
 

@@ -141,7 +141,7 @@ last_year_facts last_year_facts_of(const field_history& field, const record_year
     last_year_facts facts;
     std::string harvest;
     if (field.crop) {
-        if (!field.crop->next_crop.empty()) facts.crop = crop_long_name(field.crop->next_crop);
+        facts.crop = crop_long_name(field.crop->next_crop);
         harvest = field.crop->previous_harvest;
     } else if (field.grass) {
         facts.crop = field.grass->use;

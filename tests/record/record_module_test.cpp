@@ -4,6 +4,9 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <memory>
 
 #include "core/file_error.h"
 #include "record/record_grid.h"
@@ -47,7 +50,7 @@ class FieldRecord : public farm_test {
         add_row(state.assess_file, "Recommendations", {{"Field Area ID", "Long Rig"}, {"N required", "60"}});
         apply_manure(state.assess_file, "Long Rig", "2005-03-01");
         apply_manure(state.assess_file, "Sold Field", "2005-03-02");
-        apply_nitrogen(state.assess_file, "Long Rig", "2005-04-02", "Urea; \"46\", prilled");
+        apply_nitrogen(state.assess_file, "Long Rig", "2005-04-02", "Urea \"46\",\tlate\nor never");
         apply_manure(state.prev1_file, "Long Rig", "2004-09-02");
         apply_nitrogen(state.prev1_file, "Long Rig", "2004-09-15", "Urea");
         apply_nitrogen(state.prev1_file, "Long Rig", "2004-09-01", "Urea");
@@ -106,7 +109,7 @@ TEST_F(FieldRecord, DrawsBothYearsOfTheFieldTogether) {
     EXPECT_EQ(column(col::day), (texts{"02/09/2004", "15/09/2004", "01/03/2005", "02/04/2005"}));
     EXPECT_EQ(column(col::crop), texts(4, "Winter wheat"));
     EXPECT_EQ(column(col::date_planted), (texts{"", "", "10/01/2005", "10/01/2005"}));
-    EXPECT_EQ(column(col::inorganic_type), (texts{"", "Urea", "", "Urea; \"46\", prilled"}));
+    EXPECT_EQ(column(col::inorganic_type), (texts{"", "Urea", "", "Urea \"46\",\tlate\nor never"}));
     EXPECT_EQ(column(col::amount), (texts{"", "100", "", "100"}));
     EXPECT_EQ(column(col::inorganic_n), (texts{"", "46", "", "46"}));
     EXPECT_EQ(column(col::manure), (texts{"Layer manure", "", "Layer manure", ""}));
@@ -153,7 +156,8 @@ TEST_F(FieldRecord, CopyAndCsvHoldEveryCellAndTheWarnings) {
         return line + "\r\n";
     };
     const std::string last_row =
-        R"("Winter wheat"|"10/01/2005"|"02/04/2005"|"Urea; ""46"", prilled"|"100"|"46"|""|""|""|""|"dry")";
+        "\"Winter wheat\"|\"10/01/2005\"|\"02/04/2005\"|\"Urea \"\"46\"\",\tlate\nor never\""
+        R"(|"100"|"46"|""|""|""|""|"dry")";
     const std::string copied = module.copied_text();
     const std::string copied_head = "Field Record: \t\"Long Rig\"\r\n\r\n" + with(headings, '\t');
     EXPECT_EQ(copied.substr(0, copied_head.size()), copied_head);
@@ -180,17 +184,25 @@ TEST_F(FieldRecord, CopyAndCsvHoldEveryCellAndTheWarnings) {
 
 TEST_F(FieldRecord, ACsvFileThatCannotBeWrittenLosesNothing) {
     open();
-    const std::string farm = file_text(state.prev1_file);
-    write_file(path("taken.csv"), "mine");
-    SQLite::Database(state.assess_file, SQLite::OPEN_READWRITE)
-        .backup(path("year.csv").c_str(), SQLite::Database::Save);
-    state.prev1_file = path("year.csv");
-    person.expect_file("CSV Export", path("year.csv")).expect(says::csv_over_assessment);
-    module.export_csv("");
-    EXPECT_EQ(file_text(path("year.csv")).substr(0, 6), "SQLite");
+    // Also that of the chain's newest year, while an older one is worked on.
+    for (std::string* file : {&state.prev1_file, &state.slot_current}) {
+        std::filesystem::copy_file(state.assess_file, path("year.csv"),
+                                   std::filesystem::copy_options::overwrite_existing);
+        const std::string linked = std::exchange(*file, path("year.csv"));
+        person.expect_file("CSV Export", path("year.csv")).expect(says::csv_over_assessment);
+        module.export_csv("");
+        EXPECT_EQ(file_text(path("year.csv")), file_text(state.assess_file));
+        *file = linked;
+    }
     person.expect_file("CSV Export", path("no such folder/x.csv"));
     EXPECT_THROW(module.export_csv(""), file_error);
-    EXPECT_EQ(file_text(path("taken.csv")), "mine");
+    if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device here that is always full";
+    write_file(path("kept.csv"), "mine");
+    std::filesystem::create_symlink("/dev/full", path("kept.csv.new"));
+    person.expect_file("CSV Export", path("kept.csv"));
+    EXPECT_THROW(module.export_csv(""), file_error);
+    EXPECT_EQ(file_text(path("kept.csv")), "mine");
+    person.verify_done();
 }
 
 TEST_F(FieldRecord, ReportsOneFieldOrAll) {
@@ -229,15 +241,35 @@ TEST_F(FieldRecord, ReportsOneFieldOrAll) {
     person.verify_done();
 }
 
-TEST_F(FieldRecord, AFileThatFailsLeavesTheFieldInView) {
+TEST_F(FieldRecord, LastYearsFileThatFailsLeavesTheFieldInView) {
     open();
     const text_grid before = module.record();
-    write_file(state.prev1_file, "no assessment");
-    EXPECT_THROW(module.select_field("East \"Muir\""), file_error);
+    const std::string linked = state.prev1_file;
+    std::unique_ptr<SQLite::Database> other_program;
+    const std::pair<const char*, std::function<void()>> troubles[] = {
+        {"gone", [&] { state.prev1_file = path("gone.kel"); }},
+        {"locked",
+         [&] {
+             state.prev1_file = linked;
+             other_program = std::make_unique<SQLite::Database>(linked, SQLite::OPEN_READWRITE);
+             other_program->exec("BEGIN EXCLUSIVE");
+         }},
+        {"damaged",
+         [&] {
+             other_program.reset();
+             write_file(linked, "no assessment");
+         }},
+    };
+    for (const auto& [trouble, arises] : troubles) {
+        SCOPED_TRACE(trouble);
+        arises();
+        EXPECT_THROW(module.select_field("East \"Muir\""), file_error);
+        EXPECT_EQ(module.field(), "Long Rig");
+        EXPECT_EQ(module.record(), before);
+    }
     EXPECT_THROW(module.record_load_stuff(), file_error);
     EXPECT_THROW(report(answer::no), file_error);
-    EXPECT_EQ(module.field(), "Long Rig");
-    EXPECT_EQ(module.record(), before);
+    EXPECT_EQ(module.field() + column(col::day).back(), "Long Rig02/04/2005");
     EXPECT_EQ(module.field_names().size(), 2U);
     state.prev1_file.clear();
     module.select_field("Long Rig");

@@ -134,6 +134,9 @@ TEST(RecordRows, LastYearJoinsFromTheHarvestOn) {
     const texts all_from_harvest{"01/09/2004", "02/09/2004", "18/12/2005", "01/01/2006"};
     field.crop = crop_record{"WW", "SB", "2005-01-10", "2004-09-01", ""};
     EXPECT_EQ(last_year("Winter wheat|"), all_from_harvest);
+    field.crop->next_crop.clear();
+    EXPECT_EQ(last_year("Unknown|"), all_from_harvest);
+    field.crop->next_crop = "WW";
     field.grass = site_record{"Silage", "2004-01-01"};
     EXPECT_EQ(last_year("Winter wheat|"), all_from_harvest) << "the crops row is asked first";
     field.crop.reset();
