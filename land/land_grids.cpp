@@ -155,9 +155,9 @@ text_grid load_stock(const database& db, float& working_constant) {
     return animals;
 }
 
-void import_land(const import_source& source, import_mode mode, text_grid& land, load_messages& told) {
+bool import_land(const import_source& source, import_mode mode, text_grid& land, load_messages& told) {
     const known_fields known(source.farm);
-    import_rows(source.file, land_table, land, {}, mode, land_rules(known), told);
+    return import_rows(source.file, land_table, land, {}, mode, land_rules(known), told);
 }
 
 void import_stock(const import_source& source, import_mode mode, text_grid& animals,

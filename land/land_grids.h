@@ -50,8 +50,8 @@ text_grid fields_to_grid(const std::vector<farm_field>& fields);
 /// [Land] with the field limits, without the rows of fields that the profile lacks.
 text_grid load_land(const database& db, const std::vector<farm_field>& fields, load_messages& told);
 /// The rows of [Land] in another assessment, total area and carried columns included, below those of the
-/// table or in their place; a field may come twice.
-void import_land(const import_source& source, import_mode mode, text_grid& land, load_messages& told);
+/// table or in their place; a field may come twice. False, and the table as it was, if there are none.
+bool import_land(const import_source& source, import_mode mode, text_grid& land, load_messages& told);
 /// [Land_animals], recalculated, so that the program's constants replace those of the file.
 text_grid load_stock(const database& db, float& working_constant);
 

@@ -1,5 +1,6 @@
 #include "land/land_module.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/carried_columns.h"
@@ -52,7 +53,7 @@ void land_module::load_land_stuff() {
         if (land.data_row_count() == 0) land = fields_to_grid(fields);
         animals = load_stock(db, constant);
     }
-    land_imported_ = false;
+    imported_from_.reset();
     land_ = std::move(land);
     animals_ = std::move(animals);
     loaded_ = std::move(loaded);
@@ -191,6 +192,7 @@ outcome land_module::clear_number(int row) {
 }
 
 outcome land_module::erase_land_row(int row) {
+    if (imported_from_ && row < *imported_from_) --*imported_from_;
     return erase_data_row(person_, land_, row);
 }
 
@@ -202,8 +204,9 @@ bool land_module::import_land(import_mode mode) {
     const auto source = open_import(state_, person_, mode);
     if (!source) return false;
     load_messages told;
-    kel::import_land(*source, mode, land_, told);
-    land_imported_ = true;
+    const int first = mode == import_mode::over_write ? 0 : land_.data_row_count();
+    if (kel::import_land(*source, mode, land_, told))
+        imported_from_ = std::min(imported_from_.value_or(first), first);
     told.tell(person_);
     return true;
 }
@@ -238,12 +241,12 @@ bool land_module::save() {
     fill_deductions(land);
     module_save file(state_, person_, loaded_, *target);
     if (!file) return false;
-    if (!land_imported_) take_carried(file.db(), "Land", land, land.data_row_count());
+    take_carried(file.db(), "Land", land, imported_from_.value_or(land.data_row_count()));
     save_land(file.db(), land);
     save_stock(file.db(), animals_);
     file.commit();
     land_ = std::move(land);
-    land_imported_ = false;
+    imported_from_.reset();
     return true;
 }
 

@@ -79,7 +79,7 @@ class land_module {
     application_state& state_;
     prompts& person_;
     text_grid land_;
-    bool land_imported_ = false;  // its carried columns are not those of the file
+    std::optional<int> imported_from_;  // the row from which on carried columns are not those of the file
     text_grid animals_;
     loaded_rows loaded_;
     std::vector<std::string> field_names_;

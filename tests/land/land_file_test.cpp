@@ -202,6 +202,37 @@ TEST_F(LandFile, ImportCarriesEveryColumnAndLetsAFieldComeTwice) {
     EXPECT_TRUE(stored("Land", "Field Area ID").empty());
 }
 
+// Step 2 may save while rows that were imported wait here for their save.
+TEST_F(LandFile, OnlyImportedRowsBringTheirMonthsAlong) {
+    open_farm({{"Long Rig", "15"}, {"East Muir", "8"}, {"Haugh", "2"}});
+    for (const char* field : {"Long Rig", "East Muir"})
+        add_land(field, {{"January", "Closed"}});
+    module.load_land_stuff();
+    const std::string other = make_farm("other.kel", {}, 2024);
+    add_row(other, "Land", {{"Field Area ID", "Haugh"}, {"January", "2"}, {"Crop", "Grass / Other"}});
+    const auto imports = [&](import_mode mode, const std::string& file) {
+        person.expect_file(mode == import_mode::add ? "Add data from another assessment"
+                                                    : "Replace with data from another assessment",
+                           file);
+        return module.import_land(mode);
+    };
+    const auto step2_closes = [&](const char* month) {
+        database(state.assess_file).update_rows("Land", {{month, "Closed"}}, "Field Area ID", "East Muir");
+    };
+    ASSERT_TRUE(imports(import_mode::add, other));
+    ASSERT_TRUE(module.erase_land_row(0).closes);
+    step2_closes("October");
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"East Muir", "Haugh"}));
+    EXPECT_EQ(stored("Land", "January"), (texts{"Closed", "2"}));
+    EXPECT_EQ(stored("Land", "October"), (texts{"Closed", ""}));
+    EXPECT_EQ(stored("Land", "Crop"), (texts{"", "Grass / Other"}));
+    ASSERT_TRUE(imports(import_mode::over_write, make_farm("empty.kel", {}, 2024)));
+    step2_closes("August");
+    ASSERT_TRUE(module.save());
+    EXPECT_EQ(stored("Land", "August"), (texts{"Closed", ""})) << "an empty table brought nothing";
+}
+
 TEST_F(LandFile, ImportedStockIsWorkedOutAnew) {
     open({{"Long Rig", "15"}});
     enter_sheep(0, "10");
