@@ -84,12 +84,16 @@ void fill_empty_months(text_grid& land, int row) {
             land.set_cell(row, column, land.cell(row, plan_column::available));
 }
 
-// What is entered here, where it is not empty; the areas are Step 1's, and stand in the file as that saved
-// them. A month that is closed in the file is open again when its cell is empty: the field's use has been
-// entered anew.
-void set_filled_cells(recordset& target, const std::vector<int>& stored, const text_grid& grid, int row) {
+// The areas are Step 1's, and stand in the file as that saved them, unless they were imported.
+enum class written { what_is_entered, every_column };
+
+// Where it is not empty. A month that is closed in the file is open again when its cell is empty: the field's
+// use has been entered anew.
+void set_filled_cells(recordset& target, const std::vector<int>& stored, const text_grid& grid, int row,
+                      written what) {
     for (int c = 0; c < grid.column_count(); ++c) {
-        if (grid.columns()[static_cast<std::size_t>(c)].kind != column_kind::entered) continue;
+        const bool is_entered = grid.columns()[static_cast<std::size_t>(c)].kind == column_kind::entered;
+        if (!is_entered && what == written::what_is_entered) continue;
         const int into = stored[static_cast<std::size_t>(c)];
         const std::string& text = grid.cell(row, c);
         if (!text.empty() || target.text(into) == closed_month) target.set_kept(into, text);
@@ -99,6 +103,43 @@ void set_filled_cells(recordset& target, const std::vector<int>& stored, const t
 void open_closed_months(text_grid& grid, int row, int january) {
     for (int column = january; column < january + months_in_year; ++column)
         if (grid.cell(row, column) == closed_month) grid.set_cell(row, column, "");
+}
+
+void write_plan(const database& db, const land_plan& plan, written what) {
+    std::multimap<std::string_view, int> rows_of_field;  // rows of one name keep their order
+    for (int row = 0; row < plan.fields(); ++row)
+        rows_of_field.emplace(plan.land.cell(row, plan_column::field), row);
+    recordset rows = db.open("Land");
+    const std::vector<int> land = stored_columns(rows, plan.land);
+    const std::vector<int> spreading = stored_columns(rows, plan.spreading);
+    for (; !rows.eof(); rows.move_next()) {
+        const std::string name = rows.text(land[plan_column::field]);
+        const auto found = rows_of_field.lower_bound(name);
+        if (found == rows_of_field.end() || found->first != name) continue;
+        rows.edit();
+        set_filled_cells(rows, land, plan.land, found->second, what);
+        set_filled_cells(rows, spreading, plan.spreading, found->second, what);
+        rows.update();
+        rows_of_field.erase(found);
+    }
+}
+
+// Each with its size in the profile, as Step 1 begins it.
+void add_missing_rows(const database& db, const land_plan& plan) {
+    std::map<std::string, std::string> missing;
+    for (farm_field& field : read_farm_fields(db))
+        missing.emplace(std::move(field.name), std::move(field.size));
+    recordset rows = db.open("Land");
+    for (; !rows.eof(); rows.move_next())
+        missing.erase(rows.text("Field Area ID"));
+    for (int row = 0; row < plan.fields(); ++row) {
+        const auto field = missing.extract(plan.land.cell(row, plan_column::field));
+        if (!field) continue;
+        rows.add_new();
+        rows.set("Field Area ID", field.key());
+        rows.set("Total Area", field.mapped());
+        rows.update();
+    }
 }
 
 void set_column_total(text_grid& grid, int column, int fields) {
@@ -129,22 +170,12 @@ land_plan load_land_plan(const database& db, const std::vector<farm_field>& fiel
 }
 
 void save_land_plan(const database& db, const land_plan& plan) {
-    std::multimap<std::string_view, int> rows_of_field;  // rows of one name keep their order
-    for (int row = 0; row < plan.fields(); ++row)
-        rows_of_field.emplace(plan.land.cell(row, plan_column::field), row);
-    recordset rows = db.open("Land");
-    const std::vector<int> land = stored_columns(rows, plan.land);
-    const std::vector<int> spreading = stored_columns(rows, plan.spreading);
-    for (; !rows.eof(); rows.move_next()) {
-        const std::string name = rows.text(land[plan_column::field]);
-        const auto found = rows_of_field.lower_bound(name);
-        if (found == rows_of_field.end() || found->first != name) continue;
-        rows.edit();
-        set_filled_cells(rows, land, plan.land, found->second);
-        set_filled_cells(rows, spreading, plan.spreading, found->second);
-        rows.update();
-        rows_of_field.erase(found);
-    }
+    write_plan(db, plan, written::what_is_entered);
+}
+
+void save_imported_plan(const database& db, const land_plan& plan) {
+    add_missing_rows(db, plan);
+    write_plan(db, plan, written::every_column);
 }
 
 void set_field_use(land_plan& plan, int row, const crop_pair& use, int harvest_month) {

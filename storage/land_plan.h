@@ -44,6 +44,9 @@ land_plan load_land_plan(
 /// Writes what is entered here and not empty into the fields' rows of [Land]. Call it within a
 /// save_transaction.
 void save_land_plan(const database& db, const land_plan& plan);
+/// The same of a plan taken over from another assessment, whose soil and areas came with it. A field that
+/// [Land] lacks gets its row there.
+void save_imported_plan(const database& db, const land_plan& plan);
 
 /// A field's use: its closed months in both tables, and the land that the crops leave in the others. Land
 /// under a crop is free only after the month of harvest (1 to 12); grassland is free all year.

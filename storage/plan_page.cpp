@@ -33,7 +33,20 @@ plan_page::plan_page(application_state& state, prompts& person)
 void plan_page::take(text_grid production, land_plan plan) {
     production_ = std::move(production);
     plan_ = std::move(plan);
+    set_saved();
+}
+
+void plan_page::save(const database& db) const {
+    save_production(db, production_);
+    if (land_imported_)
+        save_imported_plan(db, plan_);
+    else
+        save_land_plan(db, plan_);
+}
+
+void plan_page::set_saved() {
     changed_ = false;
+    land_imported_ = false;
 }
 
 void plan_page::clear() {
@@ -73,6 +86,7 @@ bool plan_page::import_land() {
     if (!source->file.open("Land").eof()) {
         plan_ =
             load_land_plan(source->file, source->farm, told, storage_messages::imported_field_does_not_exist);
+        land_imported_ = true;
         changed_by_import();
     }
     told.tell(person_);

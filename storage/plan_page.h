@@ -78,7 +78,9 @@ class plan_page {
 
     /// Whether there are entries that save_storage has not written.
     bool changed() const { return changed_; }
-    void set_saved() { changed_ = false; }
+    /// Writes the stock and the fields. Call it within a save_transaction; set_saved once that is through.
+    void save(const database& db) const;
+    void set_saved();
 
     /// The tables as storage_cont2 read them.
     void take(text_grid production, land_plan plan);
@@ -104,7 +106,8 @@ class plan_page {
     std::optional<storage_balance> balance_;
     plan_tab tab_ = plan_tab::production;
     bool changed_ = false;
-    int harvest_year_ = 0;  // of the date that the box of a field's use offered first
+    bool land_imported_ = false;  // with soil and areas that are not those of the file
+    int harvest_year_ = 0;        // of the date that the box of a field's use offered first
 };
 
 }  // namespace kel

@@ -141,18 +141,19 @@ bool storage_module::save_storage() {
     const auto target = file_to_save(state_, person_, "Cannot Save");
     if (!target) return false;
     const bool new_file = !target->made_from.empty();
-    if (!new_file && stores_.imported() && !stores_.save_imported()) return false;
+    if (!new_file && !stores_.may_save_imported()) return false;
     module_save file(state_, person_, plan_rows_, *target);
     if (!file) return false;
     if (new_file) {
         write_store_in(file.db(), rain_mm_, water_.answers());
         save_stores(file.db(), stores_.stores());
     }
-    save_production(file.db(), plan_.production());
-    save_land_plan(file.db(), plan_.fields());
+    stores_.save_imported(file.db());
+    plan_.save(file.db());
     save_december_percent(file.db(), plan_.balance());
     file.commit();
     if (new_file) stores_.take(stores_.stores(), file.db());
+    stores_.set_saved(file.db());
     plan_.set_saved();
     return true;
 }

@@ -151,10 +151,16 @@ void stores_page::take(text_grid stores, const database& db) {
     take(std::move(stores));
 }
 
-bool stores_page::save_imported() {
-    if (!write(stores_)) return false;
-    imported_ = false;
-    return true;
+bool stores_page::may_save_imported() const {
+    return !imported_ || loaded_.may_be_replaced(state_.assess_file, person_);
+}
+
+void stores_page::save_imported(const database& db) const {
+    if (imported_) save_stores(db, stores_);
+}
+
+void stores_page::set_saved(const database& db) {
+    if (std::exchange(imported_, false)) loaded_.remember(db);
 }
 
 bool stores_page::import_records(import_mode mode) {

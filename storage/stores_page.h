@@ -42,8 +42,11 @@ class stores_page {
     /// it was. From then on the table is written by save_imported only.
     bool import_records(import_mode mode);
     bool imported() const { return imported_; }
-    /// False if the person keeps what another program wrote there.
-    bool save_imported();
+    /// For the save of the third page: whether imported stores, if there are any, may go over what the file
+    /// holds; their writing, within its save_transaction; and what follows once that is through.
+    bool may_save_imported() const;
+    void save_imported(const database& db) const;
+    void set_saved(const database& db);
 
     /// The table as storage_cont1 read it from the file, in place of what stands here.
     void take(text_grid stores, const database& db);

@@ -305,7 +305,52 @@ TEST_F(StorageFlow, ImportedStockAndFieldsAreWorkedIntoTheTables) {
     EXPECT_TRUE(stored("Slurry_animals", "Number").empty());
     ASSERT_TRUE(module.save_storage());
     EXPECT_EQ(stored("Land", "Crop"), (texts{"", "Other / Grass"}));
+    EXPECT_EQ(stored("Land", "Available Field Area (ha)"), (texts{"10", "4"})) << "areas come along";
     EXPECT_EQ(stored("Slurry_animals", "Stock Unit"), texts{"Llamas"});
+}
+
+TEST_F(StorageFlow, ImportedFieldsThatLandLacksGetTheirRows) {
+    open_farm({{"Home", "10"}, {"Far", "5"}});
+    add_land({"Home", "10"}, {});
+    module.storage_load_stuff();
+    walk_to_plan();
+    const std::string other = make_farm("other.kel", {}, 2024);
+    for (const char* area : {"4", "3"})
+        add_row(other, "Land",
+                {{"Field Area ID", "Far"}, {"Soil", "Sands"}, {"Available Field Area (ha)", area}});
+    person.expect_file("Replace with data from another assessment", other);
+    ASSERT_TRUE(plan.import_land());
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"Home", "Far"}));
+    EXPECT_EQ(stored("Land", "Available Field Area (ha)"), (texts{"10", "4"}));
+    EXPECT_EQ(stored("Land", "Total Area"), (texts{"", "5"}));
+    EXPECT_EQ(stored("Land", "May"), (texts{"", "4"}));
+    // From then on the areas are Step 1's again.
+    database(state.assess_file).update_rows("Land", {{"Soil", "Humose soils"}}, "Field Area ID", "Far");
+    person.expect(rows_changed_meanwhile(state.assess_file), answer::yes);
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Land", "Soil"), (texts{"Other mineral soils", "Humose soils"}));
+}
+
+TEST_F(StorageFlow, ASaveWithImportedStoresIsWholeOrNot) {
+    open_plan();
+    module.back();
+    const std::string other = make_farm("other.kel", {}, 2024);
+    add_row(other, "Slurry_store", {{"Store_name", "Lagoon"}});
+    person.expect_file("Replace with data from another assessment", other);
+    ASSERT_TRUE(module.stores().import_records(import_mode::over_write));
+    ASSERT_TRUE(module.storage_cont2());
+    const message asked = rows_changed_meanwhile(state.assess_file);
+    add_row(state.assess_file, "Slurry_animals", {{"Stock Unit", "theirs"}});
+    person.expect(asked, answer::no);
+    EXPECT_FALSE(module.save_storage());
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Tank"});
+    add_row(state.assess_file, "Slurry_store", {{"Store_name", "Their tank"}});
+    person.expect(asked, answer::no);
+    EXPECT_FALSE(module.save_storage());
+    person.expect(asked, answer::yes).expect(asked, answer::yes);
+    EXPECT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Lagoon"});
 }
 
 }  // namespace kel::test
