@@ -56,7 +56,9 @@ QWidget* storage_stores_page::form(frmStorage& screen) {
     layout->addLayout(lines_);
     auto* row = new QHBoxLayout;
     row->addStretch();
-    screen.add_command(row, tr("&Add To List"), "cmdStores_add", [this] { add_store(); });
+    auto* add = screen.add_command(row, tr("&Add To List"), "cmdStores_add", [this] { add_store(); });
+    for (const store_box& box : boxes_)
+        connect(box.edit, &QLineEdit::returnPressed, add, &QPushButton::click);
     layout->addLayout(row);
     layout->addStretch(1);
     connect(shape_, &QListWidget::itemSelectionChanged, this, &storage_stores_page::shape_chosen);
@@ -70,7 +72,6 @@ QLineEdit* storage_stores_page::add_box(const QString& caption, const char* name
     auto* box = number ? new_number_box(name, this) : new QLineEdit(this);
     box->setObjectName(name);
     box->setAccessibleName(QString(caption).remove('&').remove(':'));
-    connect(box, &QLineEdit::returnPressed, this, &storage_stores_page::add_store);
     lines_->addRow(caption, box);
     boxes_.push_back({box, text});
     return box;
