@@ -1,7 +1,10 @@
 #include "core/grid_rows.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <array>
 
+#include "core/file_error.h"
 #include "tests/support/farm_files.h"
 #include "tests/support/scripted_prompts.h"
 
@@ -110,12 +113,24 @@ TEST_F(GridRows, ImportOfAnEmptyTableChangesNothingAndOfUnknownFieldsLeavesNone)
     EXPECT_EQ(fields_of(grid), (texts{"inputs", "", ""}));
 }
 
-TEST_F(GridRows, ImportFromWhatIsNoAssessmentNamesTheFileAndChangesNothing) {
-    const std::string file = path("letter.kel");
-    write_file(file, "Dear Sir, this is no database but a letter of some length.");
-    text_grid grid = framed_grid();
-    EXPECT_THROW(import(file, grid, import_mode::over_write), file_error);
-    EXPECT_EQ(grid, framed_grid());
+TEST_F(GridRows, ImportFromAFileThatIsNoWholeAssessmentNamesItAndChangesNothing) {
+    const std::string letter = path("letter.kel");
+    write_file(letter, "Dear Sir, this is no database but a letter of some length.");
+    const std::string poor = other_farm({"Long Rig"});
+    SQLite::Database(poor, SQLite::OPEN_READWRITE).exec("ALTER TABLE [Land] DROP COLUMN [Soil]");
+    const std::pair<std::string, const char*> files[] = {
+        {letter, "it is not an assessment file, or it is damaged."},
+        {poor, "its table [Land] has no column [Soil]."}};
+    for (const auto& [file, trouble] : files) {
+        text_grid grid = framed_grid();
+        try {
+            import(file, grid, import_mode::over_write);
+            ADD_FAILURE() << file << " was taken";
+        } catch (const file_error& failure) {
+            EXPECT_EQ(failure.file() + failure.trouble(), file + trouble);
+        }
+        EXPECT_EQ(grid, framed_grid());
+    }
 }
 
 }  // namespace
