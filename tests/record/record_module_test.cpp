@@ -106,17 +106,17 @@ TEST_F(FieldRecord, DrawsBothYearsOfTheFieldTogether) {
     open();
     EXPECT_EQ(module.field_names(), (texts{"Long Rig", "East \"Muir\""}));
     EXPECT_EQ(module.field(), "Long Rig");
-    EXPECT_EQ(column(col::day), (texts{"02/09/2004", "15/09/2004", "01/03/2005", "02/04/2005"}));
-    EXPECT_EQ(column(col::crop), texts(4, "Winter wheat"));
-    EXPECT_EQ(column(col::date_planted), (texts{"", "", "10/01/2005", "10/01/2005"}));
-    EXPECT_EQ(column(col::inorganic_type), (texts{"", "Urea", "", "Urea \"46\",\tlate\nor never"}));
-    EXPECT_EQ(column(col::amount), (texts{"", "100", "", "100"}));
-    EXPECT_EQ(column(col::inorganic_n), (texts{"", "46", "", "46"}));
-    EXPECT_EQ(column(col::manure), (texts{"Layer manure", "", "Layer manure", ""}));
-    EXPECT_EQ(column(col::n_content), (texts{"16", "", "16", ""}));
-    EXPECT_EQ(column(col::rate), (texts{"8", "", "8", ""}));
-    EXPECT_EQ(column(col::manure_n), (texts{"128", "", "128", ""}));
-    EXPECT_EQ(column(col::comments), (texts{"", "dry", "", "dry"}));
+    const texts rows{"Winter wheat||02/09/2004||||Layer manure|16|8|128||",
+                     "Winter wheat||15/09/2004|Urea|100|46|||||dry|",
+                     "Winter wheat|10/01/2005|01/03/2005||||Layer manure|16|8|128||",
+                     "Winter wheat|10/01/2005|02/04/2005|Urea \"46\",\tlate\nor never|100|46|||||dry|"};
+    ASSERT_EQ(module.record().row_count(), 4);
+    for (int row = 0; row < 4; ++row) {
+        std::string cells;
+        for (int c = 0; c < module.record().column_count(); ++c)
+            cells += module.record().cell(row, c) + "|";
+        EXPECT_EQ(cells, rows[static_cast<std::size_t>(row)]);
+    }
     EXPECT_EQ(warnings(), (texts{says::requirement_exceeded("92", "60"), says::manure_breach("02/09/2004"),
                                  says::inorganic_breach("15/09/2004"), std::string(says::limit_breached)}));
     EXPECT_EQ(module.warnings().cell(0, record_warning_column::icon_path), "graphics/alert.ico");
