@@ -175,6 +175,9 @@ void walk::step1() {
     drive::click_cell(animals, animals->model()->rowCount() - 1, 0);
     picture("land", "land_stock_box");
     drive::key(drive::control(land, "lstLand_animal"), Qt::Key_Escape);
+    drive::press(land, "cmdImport_land2");
+    picture("land", "land_import");
+    drive::press(land, "cmdImport_land2_cancel");
     drive::press(land, "cmdLand_continue2");
     picture("land", "first_farm_7");
     drive::press(land, "cmdReport");
