@@ -178,6 +178,11 @@ TEST_F(ImportPanel, StaysOpenUntilItHasAFileAndKeepsTheOtherCommandsAway) {
         click(screen(panel.tag), command(""));
         ASSERT_TRUE(open());
         EXPECT_EQ(focus_name(), from_qt(first()));
+        const QStringList others = only_replaces() ? QStringList{"_cancel"} : QStringList{"_over", "_cancel"};
+        for (const QString& other_button : others) {
+            press_key(Qt::Key_Tab);
+            EXPECT_EQ(focus_name(), from_qt("cmd" + qt(panel.name) + other_button));
+        }
         expect_others_enabled(false);
         QStringList words;
         for (const auto* label :

@@ -61,6 +61,15 @@ QPushButton* entry_box::add_button(const QString& caption, const QString& suffix
     return button;
 }
 
+void entry_box::put_cancel_last() {
+    std::rotate(buttons_.begin() + 1, buttons_.begin() + 2, buttons_.end());
+    for (QPushButton* button : buttons_)
+        layout_->removeWidget(button);
+    int column = 0;
+    for (QPushButton* button : buttons_)
+        layout_->addWidget(button, button_row, column++);
+}
+
 void entry_box::use_form(entry_form* form) {
     form_ = form;
     layout_->addWidget(form_, form_row, 0, 1, columns);

@@ -36,6 +36,8 @@ class entry_box : public QFrame {
     void on_enter(box_operation enter) { enter_ = std::move(enter); }
     QPushButton* add_button(const QString& caption, const QString& suffix, box_operation action);
     QPushButton* enter_button() const { return buttons_.front(); }
+    /// Behind the buttons that were added, where it else stands ahead of them.
+    void put_cancel_last();
 
     /// Opens over the current cell.
     void open(const opening& shown);

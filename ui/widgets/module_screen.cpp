@@ -71,6 +71,7 @@ void module_screen::add_import(QBoxLayout* row, grid_view& grid, const QString& 
     box->enter_button()->setText("&" + qt(import_messages::add));
     box->enter_button()->setObjectName("cmd" + name + "_add");
     box->add_button("O&" + qt(import_messages::over_write).mid(1), "over", run(import_mode::over_write));
+    box->put_cancel_last();
 }
 
 void module_screen::add_table_import(QBoxLayout* row, grid_view& grid, const QString& name,
