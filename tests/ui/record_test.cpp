@@ -4,6 +4,7 @@
 #include <QTableWidget>
 
 #include "core/file_error.h"
+#include "record/record_grid.h"
 #include "record/record_messages.h"
 #include "tests/ui/screen_fixture.h"
 
@@ -13,10 +14,15 @@ namespace says = record_messages;
 
 class RecordScreen : public screen_test {
   protected:
+    const QString long_manure = "Fattening cattle slurry (400kg) - medium dry matter (6%)";
+
     void open() {
         state.no_link_prompt = 1;
         start_with({{"Long Rig", "15"}, {"East Muir", "8"}});
         apply("Long Rig", "100");
+        add_row(
+            state.assess_file, "Manure_applic",
+            {{"Field Area ID", "Long Rig"}, {"Date", "2025-04-03"}, {"Manure Type", from_qt(long_manure)}});
         add_row(state.assess_file, "Recommendations", {{"Field Area ID", "Long Rig"}, {"N required", "90"}});
         press("front", "cmdFront_record");
         ASSERT_TRUE(in_view("record"));
@@ -47,6 +53,7 @@ TEST_F(RecordScreen, ChoosingAFieldShowsItsRowsAndWarnings) {
     open();
     EXPECT_EQ(from_qt(fields()->currentText()), "Long Rig");
     EXPECT_EQ(record_cell(0, 2) + " " + record_cell(0, 3) + " " + record_cell(0, 5), "02/04/2025 Urea 100");
+    EXPECT_TRUE(grid("record", "MSFlexGrid1")->fits(record_column::manure, long_manure));
     EXPECT_EQ(warnings(), texts{"Alert: " + says::requirement_exceeded("100", "90")});
     EXPECT_EQ(focus_name(), "Combo1");
     press_key(Qt::Key_Down);

@@ -119,6 +119,7 @@ void Field_Record::show_warnings() {
 
 void Field_Record::refresh() {
     record_->refresh();
+    record_->fit_column(record_column::manure);
     show_warnings();
 }
 
