@@ -85,6 +85,7 @@ TEST(RecordAnalysis, ClosedPeriodsAreThoseOfTheYearOfTheDay) {
     field_history field = quiet_field();
     field.current.land = closed_in(10, "Grass / Other");
     field.previous.land = closed_in(9, "Other / Grass");
+    field.previous.land->closed_months.back() = true;
     const struct {
         record_row row;
         std::string told;
@@ -94,7 +95,8 @@ TEST(RecordAnalysis, ClosedPeriodsAreThoseOfTheYearOfTheDay) {
          "review "
          "your manure applications."},
         {manure_row(make_date(31, 10, 2005), "1", "Pig FYM stored uncovered, outside"), ""},
-        {manure_row(make_date(18, 12, 2004), "1"), ""},
+        {manure_row(make_date(18, 12, 2004), "1"), text::manure_breach("18/12/2004")},
+        {manure_row(make_date(19, 12, 2004), "1"), ""},
         {manure_row(make_date(30, 9, 2005), "1"), ""},
         {manure_row(make_date(30, 9, 2004), "1"), text::manure_breach("30/09/2004")},
         {inorganic_row(make_date(15, 2, 2005), "1"),

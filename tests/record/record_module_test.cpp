@@ -48,6 +48,10 @@ class FieldRecord : public farm_test {
                  {"Hdate p_crop", "2004-09-02"},
                  {"Hdate c_crop", "2005-08-20"}});
         add_row(state.assess_file, "Recommendations", {{"Field Area ID", "Long Rig"}, {"N required", "60"}});
+        // A field's first row counts.
+        for (const char* table : {"Land", "Crops", "Recommendations"})
+            add_row(state.assess_file, table, {{"Field Area ID", "Long Rig"}});
+        add_row(state.prev1_file, "Land", {{"Field Area ID", "Long Rig"}});
         apply_manure(state.assess_file, "Long Rig", "2005-03-01");
         apply_manure(state.assess_file, "Sold Field", "2005-03-02");
         apply_nitrogen(state.assess_file, "Long Rig", "2005-04-02", "Urea \"46\",\tlate\nor never");
@@ -229,6 +233,7 @@ TEST_F(FieldRecord, ReportsOneFieldOrAll) {
     EXPECT_EQ(state.last_report_pictures.size(), 3U);
 
     apply_nitrogen(state.assess_file, "Long Rig", "2005-06-01", "Later");
+    add_row(state.assess_file, "Recommendations", {{"Field Area ID", "East \"Muir\""}});
     const std::string all = report(answer::no);
     const auto first = all.find("Field Record: Long Rig");
     const auto second = all.find("Field Record: East \"Muir\"");
@@ -236,6 +241,7 @@ TEST_F(FieldRecord, ReportsOneFieldOrAll) {
     const auto rule = all.find("<hr>", first);
     EXPECT_LT(rule, second);
     EXPECT_EQ(all.find("<hr>", second), all.find("<hr>\n<font size=1>Generated")) << "none behind the last";
+    EXPECT_EQ(all.find("Analysis:", second), std::string::npos) << "nothing to warn of";
     EXPECT_EQ(module.field(), "Long Rig");
     EXPECT_EQ(column(col::inorganic_type).back(), "Later");
     person.verify_done();

@@ -1,6 +1,7 @@
 // The field record's screen: every command through its widgets, and by keyboard alone.
 #include <QClipboard>
 #include <QComboBox>
+#include <QPushButton>
 #include <QTableWidget>
 
 #include "core/file_error.h"
@@ -64,6 +65,11 @@ TEST_F(RecordScreen, ChoosingAFieldShowsItsRowsAndWarnings) {
 
 TEST_F(RecordScreen, CopyCsvAndReportHandOnWhatIsShown) {
     open();
+    // A command that follows at once finds the field chosen.
+    fields()->setCurrentText("East Muir");
+    drive::control<QPushButton>(screen("record"), "cmdRecord_copy")->click();
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Field Record: \t\"East Muir\""));
+    fields()->setCurrentText("Long Rig");
     click(screen("record"), "cmdRecord_copy");
     const QString copied = QApplication::clipboard()->text();
     EXPECT_TRUE(copied.startsWith("Field Record: \t\"Long Rig\"")) << from_qt(copied.left(40));

@@ -9,6 +9,7 @@
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QVBoxLayout>
+#include <exception>
 
 #include "record/record_grid.h"
 #include "record/record_messages.h"
@@ -45,10 +46,7 @@ Field_Record::Field_Record(application_state& state, prompts& person, report_des
     layout->addWidget(parts, 1);
     layout->addLayout(commands());
     show_fields();
-    // Queued: a file that fails must not throw through the list.
-    connect(
-        fields_, &QComboBox::currentTextChanged, this, [this](const QString& field) { choose_field(field); },
-        Qt::QueuedConnection);
+    connect(fields_, &QComboBox::currentTextChanged, this, &Field_Record::choose_field);
     fields_->setFocus();
 }
 
@@ -86,15 +84,19 @@ QLayout* Field_Record::commands() {
     return row;
 }
 
-// A field that cannot be read leaves the one before in the list, too.
+// At once, so that the next command finds the field that the list shows. A failure waits, since it must not
+// be thrown through the list; the field before then stands in the list again.
 void Field_Record::choose_field(const QString& field) {
     try {
         module_.select_field(from_qt(field));
+        refresh();
     } catch (...) {
-        show_fields();
-        throw;
+        const auto told_later = [this, failure = std::current_exception()] {
+            show_fields();
+            std::rethrow_exception(failure);
+        };
+        QMetaObject::invokeMethod(this, told_later, Qt::QueuedConnection);
     }
-    refresh();
 }
 
 void Field_Record::show_fields() {
