@@ -209,6 +209,7 @@ TEST_F(LandFile, OnlyImportedRowsBringTheirMonthsAlong) {
         add_land(field, {{"January", "Closed"}});
     module.load_land_stuff();
     const std::string other = make_farm("other.kel", {}, 2024);
+    add_row(other, "Land", {{"Field Area ID", "Long Rig"}, {"January", "3"}});
     add_row(other, "Land", {{"Field Area ID", "Haugh"}, {"January", "2"}, {"Crop", "Grass / Other"}});
     const auto imports = [&](import_mode mode, const std::string& file) {
         person.expect_file(mode == import_mode::add ? "Add data from another assessment"
@@ -216,21 +217,21 @@ TEST_F(LandFile, OnlyImportedRowsBringTheirMonthsAlong) {
                            file);
         return module.import_land(mode);
     };
-    const auto step2_closes = [&](const char* month) {
-        database(state.assess_file).update_rows("Land", {{month, "Closed"}}, "Field Area ID", "East Muir");
+    const auto step2_closes = [&](const char* month, const char* field) {
+        database(state.assess_file).update_rows("Land", {{month, "Closed"}}, "Field Area ID", field);
     };
     ASSERT_TRUE(imports(import_mode::add, other));
     ASSERT_TRUE(module.erase_land_row(0).closes);
-    step2_closes("October");
+    step2_closes("October", "East Muir");
     ASSERT_TRUE(module.save());
-    EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"East Muir", "Haugh"}));
-    EXPECT_EQ(stored("Land", "January"), (texts{"Closed", "2"}));
-    EXPECT_EQ(stored("Land", "October"), (texts{"Closed", ""}));
-    EXPECT_EQ(stored("Land", "Crop"), (texts{"", "Grass / Other"}));
+    EXPECT_EQ(stored("Land", "Field Area ID"), (texts{"East Muir", "Long Rig", "Haugh"}));
+    EXPECT_EQ(stored("Land", "January"), (texts{"Closed", "3", "2"}));
+    EXPECT_EQ(stored("Land", "October"), (texts{"Closed", "", ""}));
+    EXPECT_EQ(stored("Land", "Crop"), (texts{"", "", "Grass / Other"}));
     ASSERT_TRUE(imports(import_mode::over_write, make_farm("empty.kel", {}, 2024)));
-    step2_closes("August");
+    step2_closes("August", "Haugh");
     ASSERT_TRUE(module.save());
-    EXPECT_EQ(stored("Land", "August"), (texts{"Closed", ""})) << "an empty table brought nothing";
+    EXPECT_EQ(stored("Land", "August"), (texts{"", "", "Closed"})) << "an empty table brought nothing";
 }
 
 TEST_F(LandFile, ImportedStockIsWorkedOutAnew) {
