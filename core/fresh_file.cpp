@@ -17,8 +17,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view unfinished = ".new";
-constexpr std::string_view unfinished_assessment = ".kel.new";
+// Not a name that a person gives to a file of his own: those that nobody holds are removed.
+constexpr std::string_view unfinished = ".unfinished";
+constexpr std::string_view unfinished_assessment = ".kel.unfinished";
 
 void throw_if(const std::error_code& trouble, const std::string& target) {
     if (trouble) throw file_error(target, "the file could not be written: " + trouble.message() + ".");
@@ -83,8 +84,10 @@ void remove_abandoned_files(const std::string& folder) {
     std::error_code trouble;
     for (fs::directory_iterator entry(folder, trouble), end; !trouble && entry != end;
          entry.increment(trouble))
-        if (std::string path = entry->path().string(); path.ends_with(unfinished_assessment))
-            found.push_back(std::move(path));
+        if (std::string path = entry->path().string(); path.ends_with(unfinished_assessment)) {
+            std::error_code unknown;
+            if (entry->is_regular_file(unknown)) found.push_back(std::move(path));
+        }
     for (const std::string& path : found) {
         const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
         if (file < 0) continue;

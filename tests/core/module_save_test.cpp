@@ -21,7 +21,7 @@ bool exists(const std::string& file) {
 class NewFile : public farm_test {
   protected:
     const std::string file = path("new.kel");
-    const std::string beside = path("new.kel.new");
+    const std::string beside = path("new.kel.unfinished");
     const std::string template_file = state.places.blank_assessment();
     scripted_prompts person;
     loaded_rows loaded{{{"Misc"}}};
@@ -80,9 +80,9 @@ TEST_F(NewFile, OfAKilledProcessIsTakenAwayAndOneInTheMakingIsNot) {
     clear_left_behind(other);
     EXPECT_FALSE(exists(beside)) << "by the next opening";
     EXPECT_FALSE(exists(beside + "-journal"));
-    EXPECT_TRUE(exists(path("making.kel.new")));
+    EXPECT_TRUE(exists(path("making.kel.unfinished")));
     EXPECT_THROW(fresh_file(template_file, path("making.kel")), file_error);
-    EXPECT_TRUE(exists(path("making.kel.new")));
+    EXPECT_TRUE(exists(path("making.kel.unfinished")));
 }
 
 TEST_F(NewFile, ListsOfJournalsGoOnceNoneOfThemIsLeft) {
