@@ -211,7 +211,7 @@ void profile_module::reopen() {
 
 void profile_module::report(report_desk& desk) const {
     generate_report(desk, profile_report_file, profile_report(farm_, fields_), screen_id::profile,
-                    screen_id::profile);
+                    screen_id::profile, {}, {}, farm_.name);
 }
 
 }  // namespace kel

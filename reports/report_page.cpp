@@ -7,13 +7,15 @@ namespace kel {
 namespace {
 
 // The stray closing tags are part of the frame's stated form. The character set line is an addition: without
-// it a browser guesses, and a field named in Gaelic comes out garbled. The blank of the last cell and the
-// title's vertical alignment are for the viewer, which otherwise draws the rule into the empty cell and the
-// title at its top.
+// it a browser guesses, and a field named in Gaelic comes out garbled; behind it stands what a print says of
+// the page's origin. The blank of the last cell and the title's vertical alignment are for the viewer, which
+// otherwise draws the rule into the empty cell and the title at its top.
 // clang-format off
-constexpr std::string_view page_head[] = {
+constexpr std::string_view page_start[] = {
     "<HTML>",
     "<meta http-equiv=Content-Type content=text/html;charset=utf-8>",
+};
+constexpr std::string_view page_head[] = {
     "<style>",
     "<!--",
     ".turnred a:hover{",
@@ -118,10 +120,10 @@ page_lines report_list(const std::vector<std::string>& points) {
 }
 
 void report_table::add_heading_row(const std::vector<report_cell>& cells) {
-    rows_.emplace_back("<tr>");
+    headings_.emplace_back("<tr>");
     for (const report_cell& cell : cells)
-        rows_.push_back(heading_cell(cell));
-    rows_.emplace_back("</tr>");
+        headings_.push_back(heading_cell(cell));
+    headings_.emplace_back("</tr>");
 }
 
 void report_table::add_heading_row(const std::vector<std::string>& texts) {
@@ -151,6 +153,11 @@ void report_table::add_grid(const text_grid& grid, int rows, const std::vector<i
 
 page_lines report_table::lines() const {
     page_lines table{"<table border=1 width=100% cellpadding=3 cellspacing=0>"};
+    if (!headings_.empty()) {
+        table.emplace_back("<thead>");
+        append(table, headings_);
+        table.emplace_back("</thead>");
+    }
     append(table, rows_);
     table.emplace_back("</table>");
     return table;
@@ -167,8 +174,11 @@ void append(page_lines& body, const page_lines& piece) {
     body.insert(body.end(), piece.begin(), piece.end());
 }
 
-page_lines framed_page(const page_lines& body, date today, std::string_view developer) {
-    page_lines page(std::begin(page_head), std::end(page_head));
+page_lines framed_page(const page_lines& body, date today, std::string_view developer,
+                       const std::optional<page_origin>& origin) {
+    page_lines page(std::begin(page_start), std::end(page_start));
+    if (origin) page.push_back(origin_line(*origin));
+    page.insert(page.end(), std::begin(page_head), std::end(page_head));
     append(page, body);
     append(page, page_foot(today, developer));
     return page;

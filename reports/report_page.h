@@ -2,6 +2,7 @@
 // without quotation marks in attributes; text goes through as it stands.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,6 +10,7 @@
 
 #include "core/dates.h"
 #include "core/text_grid.h"
+#include "reports/page_origin.h"
 
 namespace kel {
 
@@ -29,7 +31,8 @@ struct report_cell {
     std::string align{};  // "left", "center", "right"; empty: left for values, centred for headings
 };
 
-/// A bordered table of full width.
+/// A bordered table of full width. Its heading rows stand above its rows and are repeated on every printed
+/// page.
 class report_table {
   public:
     void add_heading_row(const std::vector<report_cell>& cells);
@@ -41,6 +44,7 @@ class report_table {
     page_lines lines() const;
 
   private:
+    page_lines headings_;
     page_lines rows_;
 };
 
@@ -50,8 +54,10 @@ page_lines label_table(const std::vector<std::pair<std::string, std::string>>& r
 /// Joins pieces in order.
 void append(page_lines& body, const page_lines& piece);
 
-/// Head, body and foot as one page; `today` and the developer's name stand in the foot.
-page_lines framed_page(const page_lines& body, date today, std::string_view developer);
+/// Head, body and foot as one page; `today` and the developer's name stand in the foot. A page with an origin
+/// names it where it is printed.
+page_lines framed_page(const page_lines& body, date today, std::string_view developer,
+                       const std::optional<page_origin>& origin = {});
 
 /// Writes the page in place of the file of that name. Throws file_error for a folder that cannot be written
 /// or a full disc; the old page then stays.

@@ -40,10 +40,11 @@ struct report_desk {
 /// Wait cursor, write the framed page into the report folder, show it, remember it, hide `hidden_screen`, set
 /// viewer_back to `back`. `pictures` are the bare names of those that the page shows beside the logo, written
 /// into the report folder before; they travel with a copy of the page. Throws file_error before anything is
-/// shown when the page cannot be written.
+/// shown when the page cannot be written. The page keeps whose it is: the open assessment's, or under another
+/// name of the farm (`farm`).
 void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
                      screen_id hidden_screen, screen_id back, viewer_request request = {},
-                     std::vector<std::string> pictures = {});
+                     std::vector<std::string> pictures = {}, std::string_view farm = {});
 
 /// Copies pictures of the program's folder, by their paths within it, into the report folder, where a page
 /// that shows them looks for them. Throws file_error.

@@ -26,4 +26,11 @@ third_button third_button_of(std::string_view caption, int mode, const installat
 void save_report(const application_state& state, prompts& person, std::string& report_folder,
                  const std::string& documents_folder);
 
+inline constexpr std::string_view save_pdf_title = "Save as PDF";
+
+/// Asks for the file of a PDF, beginning where a report would be saved; its folder becomes that of the last
+/// save. Empty when cancelled.
+std::string choose_pdf(const application_state& state, prompts& person, std::string& report_folder,
+                       const std::string& documents_folder);
+
 }  // namespace kel

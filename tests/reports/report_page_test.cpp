@@ -33,12 +33,13 @@ TEST(ReportTable, CellsCarryTheirLayoutAndEmptyOnesKeepTheirBorder) {
     table.add_row(std::vector<std::string>{"North < Park & Bràigh"});
     const page_lines lines = table.lines();
     EXPECT_EQ(
-        lines.at(2),
+        lines.at(3),
         "<td align=center colspan=3 bgcolor=#e0e0e0><font color=black><strong>Deducted</strong></font></td>");
-    EXPECT_TRUE(lines.at(3).starts_with("<td width=15% align=left rowspan=2 bgcolor=#e0e0e0>"));
-    EXPECT_EQ(page_lines(lines.begin() + 5, lines.end()),
-              (page_lines{"<tr>", "<td width=12% align=right>3.5</td>", "<td>&nbsp;</td>", "</tr>", "<tr>",
-                          "<td>North < Park & Bràigh</td>", "</tr>", "</table>"}));
+    EXPECT_TRUE(lines.at(4).starts_with("<td width=15% align=left rowspan=2 bgcolor=#e0e0e0>"));
+    EXPECT_EQ(
+        page_lines(lines.begin() + 5, lines.end()),
+        (page_lines{"</tr>", "</thead>", "<tr>", "<td width=12% align=right>3.5</td>", "<td>&nbsp;</td>",
+                    "</tr>", "<tr>", "<td>North < Park & Bràigh</td>", "</tr>", "</table>"}));
 }
 
 TEST(ReportTable, ColumnsOfAGridComeInTheOrderAskedForWithoutTheEntryRow) {
