@@ -10,6 +10,7 @@
 #include "core/settings_store.h"
 #include "core/whole_file.h"
 #include "reports/contents_page.h"
+#include "reports/printed_reports.h"
 #include "shell/assessments_messages.h"
 #include "shell/reopen_assessment.h"
 
@@ -161,6 +162,12 @@ void assessments_module::view_reports() {
     const auto files = file_names_in(state_.places.written_folder);
     generate_report(desk_, contents_file, contents_body(files), screen_id::land, screen_id::front,
                     {.page = {}, .caption = "Contents", .mode = 0});
+}
+
+void assessments_module::print_all_reports() {
+    if (!assessment_is_open()) return;
+    const auto reports = reports_to_print(state_, person_);
+    if (!reports.empty()) screens_.print_pages(reports);
 }
 
 void assessments_module::show_page(std::string_view title, const viewer_request& request, screen_id back) {

@@ -46,6 +46,8 @@ class assessments_module {
     void field_record();
 
     void view_reports();
+    /// All reports of the open assessment in one print.
+    void print_all_reports();
 
     void show_me();
     void guidelines();

@@ -10,6 +10,7 @@
 
 #include "core/file_error.h"
 #include "ui/kel_application.h"
+#include "ui/print/print_job.h"
 #include "ui/screens/Field_Record.h"
 #include "ui/screens/FullScreen.h"
 #include "ui/screens/Scotland.h"
@@ -235,7 +236,7 @@ QWidget* program::make_about(screen_id /*id*/) {
 }
 
 QWidget* program::make_viewer(screen_id /*id*/) {
-    auto* viewer = new FullScreen(state_, person_, report_folder_);
+    auto* viewer = new FullScreen(state_, person_, report_folder_, desk_.today);
     connect(
         viewer, &FullScreen::closed, this, [this] { close_viewer(); }, Qt::QueuedConnection);
     return viewer;
@@ -330,6 +331,10 @@ bool program::exists(screen_id id) const {
 
 bool program::start_updater(const std::string& path) {
     return QProcess::startDetached(qt(path), {});
+}
+
+void program::print_pages(const std::vector<std::string>& pages) {
+    print_with_dialog(pages_of_files(pages), desk_.today(), QApplication::activeWindow());
 }
 
 void program::end() {

@@ -47,6 +47,7 @@ class program : public QObject, public desktop, public report_viewer {
     bool exists(screen_id id) const override;
     bool in_view(screen_id id) const override;
     bool start_updater(const std::string& path) override;
+    void print_pages(const std::vector<std::string>& pages) override;
     void end() override;
 
     void wait_cursor(bool on) override;

@@ -34,6 +34,9 @@ struct recording_screens : desktop, report_viewer {
     bool exists(screen_id) const override { return true; }
     bool in_view(screen_id) const override { return false; }
     bool start_updater(const std::string&) override { return told.push_back({"start"}), updater_starts; }
+    void print_pages(const std::vector<std::string>& pages) override {
+        told.push_back({"print"}), printed = pages;
+    }
     void end() override { told.push_back({"end"}); }
     void wait_cursor(bool on) override { told.push_back({on ? "wait" : "ready"}); }
     void hide_screen(screen_id id) override { told.push_back({"hide", id}); }
@@ -41,6 +44,7 @@ struct recording_screens : desktop, report_viewer {
 
     events told;
     viewer_request shown;
+    std::vector<std::string> printed;
     bool updater_starts = true;
 };
 

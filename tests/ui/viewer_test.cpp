@@ -4,10 +4,10 @@
 #include <unistd.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QImage>
-#include <QPdfWriter>
 #include <QSignalSpy>
 #include <QTimer>
 #include <atomic>
@@ -17,11 +17,12 @@
 #include "core/file_error.h"
 #include "core/module_messages.h"
 #include "land/land_messages.h"
+#include "reports/printed_reports.h"
 #include "shell/years_messages.h"
 #include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
+#include "ui/print/print_job.h"
 #include "ui/widgets/page_view.h"
-#include "ui/widgets/print_page.h"
 
 namespace kel::test {
 
@@ -31,6 +32,22 @@ class Viewer : public screen_test {
     std::string page_file() const { return from_qt(page()->source().toLocalFile()); }
     std::string third_button() const {
         return from_qt(drive::control<QAbstractButton>(screen("viewer"), "Command8")->text().remove('&'));
+    }
+    /// Whether the action asks for a printer, which is then declined.
+    template <class Action>
+    static bool printer_asked(Action action) {
+        bool asked = false;
+        QTimer looking;
+        QObject::connect(&looking, &QTimer::timeout, [&asked, &looking] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            looking.stop();
+            asked = dialog->inherits("QPrintDialog");
+            dialog->reject();
+        });
+        looking.start(1);
+        action();
+        return asked;
     }
     void close_viewer() {
         press("viewer", "Command1");
@@ -114,11 +131,11 @@ TEST_F(Viewer, PagesGetPlainFilesAndNothingElseAlsoOnPaper) {
     start();
     run->show({path("page.htm"), "Back", 0});
     screen("viewer")->grab();
-    QPdfWriter paper(qt(path("page.pdf")));
-    print_on(paper, *page()->document());
-    const auto size_of_print = std::filesystem::file_size(path("page.pdf"));
-    QPdfWriter other_paper(qt(path("other.pdf")));
-    print_on(other_paper, *page_document(lines, path("")));
+    const auto size_on_paper = [](const printed_page& printed) {
+        return pdf_of({printed}, "", make_date(15, 11, 2026)).size();
+    };
+    const auto size_of_print = size_on_paper(page_of_file(path("page.htm")));
+    const auto size_of_lines = size_on_paper(page_of_lines(lines, path("")));
     run->show({pipe, "Back", 0});
     EXPECT_TRUE(page()->toPlainText().startsWith("There is no page"));
     EXPECT_FALSE(read);
@@ -126,11 +143,8 @@ TEST_F(Viewer, PagesGetPlainFilesAndNothingElseAlsoOnPaper) {
     const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
     writer.join();
     close(reader);
-    write_file(path("page.htm"), "<p>");
-    run->show({path("page.htm"), "Back", 0});
-    QPdfWriter blank(qt(path("blank.pdf")));
-    print_on(blank, *page()->document());
-    EXPECT_GT(size_of_print, std::filesystem::file_size(path("blank.pdf"))) << "with the plain picture";
+    const auto size_of_blank = size_on_paper(page_of_lines({"<p>"}, path("")));
+    EXPECT_GT(std::min(size_of_print, size_of_lines), size_of_blank + 500) << "with the plain picture";
 }
 
 TEST_F(Viewer, AMissingPageIsNamedAsItIsSpelled) {
@@ -197,19 +211,83 @@ TEST_F(Viewer, PrintAsksForThePrinterOnTheViewerAndOnAResult) {
     start_with({{"Long Rig", "15"}});
     press("front", "cmdFront_land");
     press("land", "cmdLand_continue");
-    const auto printer_asked = [this](const char* tag, const char* button) {
-        bool asked = false;
-        QTimer::singleShot(0, qApp, [&asked] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            asked = dialog && dialog->inherits("QPrintDialog");
-            if (dialog) dialog->reject();
-        });
-        press(tag, button);
-        return asked;
-    };
-    EXPECT_TRUE(printer_asked("land", "cmdLand_print"));
+    EXPECT_TRUE(printer_asked([this] { press("land", "cmdLand_print"); }));
     press("land", "cmdReport");
-    EXPECT_TRUE(printer_asked("viewer", "Command7"));
+    EXPECT_TRUE(printer_asked([this] { press("viewer", "Command7"); }));
+}
+
+TEST_F(Viewer, CtrlPPrintsAndTheZoomKeysChangeTheTextOnly) {
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_whats_this");
+    EXPECT_EQ(from_qt(screen("viewer")->windowTitle()),
+              "KEL Calculator: Help - " + from_qt(page()->documentTitle()));
+    EXPECT_FALSE(page()->documentTitle().isEmpty());
+    const double usual = page()->font().pointSizeF();
+    press_key(Qt::Key_Plus, 1, Qt::ControlModifier);
+    EXPECT_NEAR(page()->font().pointSizeF(), usual * 1.1, 0.01);
+    press("viewer", "cmdViewer_larger");
+    EXPECT_EQ(page()->zoom_percent(), 125);
+    press_key(Qt::Key_0, 1, Qt::ControlModifier);
+    EXPECT_NEAR(page()->font().pointSizeF(), usual, 0.01);
+    press_key(Qt::Key_Minus, 20, Qt::ControlModifier);
+    EXPECT_EQ(page()->zoom_percent(), 60);
+    press("viewer", "cmdViewer_smaller");
+    EXPECT_EQ(page()->zoom_percent(), 60);
+    EXPECT_TRUE(printer_asked([&] { press_key(Qt::Key_P, 1, Qt::ControlModifier); }));
+}
+
+TEST_F(Viewer, APageIsSavedAsAPdfAndFromTheListAllReportsAre) {
+    start_with({{"Long Rig", "15"}});
+    press("front", "cmdFront_edit");
+    press("profile", "cmdReport");
+    EXPECT_FALSE(drive::control(screen("viewer"), "cmdViewer_print_all")->isVisible());
+    const auto saved_as = [&](const std::string& name) {
+        person.expect_file("Save as PDF", path(name));
+        press("viewer", "cmdViewer_pdf");
+        return file_text(path(name));
+    };
+    const auto pages = [](const std::string& pdf) {
+        return QByteArray::fromStdString(pdf).count("/MediaBox");
+    };
+    const std::string profile = saved_as("profile.pdf");
+    EXPECT_TRUE(profile.starts_with("%PDF"));
+    EXPECT_EQ(pages(profile), 1);
+    person.expect_file("Save as PDF", path("no such folder/profile.pdf"))
+        .expect(stop_box(
+            file_error(path("no such folder/profile.pdf"),
+                       "the PDF could not be written. The folder may be read-only or the disc full.")));
+    click(screen("viewer"), "cmdViewer_pdf");
+    close_viewer();
+    press("profile", "cmdProfile_cancel");
+    press("front", "cmdFront_land");
+    press("land", "cmdLand_continue");
+    press("land", "cmdReport");
+    close_viewer();
+    press("land", "cmdLand_back");
+    person.expect(land_messages::close_module, answer::yes);
+    press("land", "cmdLand_cancel");
+    press("front", "cmdFront_reports");
+    ASSERT_TRUE(drive::control(screen("viewer"), "cmdViewer_print_all")->isVisible());
+    EXPECT_EQ(pages(saved_as("all.pdf")), 2);
+    page()->navigate(qt(path("KEL_report_landspread.htm")));
+    EXPECT_EQ(pages(saved_as("land.pdf")), 1);
+}
+
+TEST_F(Viewer, PrintAllReportsStandsInTheFileMenuAndBesideTheList) {
+    start_with({{"Long Rig", "15"}});
+    auto* menu = screen("front")->findChild<QAction*>("mnuFront_print_all");
+    person.expect(printed_reports_messages::none_generated);
+    menu->trigger();
+    press("front", "cmdFront_reports");
+    person.expect(printed_reports_messages::none_generated);
+    press("viewer", "cmdViewer_print_all");
+    close_viewer();
+    press("front", "cmdFront_edit");
+    press("profile", "cmdReport");
+    close_viewer();
+    press("profile", "cmdProfile_cancel");
+    EXPECT_TRUE(printer_asked([&] { menu->trigger(); }));
+    person.verify_done();
 }
 
 // The chart in the folder may be another farm's.
@@ -252,7 +330,8 @@ TEST_F(Viewer, AStorageReportIsSavedWithItsChartAndWithoutOneWhenItHasNone) {
         person.expect_file("Save the report", folder + "/saved.htm");
         press("viewer", "Command8");
         EXPECT_TRUE(std::filesystem::exists(folder + "/saved.htm"));
-        EXPECT_EQ(QImage(qt(folder + "/rep_chart1.bmp")).size(), with_stores ? QSize(720, 340) : QSize(0, 0));
+        EXPECT_EQ(QImage(qt(folder + "/rep_chart1.bmp")).size(),
+                  with_stores ? QSize(2160, 1020) : QSize(0, 0));
         close_viewer();
         person.expect(module_messages::close_module, answer::yes);
         press("storage", "cmdStorage_cancel");

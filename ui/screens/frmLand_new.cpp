@@ -11,9 +11,9 @@
 
 #include "land/land_messages.h"
 #include "land/land_report.h"
+#include "ui/print/print_job.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
-#include "ui/widgets/print_page.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -156,9 +156,11 @@ void frmLand_new::save() {
 }
 
 void frmLand_new::print_result() {
-    print_page(framed_page(land_report(*module_.result(), module_.land(), module_.animals()), desk_.today(),
-                           desk_.developer),
-               desk_.state.places.written_folder, this);
+    const date today = desk_.today();
+    const page_lines body = land_report(*module_.result(), module_.land(), module_.animals());
+    print_with_dialog({page_of_lines(framed_page(body, today, desk_.developer, origin_of(state_, today)),
+                                     state_.places.written_folder)},
+                      today, this);
 }
 
 }  // namespace kel

@@ -26,6 +26,9 @@ constexpr double full_percent = 100;
 // A store of a few litres must not send the line into figures that the drawing cannot hold.
 constexpr float highest_drawn = 10000;
 constexpr QSize picture_px{720, 340};
+// The report shows the picture in that size; on paper it has so many dots to each of these.
+constexpr int picture_dots = 3;
+constexpr int dots_per_m = 3780;  // 96 an inch
 
 // Blue and vermilion stay apart in print and for most colour-blind eyes; the lighter pair is for dark themes.
 struct line_colours {
@@ -170,7 +173,11 @@ void storage_chart::save_picture(const std::string& path) const {
     print.set_colours(paper());
     print.show_percents(percents_, axis_);
     print.resize(picture_px);
-    const QImage picture = print.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QImage picture(picture_px * picture_dots, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(picture_dots);
+    print.QWidget::render(&picture);
+    picture.setDotsPerMeterX(dots_per_m * picture_dots);
+    picture.setDotsPerMeterY(dots_per_m * picture_dots);
     QByteArray file;
     QBuffer buffer(&file);
     buffer.open(QIODevice::WriteOnly);

@@ -1,35 +1,39 @@
 #include "ui/widgets/page_view.h"
 
+#include <QApplication>
 #include <QDesktopServices>
-#include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <array>
+
+#include "ui/widgets/page_address.h"
 
 namespace kel {
 
 namespace {
 
 constexpr int table_rounding_px = 2;
+constexpr std::array<int, 11> zoom_percents{60, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300};
+constexpr std::size_t usual_zoom = 3;
+static_assert(zoom_percents[usual_zoom] == 100);
 
-// The tag of an icon in the field record is not closed, so that what fills its cell follows the address.
-QUrl address_alone(const QUrl& name) {
-    const QString path = name.path(QUrl::FullyDecoded);
-    const auto end = path.indexOf(QChar::Nbsp);
-    if (end < 0) return name;
-    QUrl alone = name;
-    alone.setPath(path.left(end));
-    return alone;
+// The chart is drawn for paper and has more dots than the screen shows.
+QImage for_screen(const QImage& picture, double pixel_ratio) {
+    constexpr double screen_dots_per_m = 3780;
+    const double finer = picture.dotsPerMeterX() / screen_dots_per_m;
+    if (picture.isNull() || finer < 1.5) return picture;
+    QImage shown = picture.scaled(picture.size() * (pixel_ratio / finer), Qt::IgnoreAspectRatio,
+                                  Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(pixel_ratio);
+    return shown;
 }
 
 }  // namespace
 
-QVariant plain_file(const QUrl& url) {
-    QFile file(url.toLocalFile());
-    const bool plain = url.isLocalFile() && QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly);
-    return plain ? file.readAll() : QByteArray();
-}
-
-page_view::page_view(QWidget* parent) : QTextBrowser(parent) {
+page_view::page_view(QWidget* parent) : QTextBrowser(parent), zoom_step_(usual_zoom) {
     setOpenLinks(false);
     setAccessibleName(tr("Page"));
     // Pages are written for white paper, whatever the desktop's theme is.
@@ -72,8 +76,36 @@ bool page_view::follow(const QUrl& url) {
     return true;
 }
 
-QVariant page_view::loadResource(int /*type*/, const QUrl& name) {
-    return plain_file(source().resolved(address_alone(name)));
+QVariant page_view::loadResource(int type, const QUrl& name) {
+    const QUrl url = file_of_page(source(), name);
+    // Without any answer the toolkit would read the file by itself.
+    if (url.isEmpty()) return QByteArray();
+    if (type == QTextDocument::ImageResource)
+        return for_screen(QImage(url.toLocalFile()), devicePixelRatioF());
+    return QTextBrowser::loadResource(type, url);
+}
+
+int page_view::zoom_percent() const {
+    return zoom_percents.at(zoom_step_);
+}
+
+void page_view::zoom(int steps) {
+    const auto last = static_cast<int>(zoom_percents.size()) - 1;
+    zoom_step_ = steps == 0
+                     ? usual_zoom
+                     : static_cast<std::size_t>(std::clamp(static_cast<int>(zoom_step_) + steps, 0, last));
+    const QScrollBar* bar = verticalScrollBar();
+    const double place = bar->maximum() > 0 ? double(bar->value()) / bar->maximum() : 0;
+    QFont larger = font();
+    larger.setPointSizeF(QApplication::font(this).pointSizeF() * zoom_percent() / 100);
+    setFont(larger);
+    verticalScrollBar()->setValue(qRound(place * verticalScrollBar()->maximum()));
+}
+
+void page_view::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTextBrowser::wheelEvent(event);
+    if (event->angleDelta().y() != 0) zoom(event->angleDelta().y() > 0 ? 1 : -1);
+    event->accept();
 }
 
 }  // namespace kel

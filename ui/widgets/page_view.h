@@ -6,10 +6,6 @@
 
 namespace kel {
 
-/// The bytes of a plain local file, and none of anything else. Report text is not escaped, so a page may ask
-/// for any file, also for one that never ends; an answer without a value would have the toolkit read it.
-QVariant plain_file(const QUrl& url);
-
 class page_view : public QTextBrowser {
     Q_OBJECT
 
@@ -19,11 +15,17 @@ class page_view : public QTextBrowser {
     /// such page.
     bool navigate(const QString& page);
 
+    /// Larger or smaller text by so many steps; 0 is the usual size again.
+    void zoom(int steps);
+    int zoom_percent() const;
+
   protected:
     QVariant loadResource(int type, const QUrl& name) override;
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
     bool follow(const QUrl& url);
+    std::size_t zoom_step_;
 };
 
 }  // namespace kel
