@@ -93,6 +93,20 @@ TEST_F(GridRows, TwentyBoxesThenOneThatCountsTheRest) {
     }
 }
 
+TEST_F(GridRows, CopiesOfAGridGoTheirOwnWays) {
+    text_grid grid = framed_grid();
+    text_grid copy = grid;
+    EXPECT_EQ(copy, grid);
+    copy.set_cell(1, 0, "of the copy");
+    grid.set_cell(3, 0, "of the grid");
+    EXPECT_EQ(fields_of(grid), (texts{"inputs", "typed", "", "of the grid"}));
+    EXPECT_EQ(fields_of(copy), (texts{"inputs", "of the copy", "", "total"}));
+    EXPECT_FALSE(copy == grid);
+    copy.set_cell(1, 0, "typed");
+    grid.set_cell(3, 0, "total");
+    EXPECT_EQ(copy, grid);
+}
+
 TEST_F(GridRows, ImportAddsBelowTheRowsOrReplacesThemAndKeepsTheFrame) {
     const std::string file = other_farm({"Low Moss", "Long Rig"});
     text_grid grid = framed_grid();

@@ -90,6 +90,7 @@ TEST_F(ChangedRows, AreAskedAboutAlsoBehindASaveThatHadNothingToWrite) {
     person.expect(rows_changed_meanwhile(file), answer::no).expect(rows_changed_meanwhile(file), answer::yes);
     EXPECT_FALSE(save("mine"));
     save_nothing();
+    other_program_writes("FarmProfile", "Name", "Renamed");
     EXPECT_TRUE(save("mine"));
 }
 
