@@ -88,10 +88,11 @@ text_grid record_grid(const std::vector<record_row>& rows) {
     for (const record_row& r : rows) {
         const int row = grid.add_row();
         int column = 0;
-        for (const std::string& text :
-             {r.crop, r.date_planted, short_date_text(r.day), r.inorganic_type, r.amount, r.inorganic_n,
-              r.manure, r.n_content, r.rate, r.manure_n, r.comments})
-            grid.set_cell(row, column++, text);
+        const std::string day = short_date_text(r.day);
+        for (const std::string* text :
+             {&r.crop, &r.date_planted, &day, &r.inorganic_type, &r.amount, &r.inorganic_n, &r.manure,
+              &r.n_content, &r.rate, &r.manure_n, &r.comments})
+            grid.set_cell(row, column++, *text);
     }
     return grid;
 }

@@ -89,11 +89,11 @@ page_lines record_module::all_sections() {
 void record_module::report(report_desk& desk) {
     const answer reply = person_.ask(text::which_fields);
     if (reply == answer::cancel) return;
-    const page_lines body =
-        reply == answer::no ? all_sections() : record_section(field(), record(), warnings());
+    page_lines body = reply == answer::no ? all_sections() : record_section(field(), record(), warnings());
     const std::vector<std::string> icons = icon_paths();
     lay_out_pictures(state_.places, icons);
-    generate_report(desk, record_report_file, body, screen_id::record, screen_id::record, {}, icons);
+    generate_report(desk, record_report_file, std::move(body), screen_id::record, screen_id::record, {},
+                    icons);
 }
 
 }  // namespace kel

@@ -24,13 +24,13 @@ page_lines record_table(const text_grid& record) {
         headings.push_back({.text = text});
     table.add_heading_row(headings);
     for (int row = 0; row < record.row_count(); ++row) {
-        std::vector<std::string> cells;
+        std::vector<report_cell> cells;
         cells.reserve(static_cast<std::size_t>(record.column_count()));
         for (int column = 0; column < record.column_count(); ++column)
-            cells.push_back(filled(record.cell(row, column)));
+            cells.push_back({.text = filled(record.cell(row, column))});
         table.add_row(cells);
     }
-    return table.lines();
+    return std::move(table).lines();
 }
 
 // The image tag stays open: the blank that fills the cell follows its path. Viewers cut the path there.

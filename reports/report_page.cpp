@@ -1,5 +1,8 @@
 #include "reports/report_page.h"
 
+#include <iterator>
+#include <utility>
+
 #include "core/whole_file.h"
 
 namespace kel {
@@ -151,14 +154,18 @@ void report_table::add_grid(const text_grid& grid, int rows, const std::vector<i
     }
 }
 
-page_lines report_table::lines() const {
+page_lines report_table::lines() const& {
+    return report_table(*this).lines();
+}
+
+page_lines report_table::lines() && {
     page_lines table{"<table border=1 width=100% cellpadding=3 cellspacing=0>"};
     if (!headings_.empty()) {
         table.emplace_back("<thead>");
-        append(table, headings_);
+        append(table, std::move(headings_));
         table.emplace_back("</thead>");
     }
-    append(table, rows_);
+    append(table, std::move(rows_));
     table.emplace_back("</table>");
     return table;
 }
@@ -170,16 +177,16 @@ page_lines label_table(const std::vector<std::pair<std::string, std::string>>& r
     return table.lines();
 }
 
-void append(page_lines& body, const page_lines& piece) {
-    body.insert(body.end(), piece.begin(), piece.end());
+void append(page_lines& body, page_lines piece) {
+    body.insert(body.end(), std::move_iterator(piece.begin()), std::move_iterator(piece.end()));
 }
 
-page_lines framed_page(const page_lines& body, date today, std::string_view developer,
+page_lines framed_page(page_lines body, date today, std::string_view developer,
                        const std::optional<page_origin>& origin) {
     page_lines page(std::begin(page_start), std::end(page_start));
     if (origin) page.push_back(origin_line(*origin));
     page.insert(page.end(), std::begin(page_head), std::end(page_head));
-    append(page, body);
+    append(page, std::move(body));
     append(page, page_foot(today, developer));
     return page;
 }

@@ -41,7 +41,8 @@ class report_table {
     void add_row(const std::vector<std::string>& texts);
     /// These columns of the grid's first `rows` rows.
     void add_grid(const text_grid& grid, int rows, const std::vector<int>& columns);
-    page_lines lines() const;
+    page_lines lines() const&;
+    page_lines lines() &&;
 
   private:
     page_lines headings_;
@@ -52,11 +53,11 @@ class report_table {
 page_lines label_table(const std::vector<std::pair<std::string, std::string>>& rows);
 
 /// Joins pieces in order.
-void append(page_lines& body, const page_lines& piece);
+void append(page_lines& body, page_lines piece);
 
 /// Head, body and foot as one page; `today` and the developer's name stand in the foot. A page with an origin
 /// names it where it is printed.
-page_lines framed_page(const page_lines& body, date today, std::string_view developer,
+page_lines framed_page(page_lines body, date today, std::string_view developer,
                        const std::optional<page_origin>& origin = {});
 
 /// Writes the page in place of the file of that name. Throws file_error for a folder that cannot be written

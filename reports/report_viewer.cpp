@@ -22,16 +22,16 @@ class busy_cursor {
 
 }  // namespace
 
-void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
-                     screen_id hidden_screen, screen_id back, viewer_request request,
-                     std::vector<std::string> pictures, std::string_view farm) {
+void generate_report(report_desk& desk, std::string_view file_name, page_lines body, screen_id hidden_screen,
+                     screen_id back, viewer_request request, std::vector<std::string> pictures,
+                     std::string_view farm) {
     request.page = desk.state.places.report(file_name);
     // The list of the reports has those of any farm.
     std::optional<page_origin> origin;
     if (file_name != contents_file) origin = origin_of(desk.state, desk.today(), farm);
     {
         const busy_cursor busy(desk.viewer);
-        write_page(request.page, framed_page(body, desk.today(), desk.developer, origin));
+        write_page(request.page, framed_page(std::move(body), desk.today(), desk.developer, origin));
         desk.state.last_report_path = request.page;
         desk.state.last_report_pictures = std::move(pictures);
         desk.viewer.hide_screen(hidden_screen);

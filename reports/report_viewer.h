@@ -42,9 +42,9 @@ struct report_desk {
 /// into the report folder before; they travel with a copy of the page. Throws file_error before anything is
 /// shown when the page cannot be written. The page keeps whose it is: the open assessment's, or under another
 /// name of the farm (`farm`).
-void generate_report(report_desk& desk, std::string_view file_name, const page_lines& body,
-                     screen_id hidden_screen, screen_id back, viewer_request request = {},
-                     std::vector<std::string> pictures = {}, std::string_view farm = {});
+void generate_report(report_desk& desk, std::string_view file_name, page_lines body, screen_id hidden_screen,
+                     screen_id back, viewer_request request = {}, std::vector<std::string> pictures = {},
+                     std::string_view farm = {});
 
 /// Copies pictures of the program's folder, by their paths within it, into the report folder, where a page
 /// that shows them looks for them. Throws file_error.
