@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
 
 namespace kel {
@@ -58,6 +59,22 @@ std::optional<int> month_number(std::string_view text) {
     return std::nullopt;
 }
 
+// Three letters of its name are enough.
+std::optional<int> typed_month(std::string_view text) {
+    const auto same = [](unsigned char one, unsigned char other) {
+        return std::tolower(one) == std::tolower(other);
+    };
+    for (int m = 1; m <= 12 && text.size() >= 3; ++m)
+        if (std::ranges::equal(text, month_name(m).substr(0, text.size()), same)) return m;
+    return whole_number(text);
+}
+
+std::optional<int> full_year(std::string_view text) {
+    const auto year = whole_number(text);
+    if (!year || (text.size() != 2 && text.size() != 4)) return std::nullopt;
+    return text.size() == 2 ? 2000 + *year : *year;
+}
+
 std::string fixed_day(int day, int year) {
     return std::to_string(day) + " December " + std::to_string(year);
 }
@@ -103,6 +120,18 @@ std::optional<date> parse_date(std::string_view text) {
     const auto year = whole_number(parts[2]);
     if (!day || !month || !year || parts[2].size() != 4) return std::nullopt;
     const date d = make_date(*day, *month, *year);
+    return d.ok() ? std::optional(d) : std::nullopt;
+}
+
+std::optional<date> typed_date(std::string_view text, int year) {
+    if (const auto whole = parse_date(text)) return whole;
+    const auto [parts, count] = split_date(text);
+    if (count < 2 || count > 3) return std::nullopt;
+    const auto day = whole_number(parts[0]);
+    const auto month = typed_month(parts[1]);
+    const auto typed_year = count == 2 ? std::optional(year) : full_year(parts[2]);
+    if (!day || !month || !typed_year) return std::nullopt;
+    const date d = make_date(*day, *month, *typed_year);
     return d.ok() ? std::optional(d) : std::nullopt;
 }
 

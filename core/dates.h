@@ -26,6 +26,10 @@ std::string iso_date_text(date d);
 /// a day that the calendar does not have.
 std::optional<date> parse_date(std::string_view text);
 
+/// A date as a person types it, day first: as parse_date reads it, with a month's first letters, with two
+/// digits of a year of this century, or without a year, for which `year` then stands.
+std::optional<date> typed_date(std::string_view text, int year);
+
 /// "January" to "December" for 1 to 12.
 std::string_view month_name(int month);
 /// "Sunday" to "Saturday".

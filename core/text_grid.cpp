@@ -1,6 +1,7 @@
 #include "core/text_grid.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 #include "core/numbers.h"
@@ -25,6 +26,20 @@ void text_grid::set_cell(int row, int column, std::string text) {
     std::shared_ptr<cells>& own = rows_.at(at(row));
     if (own.use_count() > 1) own = std::make_shared<cells>(*own);
     own->at(at(column)) = std::move(text);
+}
+
+text_grid::shared_rows text_grid::rows_from(int first, int count) const {
+    if (first < 0 || count < 0 || first + count > row_count())
+        throw std::out_of_range("rows that the table does not have");
+    return {rows_.begin() + first, rows_.begin() + first + count};
+}
+
+text_grid::shared_rows text_grid::replace_rows(int first, int count, shared_rows rows) {
+    shared_rows taken = rows_from(first, count);
+    rows_.erase(rows_.begin() + first, rows_.begin() + first + count);
+    rows_.insert(rows_.begin() + first, std::make_move_iterator(rows.begin()),
+                 std::make_move_iterator(rows.end()));
+    return taken;
 }
 
 float text_grid::number(int row, int column) const {

@@ -38,6 +38,11 @@ class text_grid {
     /// The cells of a row, until it is written to.
     std::span<const std::string> row(int row) const;
     void set_cell(int row, int column, std::string text);
+    /// Rows as they stand, shared until one of those who hold them is written to.
+    using shared_rows = std::vector<std::shared_ptr<std::vector<std::string>>>;
+    shared_rows rows_from(int first, int count) const;
+    /// Puts rows into the place of `count` of them and returns those.
+    shared_rows replace_rows(int first, int count, shared_rows rows);
     /// Numbers of cells, by the leading-number rule.
     float number(int row, int column) const;
 
@@ -70,7 +75,7 @@ class text_grid {
     std::span<const grid_column> columns_;
     // Shared with the copies of the grid until one of them is written to: a Save works on a copy, and mostly
     // changes few of its rows.
-    std::vector<std::shared_ptr<cells>> rows_;
+    shared_rows rows_;
 };
 
 }  // namespace kel

@@ -25,6 +25,15 @@ TEST(Dates, WhatIsNoDateIsNone) {
         EXPECT_FALSE(parse_date(text)) << text;
 }
 
+TEST(Dates, TypedDatesMayBeShort) {
+    for (const char* text : {"5/3", "5.3", "05/03/2025", "5/3/25", "5-Mar-25", "5 march", "2025-03-05"})
+        EXPECT_EQ(typed_date(text, 2025), make_date(5, 3, 2025)) << text;
+    EXPECT_EQ(typed_date("29/2", 2024), make_date(29, 2, 2024));
+    for (const char* text :
+         {"", "5", "5/", "29/2", "3/15", "5/3/025", "5/ma", "5/3/25/1", "x/3", "5/3/-5", "31/4"})
+        EXPECT_FALSE(typed_date(text, 2025)) << text;
+}
+
 TEST(Dates, AYearFrom29FebruaryIs28February) {
     EXPECT_EQ(add_years(make_date(19, 12, 2004), 1), make_date(19, 12, 2005));
     EXPECT_EQ(add_years(make_date(29, 2, 2004), 4), make_date(29, 2, 2008));
