@@ -53,6 +53,7 @@ void composting_module::get_straw_data() {
     loaded_ = std::move(loaded);
     calculations_ = std::move(calculations);
     field_names_ = std::move(names);
+    history_.begin_anew();
     told.tell(person_);
 }
 
@@ -142,6 +143,7 @@ bool composting_module::save() {
     if (!file) return false;
     save_calculations(file.db(), calculations_);
     file.commit();
+    history_.begin_anew();
     return true;
 }
 
@@ -152,6 +154,7 @@ void composting_module::close_panel() {
 void composting_module::leave_panel() {
     calculations_ = empty_composting_grid();
     panel_open_ = false;
+    history_.begin_anew();
 }
 
 bool composting_module::close() {

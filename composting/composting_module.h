@@ -12,6 +12,7 @@
 #include "composting/composting_rules.h"
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/grid_rows.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
@@ -45,6 +46,8 @@ class composting_module {
     bool panel_open() const { return panel_open_; }
     std::string panel_caption() const;
     const text_grid& calculations() const { return calculations_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
     /// Fills the recorded calculations from the assessment and tells which stored fields the profile lacks.
     /// Throws file_error and leaves everything as it was when the file cannot be read.
     void get_straw_data();
@@ -94,6 +97,7 @@ class composting_module {
     loaded_rows loaded_{{{"Straw"}}};
     text_grid calculations_;
     std::vector<std::string> field_names_;
+    grid_history history_{calculations_};
 };
 
 }  // namespace kel

@@ -50,6 +50,7 @@ struct rain_memory {
     std::string_view soil_code = {};
     int winter_kg_per_ha = 0;
     int spring_kg_per_ha = 0;
+    bool operator==(const rain_memory&) const = default;
 };
 
 // The adjustment in kg/ha for a status; nothing: the row is not complete and its cell stays as it is.

@@ -84,6 +84,7 @@ void crop_module::load(std::string winter_status) {
     field_names_ = std::move(names);
     winter_status_ = std::move(winter_status);
     opened_assessment_ = state_.assessment;
+    history_.begin_anew();
     told.tell(person_);
 }
 
@@ -154,6 +155,7 @@ bool crop_module::save() {
     if (!file) return false;
     save_crops(file.db(), crops_);
     file.commit();
+    history_.begin_anew();
     return true;
 }
 

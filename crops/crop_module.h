@@ -11,6 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/screens.h"
@@ -32,6 +33,8 @@ class crop_module {
     std::string_view instruction() const;
     const text_grid& crops() const { return crops_; }
     const text_grid& results() const { return results_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     /// Begins with the winter rainfall question, answered by the climate of the farm's town or by what is
     /// stored. Throws file_error and leaves everything as it was when a file cannot be read.
@@ -133,6 +136,7 @@ class crop_module {
     // What a row without a figure of its own falls back on; kept as long as the module is open.
     base_requirement working_;
     rain_memory rain_;
+    grid_history history_{crops_, sowing_shown_, rain_};
 };
 
 }  // namespace kel

@@ -19,7 +19,9 @@ grass_module::grass_module(application_state& state, prompts& person, screens& s
       site_(state, person, shown, farm_),
       livestock_(person, farm_),
       stocking_(person, farm_),
-      silage_(person, farm_) {}
+      silage_(person, farm_) {
+    history_.on_restored([this] { stocking_.fill(); });
+}
 
 std::string_view grass_module::instruction() const {
     switch (page_) {
@@ -62,6 +64,7 @@ void grass_module::grass_load_stuff() {
     stocking_.fill();
     page_ = grass_page::rain;
     tab_ = stock_tab::livestock;
+    history_.begin_anew();
     told.tell(person_);
 }
 
@@ -87,6 +90,7 @@ bool grass_module::confirm_altitude(std::optional<int> answer) {
     farm_.altitude_step = altitude_levels()[static_cast<std::size_t>(*answer)].altitude_step;
     page_ = grass_page::site;
     site_.set_site_classes();
+    history_.begin_anew();  // the answer that the classes follow from is stored
     return true;
 }
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/grid_history.h"
 #include "core/module_save.h"
 #include "core/prompts.h"
 #include "core/screens.h"
@@ -38,6 +39,8 @@ class grass_module {
     livestock_page& livestock() { return livestock_; }
     stocking_page& stocking() { return stocking_; }
     silage_page& silage() { return silage_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     /// Fills the tables from the assessment, answers the opening questions in advance, turns to the first of
     /// them and tells which stored fields the profile lacks. Throws file_error and leaves everything as it
@@ -109,6 +112,8 @@ class grass_module {
     stock_tab tab_ = stock_tab::livestock;
     std::optional<int> rain_answer_;
     std::optional<int> altitude_answer_;
+    grid_history history_{farm_.site,          farm_.livestock,   farm_.rain_class,
+                          farm_.altitude_step, farm_.stock_types, farm_.total_lus};
 };
 
 }  // namespace kel

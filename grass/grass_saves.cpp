@@ -26,6 +26,7 @@ bool grass_module::save(const std::optional<save_target>& target,
     if (!file) return false;
     write(file.db());
     file.commit();
+    history_.begin_anew();
     return true;
 }
 
@@ -49,8 +50,10 @@ bool grass_module::cmdGrass_SU_save() {
 bool grass_module::cmdGrass_rec_save() {
     const bool saved =
         save(chosen_target(), [this](const database& db) { save_silage_rates(db, silage_.plan()); });
-    if (saved) silage_.keep_rates();
-    return saved;
+    if (!saved) return false;
+    silage_.keep_rates();
+    history_.begin_anew();
+    return true;
 }
 
 void grass_module::save_rec(const text_grid& results) {

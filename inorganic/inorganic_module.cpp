@@ -57,6 +57,7 @@ void inorganic_module::inorganic_load_stuff() {
     applications_ = std::move(applications);
     loaded_ = std::move(loaded);
     field_names_ = std::move(names);
+    history_.begin_anew();
     if (state_.kel_year_start) state_.limits = year_limits_of(*state_.kel_year_start);
 }
 
@@ -143,6 +144,7 @@ bool inorganic_module::save() {
     if (!file) return false;
     inorganic_table::save(file.db(), applications_);
     file.commit();
+    history_.begin_anew();
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include "core/application_state.h"
 #include "core/dates.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
@@ -32,6 +33,8 @@ class inorganic_module {
     const std::vector<std::string>& field_names() const { return field_names_; }
     /// The year to which the calendar opens, that in which the KEL year ends; nothing without an assessment.
     std::optional<int> calendar_year() const;
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     /// Fills table and field list from the assessment and works out the year limits. Every row is taken as it
     /// stands. Throws file_error and leaves everything as it was when the file cannot be read.
@@ -63,6 +66,7 @@ class inorganic_module {
     text_grid applications_;
     loaded_rows loaded_{{{"Inorganic N"}}};
     std::vector<std::string> field_names_;
+    grid_history history_{applications_};
 };
 
 }  // namespace kel

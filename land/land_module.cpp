@@ -60,6 +60,7 @@ void land_module::load_land_stuff() {
     field_names_ = std::move(names);
     working_constant_ = constant;
     result_.reset();
+    history_.begin_anew();
     told.tell(person_);
 }
 
@@ -247,6 +248,7 @@ bool land_module::save() {
     file.commit();
     land_ = std::move(land);
     imported_from_.reset();
+    history_.begin_anew();
     return true;
 }
 

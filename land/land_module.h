@@ -10,6 +10,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
@@ -30,6 +31,8 @@ class land_module {
     const std::vector<std::string>& field_names() const { return field_names_; }
     /// What the result panel shows; nothing while it is closed.
     const std::optional<spreading_result>& result() const { return result_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     /// Fills both tabs from the assessment and tells which stored fields the profile lacks. Throws file_error
     /// and leaves everything as it was when the file cannot be read.
@@ -85,6 +88,7 @@ class land_module {
     std::vector<std::string> field_names_;
     float working_constant_ = 0;  // nitrogen constant of the stock row recalculated last
     std::optional<spreading_result> result_;
+    grid_history history_{land_, animals_, imported_from_, working_constant_};
 };
 
 }  // namespace kel

@@ -66,6 +66,7 @@ void manure_module::manure_load_stuff() {
     loaded_ = std::move(loaded);
     field_names_ = kel::field_names(fields);
     back();
+    history_.begin_anew();
     told.tell(person_);
 }
 

@@ -11,6 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/module_save.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
@@ -33,6 +34,8 @@ class manure_module {
     const std::vector<std::string>& field_names() const { return field_names_; }
     const std::string& instructions() const { return instructions_; }
     const std::string& warnings() const { return warnings_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     /// Fills the table from the file of manure_caller and tells what was not taken over; sets the year limits
     /// of the state. Throws file_error and leaves everything as it was when a file cannot be read.
@@ -105,6 +108,7 @@ class manure_module {
     int working_code_ = no_manure_code;
     std::string listed_manure_;  // chosen in the manure list last, in whatever row
     date calendar_ = make_date(1, 1, 2000);
+    grid_history history_{applications_, working_code_, listed_manure_, calendar_};
 };
 
 }  // namespace kel

@@ -123,6 +123,7 @@ bool manure_module::save() {
     if (!file) return false;
     save_applications(file.db(), applications_);
     file.commit();
+    history_.begin_anew();
     return true;
 }
 

@@ -59,6 +59,7 @@ void profile_module::show_profile(loaded_profile fresh) {
     farm_ = std::move(fresh.farm);
     fields_ = std::move(fresh.fields);
     loaded_ = std::move(fresh.rows);
+    history_.begin_anew();
     state_.farm_name = std::move(fresh.farm_name);
     state_.farm_zone = std::move(fresh.farm_zone);
     state_.farm_town = std::move(fresh.farm_town);
@@ -76,6 +77,7 @@ void profile_module::new_farm() {
     farm_ = {};
     fields_.clear();
     year_list_enabled_ = true;
+    history_.begin_anew();
 }
 
 opening profile_module::click(int row, int row_selection, int column) const {

@@ -9,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/grid_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
@@ -38,6 +39,8 @@ class profile_module {
     const text_grid& fields() const { return fields_; }
     /// The year of an existing assessment cannot be edited.
     bool year_list_enabled() const { return year_list_enabled_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     // What the person types above the grid.
     void set_name(std::string text) { farm_.name = std::move(text); }
@@ -104,6 +107,7 @@ class profile_module {
     text_grid fields_{field_columns};
     bool year_list_enabled_ = true;
     int loads_ = 0;
+    grid_history history_{fields_, farm_.field_count};
 };
 
 }  // namespace kel

@@ -72,6 +72,7 @@ set_profile_result profile_module::set_profile() {
     }
     loaded_.remember(database(state_.assess_file));
     forget_carried_names();
+    history_.begin_anew();
     if (areas_changed) person_.tell(messages::areas_changed);
     return set_profile_result::saved;
 }

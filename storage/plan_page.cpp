@@ -28,7 +28,9 @@ int land_month_of(int column) {
 }  // namespace
 
 plan_page::plan_page(application_state& state, prompts& person)
-    : state_(state), person_(person), production_(empty_production_grid()), plan_(empty_land_plan()) {}
+    : state_(state), person_(person), production_(empty_production_grid()), plan_(empty_land_plan()) {
+    history_.on_restored([this] { rebuild(); });
+}
 
 void plan_page::take(text_grid production, land_plan plan) {
     production_ = std::move(production);
@@ -47,6 +49,7 @@ void plan_page::save(const database& db) const {
 void plan_page::set_saved() {
     changed_ = false;
     land_imported_ = false;
+    history_.begin_anew();
 }
 
 void plan_page::clear() {
@@ -62,6 +65,7 @@ void plan_page::begin(const store_totals& stores, const monthly_values& dirty_wa
         inputs[month] += dirty_water[month];
     set_inputs(production_, inputs);
     rebuild();
+    history_.accept();
     tab_ = balance_ ? plan_tab::production : plan_tab::land;
 }
 

@@ -9,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/grid_history.h"
 #include "core/grid_rows.h"
 #include "core/prompts.h"
 #include "storage/land_plan.h"
@@ -41,6 +42,8 @@ class plan_page {
     const store_totals& stores() const { return stores_; }
     /// balance_table, with what the chart and the warning panel show; nothing without a capacity: no chart.
     const std::optional<storage_balance>& balance() const { return balance_; }
+    /// Undo and redo of its tables since the last load or save.
+    grid_history& history() { return history_; }
 
     plan_tab tab() const { return tab_; }
     /// The tab that is to stand in front when the person turns to `wanted`. Without a capacity the land table
@@ -108,6 +111,7 @@ class plan_page {
     bool changed_ = false;
     bool land_imported_ = false;  // with soil and areas that are not those of the file
     int harvest_year_ = 0;        // of the date that the box of a field's use offered first
+    grid_history history_{production_, plan_.land, plan_.spreading, changed_, land_imported_};
 };
 
 }  // namespace kel

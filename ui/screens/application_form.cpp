@@ -1,6 +1,7 @@
 #include "ui/screens/application_form.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QHBoxLayout>
@@ -92,6 +93,9 @@ QWidget* application_form::calendar_side() {
     day_text_->setObjectName("lbl" + name_ + "_day");
     heading->addWidget(day_text_, 1);
     layout->addLayout(heading);
+    typed_ = new day_line(name_ + "_date", calendar_, side);
+    typed_->line()->installEventFilter(this);
+    layout->addWidget(typed_);
     layout->addWidget(calendar_, 1);
     return side;
 }
@@ -143,6 +147,7 @@ void application_form::show_day(std::optional<date> day) {
 }
 
 void application_form::show_opening(const opening& shown) {
+    typed_->hide();
     for (std::size_t part = 0; part < shown.parts.size(); ++part)
         show_text(static_cast<int>(part), shown.parts[part].text);
     if (auto* line = qobject_cast<QLineEdit*>(focus_stop(shown.focus))) line->selectAll();
@@ -162,12 +167,24 @@ box_entry application_form::entered() const {
     return entry;
 }
 
-std::vector<QWidget*> application_form::stops() const {
+void application_form::take_key(int part, QKeyEvent& key) {
+    if (part == application_part::day) return typed_->begin(key);
+    QApplication::sendEvent(focus_stop(part), &key);
+}
+
+std::vector<QWidget*> application_form::part_controls() const {
     return {calendar_->days(), type_, amount_, content_, comments_};
 }
 
+// A date that is being typed stands before the calendar that shows it.
+std::vector<QWidget*> application_form::stops() const {
+    std::vector<QWidget*> controls = part_controls();
+    if (!typed_->isHidden()) controls.insert(controls.begin(), typed_->line());
+    return controls;
+}
+
 QWidget* application_form::focus_stop(int part) const {
-    return stops().at(static_cast<std::size_t>(part));
+    return part_controls().at(static_cast<std::size_t>(part));
 }
 
 // Until the rules have answered the old date stands, also when the file cannot be read.
@@ -176,6 +193,7 @@ void application_form::pick(date picked) {
     picking_ = true;
     const auto settle = qScopeGuard([this] {
         picking_ = false;
+        typed_->hide();
         show_day(day_);
     });
     for (const auto& [part, text] : pick_(picked).changes)
@@ -199,7 +217,8 @@ bool application_form::eventFilter(QObject* watched, QEvent* event) {
             pick(from_qt(calendar_->selectedDate()));
             return true;
         }
-    } else if (watched == calendar_->days() && event->type() == QEvent::FocusOut && !picking_) {
+    } else if ((watched == calendar_->days() || watched == typed_->line()) &&
+               event->type() == QEvent::FocusOut && !picking_) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
             QTimer::singleShot(0, this, [this] { pick_moved_day(); });
@@ -208,6 +227,7 @@ bool application_form::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool application_form::ready() {
+    if (!typed_->ready()) return false;
     if (!calendar_->moved()) return true;
     const QString comments = comments_->text();
     const date moved_to = from_qt(calendar_->selectedDate());

@@ -14,6 +14,7 @@ class QLineEdit;
 namespace kel {
 
 class day_calendar;
+class day_line;
 
 class application_form : public entry_form {
     Q_OBJECT
@@ -29,6 +30,7 @@ class application_form : public entry_form {
     void show_opening(const opening& shown) override;
     void show_text(int part, const std::string& text) override;
     box_entry entered() const override;
+    void take_key(int part, QKeyEvent& key) override;
     /// A day that was moved to has to be picked first.
     bool ready() override;
     std::vector<QWidget*> stops() const override;
@@ -38,6 +40,7 @@ class application_form : public entry_form {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    std::vector<QWidget*> part_controls() const;
     QWidget* calendar_side();
     QWidget* boxes_side();
     QLineEdit* add_box(QLayout* layout, std::string_view label, QLineEdit* box);
@@ -51,6 +54,7 @@ class application_form : public entry_form {
     std::optional<date> day_;
     bool picking_ = false;
     day_calendar* calendar_ = nullptr;
+    day_line* typed_ = nullptr;
     QLabel* day_text_ = nullptr;
     QLineEdit* type_ = nullptr;
     QLineEdit* amount_ = nullptr;

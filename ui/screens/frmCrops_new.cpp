@@ -34,6 +34,7 @@ frmCrops_new::frmCrops_new(application_state& state, prompts& person, report_des
     layout->addWidget(views_, 1);
     add_commands(layout);
     add_entry_boxes();
+    use_history(module_.history());
     show_phase();
 }
 

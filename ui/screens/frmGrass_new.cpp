@@ -35,6 +35,7 @@ frmGrass_new::frmGrass_new(application_state& state, prompts& person, report_des
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(instruction_);
     layout->addWidget(pages_, 1);
+    use_history(module_.history());
     show_page();
 }
 

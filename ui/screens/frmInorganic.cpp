@@ -30,6 +30,7 @@ frmInorganic::frmInorganic(application_state& state, prompts& person, report_des
     layout->addWidget(grid_, 1);
     add_commands(layout);
     add_entry_boxes();
+    use_history(module_.history());
     grid_->setFocus();
 }
 

@@ -38,6 +38,7 @@ frmLand_new::frmLand_new(application_state& state, prompts& person, report_desk&
     layout->addWidget(views_);
     disable_meanwhile(tabs_->tabBar());
     add_entry_boxes();
+    use_history(module_.history());
     land_->setFocus();
 }
 

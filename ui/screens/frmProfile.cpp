@@ -45,6 +45,7 @@ frmProfile::frmProfile(profile_module& module, report_desk& desk, application_st
     layout->addWidget(grid_, 1);
     layout->addLayout(main_buttons());
     add_entry_boxes();
+    use_history(module_.history());
     refresh();
 }
 
@@ -167,6 +168,7 @@ void frmProfile::add_entry_boxes() {
 template <class Work>
 void frmProfile::and_refresh(Work work) {
     work();
+    record_changes();
     refresh();
 }
 

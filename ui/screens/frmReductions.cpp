@@ -45,6 +45,7 @@ frmReductions::frmReductions(application_state& state, prompts& person, report_d
     layout->addWidget(instructions_);
     layout->addWidget(views_, 1);
     add_entry_boxes();
+    use_history(module_.history());
     show_view();
 }
 

@@ -31,6 +31,7 @@ frmStorage::frmStorage(application_state& state, prompts& person, report_desk& d
         pages_->addWidget(page);
     layout->addWidget(pages_, 1);
     layout->addLayout(commands());
+    use_history(module_.plan().history());
     connect(water_, &storage_water_page::confirmed, water_continue_, &QPushButton::click);
     show_page();
 }

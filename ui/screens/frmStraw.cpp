@@ -29,6 +29,7 @@ frmStraw::frmStraw(application_state& state, prompts& person, report_desk& desk)
     views_->addWidget(calculator());
     views_->addWidget(panel());
     layout->addWidget(views_, 1);
+    use_history(module_.history());
     show_answers();
     show_result();
     show_view();

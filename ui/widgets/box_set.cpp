@@ -3,13 +3,18 @@
 #include <QPushButton>
 #include <algorithm>
 #include <stdexcept>
+#include <string_view>
 
 #include "ui/widgets/grid_view.h"
 
 namespace kel {
 
+namespace {
+constexpr const char* clear_suffix = "clear";
+}
+
 box_button clear_button(entry_box::box_operation clear) {
-    return {"Clear &Cell", "clear", std::move(clear)};
+    return {"Clear &Cell", clear_suffix, std::move(clear)};
 }
 
 box_button erase_button(entry_box::box_operation erase) {
@@ -22,24 +27,44 @@ entry_box* box_set::add(const box_row& row) {
     auto* box = new entry_box(row.name, grid_, screen_);
     box->on_enter(row.enter);
     if (row.enter_name) box->enter_button()->setObjectName(row.enter_name);
-    for (const box_button& button : row.buttons)
+    boxes_.push_back({row.box, box, {}});
+    for (const box_button& button : row.buttons) {
         box->add_button(button.caption, button.suffix, button.action);
-    connect(box, &entry_box::led_to, this, &box_set::open);
-    boxes_.push_back({row.box, box});
+        if (std::string_view(button.suffix) == clear_suffix) boxes_.back().clear = button.action;
+    }
+    connect(box, &entry_box::led_to, this,
+            [this](const opening& next, bool typed) { typed ? open_typed(next, nullptr) : open(next); });
     return box;
 }
 
-entry_box* box_set::box(box_id box) const {
+const box_set::member& box_set::member_of(box_id box) const {
     const auto found =
         std::find_if(boxes_.begin(), boxes_.end(), [&](const member& m) { return m.id == box; });
     if (found == boxes_.end()) throw std::logic_error("a box that the screen does not have");
-    return found->box;
+    return *found;
+}
+
+entry_box* box_set::box(box_id box) const {
+    return member_of(box).box;
+}
+
+entry_box* box_set::box_over_cell(const opening& shown) {
+    if (shown.column) grid_.setCurrentIndex(grid_.model()->index(grid_.current_row(), *shown.column));
+    return box(shown.box);
 }
 
 void box_set::open(const opening& shown) {
-    if (shown.box.none()) return;
-    if (shown.column) grid_.setCurrentIndex(grid_.model()->index(grid_.current_row(), *shown.column));
-    box(shown.box)->open(shown);
+    if (!shown.box.none()) box_over_cell(shown)->open(shown);
+}
+
+void box_set::open_typed(const opening& shown, QKeyEvent* key) {
+    if (!shown.box.none()) box_over_cell(shown)->open_typed(shown, key);
+}
+
+bool box_set::clear(grid_cell at, const opening& clicked) const {
+    if (clicked.box.none()) return false;
+    const auto& clear = member_of(clicked.box).clear;
+    return clear && clear(at, {}).closes;
 }
 
 }  // namespace kel

@@ -68,12 +68,19 @@ class box_set : public QObject {
     entry_box* box(box_id box) const;
     /// Opens its box, and none for an opening without one.
     void open(const opening& shown);
+    /// The same for one who types on from cell to cell; the key goes into the box.
+    void open_typed(const opening& shown, QKeyEvent* key);
+    /// Runs the Clear Cell of the box that a click on the cell opens; false if that has none.
+    bool clear(grid_cell at, const opening& clicked) const;
 
   private:
     struct member {
         box_id id;
         entry_box* box;
+        entry_box::box_operation clear;  // none: it has no such button
     };
+    const member& member_of(box_id box) const;
+    entry_box* box_over_cell(const opening& shown);
     grid_view& grid_;
     QWidget* screen_;
     std::vector<member> boxes_;

@@ -1,5 +1,6 @@
 #include "ui/widgets/choice_editors.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -166,6 +167,18 @@ std::vector<QWidget*> options_editor::stops() const {
         controls.push_back(option);
     if (number_) controls.push_back(number_);
     return controls;
+}
+
+void options_editor::take_key(QKeyEvent& key) {
+    for (QAbstractButton* option : group_->buttons())
+        if (option->text().startsWith(key.text(), Qt::CaseInsensitive)) {
+            option->setChecked(true);
+            return option->setFocus();
+        }
+    if (!number_ || !key.text().front().isDigit()) return;
+    number_->setFocus();
+    number_->selectAll();
+    QApplication::sendEvent(number_, &key);
 }
 
 QWidget* options_editor::focus_stop() const {

@@ -54,6 +54,8 @@ class options_editor : public entry_editor {
     void show_text(const std::string& text) override;
     part_entry entered() const override;
     std::vector<QWidget*> stops() const override;
+    /// Chooses the first option that begins with the character; a digit may be the number.
+    void take_key(QKeyEvent& key) override;
     QWidget* focus_stop() const override;
     QWidget* named_control() override { return this; }
 

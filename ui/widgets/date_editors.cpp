@@ -1,7 +1,13 @@
 #include "ui/widgets/date_editors.h"
 
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "ui/widgets/line_editor.h"
+#include "ui/widgets/qt_text.h"
 
 namespace kel {
 
@@ -36,10 +42,58 @@ date from_qt(QDate day) {
     return make_date(day.day(), day.month(), day.year());
 }
 
+day_line::day_line(const QString& name, QCalendarWidget* calendar, QWidget* parent)
+    : QWidget(parent),
+      calendar_(calendar),
+      line_(new_text_box("txt" + name, this)),
+      read_as_(new QLabel(this)) {
+    line_->setAccessibleName(tr("Date, day first"));
+    read_as_->setObjectName("lbl" + name + "_typed");
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(line_);
+    row->addWidget(read_as_, 1);
+    connect(line_, &QLineEdit::textChanged, this, &day_line::follow);
+    hide();
+}
+
+void day_line::begin(QKeyEvent& key) {
+    year_ = calendar_->yearShown();
+    line_->clear();
+    show();
+    line_->setFocus();
+    QApplication::sendEvent(line_, &key);
+}
+
+std::optional<date> day_line::typed() const {
+    return typed_date(from_qt(line_->text().trimmed()), year_);
+}
+
+void day_line::follow() {
+    const auto day = typed();
+    read_as_->setText(day ? qt(long_date_text(*day)) : tr("day/month/year"));
+    if (day) calendar_->setSelectedDate(to_qt(*day));
+}
+
+bool day_line::ready() {
+    if (isHidden() || line_->text().isEmpty() || typed()) return true;
+    line_->setFocus();
+    line_->selectAll();
+    return false;
+}
+
 calendar_editor::calendar_editor(const QString& name, bool alone, QWidget* parent)
-    : entry_editor(parent), calendar_(new_calendar("cal" + name, this)) {
-    fill_with(calendar_);
+    : entry_editor(parent),
+      calendar_(new_calendar("cal" + name, this)),
+      typed_(new day_line(name, calendar_, this)) {
+    fill_with(typed_);
+    layout()->addWidget(calendar_);
     if (alone) connect(calendar_, &QCalendarWidget::activated, this, &entry_editor::confirmed);
+}
+
+void calendar_editor::show_part(const entry_part& part) {
+    typed_->hide();
+    show_text(part.text);
 }
 
 void calendar_editor::show_text(const std::string& text) {
@@ -69,6 +123,11 @@ void day_editor::show_text(const std::string& text) {
 
 part_entry day_editor::entered() const {
     return entry_of(edit_->date());
+}
+
+void day_editor::take_key(QKeyEvent& key) {
+    edit_->setSelectedSection(QDateTimeEdit::DaySection);
+    entry_editor::take_key(key);
 }
 
 std::vector<QWidget*> day_editor::stops() const {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 #include "ui/widgets/entry_editor.h"
@@ -42,7 +43,7 @@ entry_box::entry_box(const QString& name, grid_view& grid, QWidget* parent)
     QPushButton* enter = new_button("E&nter", "enter");
     enter->setDefault(true);
     connect(enter, &QPushButton::clicked, this, &entry_box::confirm);
-    connect(new_button("Cancel", "cancel"), &QPushButton::clicked, this, &entry_box::close_box);
+    connect(new_button("Cancel", "cancel"), &QPushButton::clicked, this, &entry_box::cancel);
     hide();
 }
 
@@ -57,7 +58,8 @@ QPushButton* entry_box::new_button(const QString& caption, const QString& suffix
 
 QPushButton* entry_box::add_button(const QString& caption, const QString& suffix, box_operation action) {
     QPushButton* button = new_button(caption, suffix);
-    connect(button, &QPushButton::clicked, this, [this, run = std::move(action)] { perform(run); });
+    connect(button, &QPushButton::clicked, this,
+            [this, run = std::move(action)] { perform(run, cell_step::none); });
     return button;
 }
 
@@ -92,6 +94,8 @@ void entry_box::chain_stops() {
 }
 
 void entry_box::open(const opening& shown) {
+    typed_ = false;
+    one_part_ = shown.parts.size() <= 1;
     make_form(shown.parts);
     form_->show_opening(shown);
     chain_stops();
@@ -108,8 +112,18 @@ void entry_box::open(const opening& shown) {
     (shown.parts.empty() ? enter_button() : form_->focus_stop(shown.focus))->setFocus();
 }
 
+void entry_box::open_typed(const opening& shown, QKeyEvent* key) {
+    open(shown);
+    typed_ = true;
+    if (!key || shown.parts.empty()) return;
+    form_->take_key(shown.focus, *key);
+    chain_stops();
+    place_beside_cell();
+}
+
 void entry_box::close_box() {
     if (isHidden()) return;
+    typed_ = false;  // a box that goes with the focus in it moves that on, as Tab does
     hide();
     for (QWidget* control : *disabled_meanwhile_)
         control->setEnabled(true);
@@ -118,16 +132,45 @@ void entry_box::close_box() {
     emit closed();
 }
 
-void entry_box::confirm() {
-    if (form_->ready()) perform(enter_);
+void entry_box::cancel() {
+    close_box();
+    emit settled();
 }
 
-void entry_box::perform(const box_operation& action) {
+void entry_box::confirm() {
+    confirm_and(typed_ ? cell_step::down : cell_step::none);
+}
+
+void entry_box::confirm_and(cell_step step) {
+    if (form_->ready()) perform(enter_, step);
+}
+
+void entry_box::perform(const box_operation& action, cell_step step) {
     const QPointer<QWidget> focused = focusWidget();
+    const bool typed = typed_;
     const outcome result = action({grid_.current_row(), grid_.current_column()}, form_->entered());
     if (!result.closes) return stay(result, focused);
     close_box();
-    if (result.next) emit led_to(*result.next);
+    if (result.next && !result.next->box.none()) {
+        emit led_to(*result.next, typed);
+    } else {
+        emit settled();
+        grid_.step(step);
+    }
+}
+
+bool entry_box::at_end(bool next) const {
+    QWidget* focused = focusWidget();
+    if (!focused || qobject_cast<QPushButton*>(focused)) return false;
+    const std::vector<QWidget*> stops = form_->stops();
+    const QWidget* end = next ? stops.back() : stops.front();
+    return one_part_ || focused == end || end->isAncestorOf(focused);
+}
+
+bool entry_box::focusNextPrevChild(bool next) {
+    if (!typed_ || !at_end(next)) return QFrame::focusNextPrevChild(next);
+    confirm_and(next ? cell_step::right : cell_step::left);
+    return true;
 }
 
 void entry_box::stay(const outcome& result, QWidget* focused) {
@@ -138,15 +181,24 @@ void entry_box::stay(const outcome& result, QWidget* focused) {
     if (focused) focused->setFocus();
 }
 
+// For one who types a letter picks an option, also in the questions that follow.
+void entry_box::pass_on(QKeyEvent& key) {
+    if (passing_on_) return;
+    const QScopedValueRollback<bool> passing(passing_on_, true);
+    form_->take_key(0, key);
+}
+
 void entry_box::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        close_box();
+        cancel();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto* button = qobject_cast<QPushButton*>(focusWidget());
         if (button && button->hasFocus())
             button->click();
         else
             confirm();
+    } else if (typed_ && one_part_ && types_character(*event)) {
+        pass_on(*event);
     } else {
         QFrame::keyPressEvent(event);
     }

@@ -2,6 +2,7 @@
 // click on a choice or on a day; among others it may not, since they are still to be answered.
 #pragma once
 
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QWidget>
 #include <vector>
@@ -21,6 +22,10 @@ class entry_editor : public QWidget {
     /// Shows this text, choice or day instead.
     virtual void show_text(const std::string& text) = 0;
     virtual part_entry entered() const = 0;
+    /// The key with which a person begins an entry in the grid.
+    virtual void take_key(QKeyEvent& key);
+    /// False, with the focus where it is wanted: what was put in cannot be read.
+    virtual bool ready() { return true; }
     /// The controls that Tab reaches, in its order.
     virtual std::vector<QWidget*> stops() const = 0;
     /// The one of them that gets the focus.

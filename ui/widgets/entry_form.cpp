@@ -1,5 +1,6 @@
 #include "ui/widgets/entry_form.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -10,6 +11,10 @@
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
+
+void entry_editor::take_key(QKeyEvent& key) {
+    QApplication::sendEvent(focus_stop(), &key);
+}
 
 entry_editor* new_entry_editor(const entry_part& part, const QString& box, QWidget* parent) {
     const QString name = part.name.empty() ? box : box + '_' + qt(part.name);
@@ -79,6 +84,15 @@ box_entry parts_form::entered() const {
     for (const entry_editor* editor : editors_)
         entry.parts.push_back(editor->entered());
     return entry;
+}
+
+bool parts_form::ready() {
+    return std::all_of(editors_.begin(), editors_.end(),
+                       [](entry_editor* editor) { return editor->ready(); });
+}
+
+void parts_form::take_key(int part, QKeyEvent& key) {
+    editors_.at(static_cast<std::size_t>(part))->take_key(key);
 }
 
 std::vector<QWidget*> parts_form::stops() const {

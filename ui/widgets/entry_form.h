@@ -2,6 +2,7 @@
 // opening; a screen that needs a special one derives it from entry_form and gives it to its box.
 #pragma once
 
+#include <QKeyEvent>
 #include <QWidget>
 #include <vector>
 
@@ -23,6 +24,8 @@ class entry_form : public QWidget {
     virtual box_entry entered() const = 0;
     /// Called before Enter; false: there is more to be answered first, and the box stays.
     virtual bool ready() { return true; }
+    /// The key with which a person begins an entry in the grid, for this part.
+    virtual void take_key(int part, QKeyEvent& key) = 0;
     /// The controls that Tab reaches, in its order.
     virtual std::vector<QWidget*> stops() const = 0;
     /// The control of a part that gets the focus.
@@ -47,6 +50,8 @@ class parts_form : public entry_form {
     void show_opening(const opening& shown) override;
     void show_text(int part, const std::string& text) override;
     box_entry entered() const override;
+    bool ready() override;
+    void take_key(int part, QKeyEvent& key) override;
     std::vector<QWidget*> stops() const override;
     QWidget* focus_stop(int part) const override;
 

@@ -20,6 +20,12 @@ constexpr int narrow_padding_px = 8;
 constexpr int row_padding_px = 8;
 }  // namespace
 
+bool types_character(const QKeyEvent& key) {
+    constexpr auto command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((key.modifiers() & command) || key.text().isEmpty()) return false;
+    return key.text().front().isPrint() && !key.text().front().isSpace();
+}
+
 grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent)
     : QTableView(parent), model_(new grid_model(grid, this)) {
     setObjectName(name);
@@ -134,6 +140,16 @@ grid_view::row_range grid_view::selected_rows() const {
     return range;
 }
 
+std::vector<grid_cell> grid_view::selected_white_cells() const {
+    std::vector<grid_cell> cells;
+    for (const QItemSelectionRange& part : selectionModel()->selection())
+        for (int row = part.top(); row <= part.bottom(); ++row)
+            for (int column = part.left(); column <= part.right(); ++column)
+                if (!isColumnHidden(column) && is_white(column) && !model_->grid().cell(row, column).empty())
+                    cells.push_back({row, column});
+    return cells;
+}
+
 void grid_view::refresh() {
     const int row = current_row();
     const int column = std::max(0, current_column());
@@ -146,6 +162,31 @@ void grid_view::refresh() {
 void grid_view::choose_cell(int row, int column) {
     setCurrentIndex(model_->index(row, column));
     emit cell_chosen(row, column);
+}
+
+bool grid_view::is_white(int column) const {
+    const auto columns = model_->grid().columns();
+    return columns[static_cast<std::size_t>(column)].kind == column_kind::entered;
+}
+
+void grid_view::step(cell_step step) {
+    if (step == cell_step::none || !currentIndex().isValid()) return;
+    const int on = step == cell_step::left ? -1 : 1;
+    const int columns = model_->columnCount();
+    int row = current_row();
+    int column = current_column();
+    if (step == cell_step::down) {
+        ++row;
+    } else {
+        do {
+            column += on;
+            if (column < 0 || column == columns) {
+                row += on;
+                column = on > 0 ? 0 : columns - 1;
+            }
+        } while (isColumnHidden(column));
+    }
+    if (row >= 0 && row < model_->rowCount()) setCurrentIndex(model_->index(row, column));
 }
 
 void grid_view::set_locked(bool locked) {
@@ -166,6 +207,10 @@ bool grid_view::leaves_by_tab(const QKeyEvent* event) const {
     return current_row() == model_->rowCount() - 1 && current_column() == last_shown();
 }
 
+bool grid_view::begins_entry(const QKeyEvent& event) const {
+    return takes_entries_ && types_character(event) && currentIndex().isValid() && is_white(current_column());
+}
+
 void grid_view::keyPressEvent(QKeyEvent* event) {
     if (locked_) return;
     const bool chooses =
@@ -177,6 +222,10 @@ void grid_view::keyPressEvent(QKeyEvent* event) {
         copy_selection();
     } else if (chooses && currentIndex().isValid()) {
         emit cell_chosen(current_row(), current_column());
+    } else if (begins_entry(*event)) {
+        emit cell_typed(current_row(), current_column(), *event);
+    } else if (takes_entries_ && event->key() == Qt::Key_Delete) {
+        emit clear_wanted();
     } else if (tab && leaves_by_tab(event)) {
         event->ignore();  // the window then moves the focus on
     } else {

@@ -1,15 +1,25 @@
-// The grid of every module: arrow keys and Tab move, Enter, F2 or a click chooses a cell, ranges can be
-// selected and copied as tab-separated text. The first column stays in view while the others are scrolled.
+// The grid of every module: arrow keys and Tab move, Enter, F2 or a click chooses a cell, a character typed
+// on a white cell begins an entry, Delete clears, ranges can be selected and copied as tab-separated text.
+// The first column stays in view while the others are scrolled.
 // While an entry box is open the grid keeps its selection and takes no input.
 #pragma once
 
 #include <QTableView>
 
+#include <vector>
+
+#include "core/entry.h"
 #include "ui/widgets/grid_model.h"
 
 namespace kel {
 
 class first_column;
+
+/// Where the current cell goes after an entry.
+enum class cell_step { none, down, right, left };
+
+/// Whether the key types a character, rather than to command something.
+bool types_character(const QKeyEvent& key);
 
 class grid_view : public QTableView {
     Q_OBJECT
@@ -25,6 +35,9 @@ class grid_view : public QTableView {
     int current_column() const { return currentIndex().column(); }
     /// The rows of the selection, at least the current one.
     row_range selected_rows() const;
+
+    /// The white cells of the selection that hold something.
+    std::vector<grid_cell> selected_white_cells() const;
 
     /// Makes the column as narrow as its heading in one line and this text allow.
     void narrow_column(int column, const QString& widest);
@@ -43,10 +56,20 @@ class grid_view : public QTableView {
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
     void set_locked(bool locked);
     bool locked() const { return locked_; }
+    /// Makes typing and Delete mean something in its white cells.
+    void take_entries() { takes_entries_ = true; }
+    bool is_white(int column) const;
+    bool shows(const text_grid& grid) const { return &model_->grid() == &grid; }
+    /// Right and left pass over hidden columns and go on in the next or the previous row.
+    void step(cell_step step);
 
   signals:
     /// A cell was clicked, or Enter or F2 pressed on it.
     void cell_chosen(int row, int column);
+    /// This key was typed on a white cell.
+    void cell_typed(int row, int column, const QKeyEvent& key);
+    /// Delete was pressed: the white cells of the selection are to be cleared.
+    void clear_wanted();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -62,9 +85,11 @@ class grid_view : public QTableView {
     bool leaves_by_tab(const QKeyEvent* event) const;
     int laid_out_width(int column) const;
     void keep_first_column();
+    bool begins_entry(const QKeyEvent& event) const;
     grid_model* model_;
     first_column* first_ = nullptr;  // made at the first scroll sideways
     bool locked_ = false;
+    bool takes_entries_ = false;
     int wrapped_column_ = -1;  // none
 };
 

@@ -3,8 +3,13 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
+#include <QTabWidget>
+#include <algorithm>
+#include <functional>
 
+#include "core/grid_history.h"
 #include "core/record_import.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/entry_box.h"
@@ -38,7 +43,10 @@ QPushButton* module_screen::add_command(QBoxLayout* row, const QString& caption,
                                         std::function<void()> action) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);
-    connect(button, &QPushButton::clicked, this, [run = std::move(action)] { run(); });
+    connect(button, &QPushButton::clicked, this, [this, run = std::move(action)] {
+        run();
+        record_changes();
+    });
     row->addWidget(button);
     main_controls_.push_back(button);
     return button;
@@ -48,6 +56,7 @@ void module_screen::adopt_box(entry_box* box) {
     boxes_.push_back(box);
     box->set_disabled_meanwhile(&main_controls_);
     connect(box, &entry_box::closed, this, [this] { refresh(); });
+    connect(box, &entry_box::settled, this, &module_screen::record_changes);
 }
 
 entry_box* module_screen::add_import_box(QBoxLayout* row, grid_view& grid, const QString& name) {
@@ -92,7 +101,87 @@ box_set* module_screen::add_boxes(grid_view& grid, const click_operation& click,
     }
     connect(&grid, &grid_view::cell_chosen, boxes,
             [boxes, click](int row, int column) { boxes->open(click(row, column)); });
+    grid.take_entries();
+    grids_.push_back(&grid);
+    connect(&grid, &grid_view::cell_typed, boxes, [boxes, click](int row, int column, const QKeyEvent& key) {
+        QKeyEvent typed(key.type(), key.key(), key.modifiers(), key.text());
+        boxes->open_typed(click(row, column), &typed);
+    });
+    connect(&grid, &grid_view::clear_wanted, this,
+            [this, &grid, boxes, click] { clear_cells(grid, *boxes, click); });
     return boxes;
+}
+
+// A cell that holds nothing is not asked about.
+void module_screen::clear_cells(grid_view& grid, const box_set& boxes, const click_operation& click) {
+    for (const grid_cell at : grid.selected_white_cells())
+        boxes.clear(at, click(at.row, at.column));
+    record_changes();
+    refresh();
+}
+
+void module_screen::use_history(grid_history& history) {
+    history_ = &history;
+    auto* bar = new QMenuBar(this);
+    bar->setObjectName("mnuModule");
+    fill_edit_menu(*bar->addMenu(tr("Edit")));
+    layout()->setMenuBar(bar);
+    disable_meanwhile(bar);
+}
+
+void module_screen::fill_edit_menu(QMenu& menu) {
+    const auto add = [&](const QString& caption, const QString& name, const QList<QKeySequence>& keys,
+                         const text_grid* (grid_history::*way)()) {
+        QAction* action = menu.addAction(caption, this, [this, way] { go_back(way); });
+        action->setObjectName(name);
+        action->setShortcuts(keys);
+        return action;
+    };
+    QAction* undo = add(tr("&Undo"), "mnuModule_undo", {Qt::CTRL | Qt::Key_Z}, &grid_history::undo);
+    QAction* redo = add(tr("&Redo"), "mnuModule_redo",
+                        {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, &grid_history::redo);
+    // Grey only as long as they are seen, so that the keys always ask the history itself.
+    connect(&menu, &QMenu::aboutToShow, this, [=, this] {
+        undo->setEnabled(front_grid() && history_->can_undo());
+        redo->setEnabled(front_grid() && history_->can_redo());
+    });
+    connect(&menu, &QMenu::aboutToHide, this, [=] {
+        undo->setEnabled(true);
+        redo->setEnabled(true);
+    });
+}
+
+void module_screen::record_changes() {
+    if (history_) history_->record();
+}
+
+bool module_screen::box_is_open() const {
+    return std::ranges::any_of(boxes_, [](const entry_box* box) { return box->isVisible(); });
+}
+
+grid_view* module_screen::front_grid() const {
+    const auto shown = std::ranges::find_if(grids_, [](const grid_view* grid) { return grid->isVisible(); });
+    return shown == grids_.end() ? nullptr : *shown;
+}
+
+// Results in view would no longer be those of the tables.
+void module_screen::go_back(const text_grid* (grid_history::*way)()) {
+    if (box_is_open() || !front_grid()) return;
+    const text_grid* changed = std::invoke(way, *history_);
+    if (!changed) return;
+    refresh();
+    show_table(*changed);
+}
+
+// Brings the tab of the table to the front.
+void module_screen::show_table(const text_grid& table) {
+    for (grid_view* grid : grids_) {
+        if (grid->shows(table) && !grid->isVisible())
+            for (QWidget* page = grid; page != this; page = page->parentWidget())
+                if (auto* tabs = qobject_cast<QTabWidget*>(page->parentWidget()->parentWidget()))
+                    tabs->setCurrentWidget(page);
+        if (grid->shows(table) && grid->isVisible()) grid->setFocus();
+    }
 }
 
 void module_screen::reload_all() {

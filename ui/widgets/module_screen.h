@@ -1,5 +1,5 @@
 // What the screens of all modules have in common: rows of commands that stay disabled while an entry box is
-// open, the close question, and the way back to the screen that opened them.
+// open, undo and redo, the close question, and the way back to the screen that opened them.
 #pragma once
 
 #include <QWidget>
@@ -12,13 +12,16 @@
 
 class QBoxLayout;
 class QLabel;
+class QMenu;
 class QPushButton;
 
 namespace kel {
 
 class box_set;
 class entry_box;
+class grid_history;
 class grid_view;
+class text_grid;
 struct box_row;
 struct opening;
 
@@ -64,15 +67,28 @@ class module_screen : public QWidget {
     using click_operation = std::function<opening(int row, int column)>;
     /// The boxes that a click in the grid opens; the screen is refreshed as one closes.
     box_set* add_boxes(grid_view& grid, const click_operation& click, const std::vector<box_row>& rows);
+    /// Gives the screen its Edit menu, which undoes by the module's history. Call it when the layout stands.
+    void use_history(grid_history& history);
+    /// What a person did is done: whatever it changed in the tables is one step of undo.
+    void record_changes();
     /// Keeps this control, too, disabled while a box is open.
     void disable_meanwhile(QWidget* control) { main_controls_.push_back(control); }
 
   private:
     void adopt_box(entry_box* box);
+    void clear_cells(grid_view& grid, const box_set& boxes, const click_operation& click);
     entry_box* add_import_box(QBoxLayout* row, grid_view& grid, const QString& name);
+
+    void fill_edit_menu(QMenu& menu);
+    void go_back(const text_grid* (grid_history::*way)());
+    grid_view* front_grid() const;
+    bool box_is_open() const;
+    void show_table(const text_grid& table);
 
     std::vector<QWidget*> main_controls_;
     std::vector<entry_box*> boxes_;
+    std::vector<grid_view*> grids_;  // that take entries
+    grid_history* history_ = nullptr;
 };
 
 }  // namespace kel
