@@ -61,6 +61,10 @@ struct entry_part {
     /// What the control of each option ends in; without names, its number.
     std::vector<std::string> choice_names{};
     std::string not_typed{};  // characters that the keyboard does not bring into a text
+    /// The column in which the answer stands, where that is not the box's.
+    std::optional<int> column{};
+    /// What each choice puts into its cell, where that is not the choice's text.
+    std::vector<std::string> cell_texts{};
     bool operator==(const entry_part&) const = default;
 };
 

@@ -90,6 +90,14 @@ opening delay_opening() {
     return shown;
 }
 
+opening spring_question_opening() {
+    opening shown = options(text::spring_question, text::spring_instruction,
+                            choices_of(spring_answers, &spring_answer::text));
+    shown.parts.front().column = crop_column::spring_status;
+    shown.parts.front().cell_texts = choices_of(spring_answers, &spring_answer::status);
+    return shown;
+}
+
 }  // namespace
 
 std::span<const crop_question> questions_of(std::string_view planned_name) {
@@ -134,8 +142,7 @@ opening question_opening(crop_question question) {
         case delayed_sowing:
             return delay_opening();
         case spring_rain:
-            return options(text::spring_question, text::spring_instruction,
-                           choices_of(spring_answers, &spring_answer::text));
+            return spring_question_opening();
         case summer_rain:
             return options(text::summer_question, {}, {"Yes", "No"});
         default:

@@ -29,6 +29,16 @@ entry_part list_of(const Names& names, std::string_view chosen) {
             .unit = {}};
 }
 
+// The table shows a crop by its code.
+template <class Names, class Code>
+entry_part list_of_crops(const Names& names, std::string_view chosen, Code code_of) {
+    entry_part list = list_of(names, chosen);
+    list.cell_texts.reserve(list.choices.size());
+    for (const std::string& name : list.choices)
+        list.cell_texts.emplace_back(code_of(name));
+    return list;
+}
+
 entry_part day_of_box(std::string_view label, std::string_view name, const std::string& shown) {
     return {.kind = part_kind::day,
             .text = shown,
@@ -85,7 +95,8 @@ opening crop_module::planned_opening(int row) {
         crop_box::planned_crop,
         text::planned_caption,
         text::planned_instruction,
-        {list_of(planned_crop_list(), planned_list_name(crops_.cell(row, crop_column::planned_crop))),
+        {list_of_crops(planned_crop_list(), planned_list_name(crops_.cell(row, crop_column::planned_crop)),
+                       planned_crop_code),
          day_of_box(text::anticipated_harvest_label, "harvest", shown_harvest(row, crop_column::harvest, 1)),
          day_of_box(text::sowing_label, "sowing", sowing_shown_)}};
 }
@@ -95,7 +106,8 @@ opening crop_module::previous_opening(int row) const {
         crop_box::previous_crop,
         text::previous_caption,
         text::previous_instruction,
-        {list_of(previous_crop_list(), previous_crop_name(crops_.cell(row, crop_column::previous_crop))),
+        {list_of_crops(previous_crop_list(), previous_crop_name(crops_.cell(row, crop_column::previous_crop)),
+                       [](std::string_view name) { return previous_crop_code(name).value_or(""); }),
          day_of_box(text::harvest_label, "harvest", shown_harvest(row, crop_column::previous_harvest, 0))}};
 }
 

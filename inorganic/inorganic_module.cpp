@@ -83,6 +83,10 @@ opening inorganic_module::application_of(int row, int focus) const {
                    {part_kind::number, cell(inorganic_column::amount)},
                    {part_kind::number, cell(inorganic_column::content)},
                    {part_kind::text, cell(inorganic_column::comments)}});
+    constexpr int columns[] = {inorganic_column::day, inorganic_column::type, inorganic_column::amount,
+                               inorganic_column::content, inorganic_column::comments};
+    for (std::size_t part = 0; part < shown.parts.size(); ++part)
+        shown.parts[part].column = columns[part];
     shown.focus = focus;
     return shown;
 }
@@ -131,6 +135,23 @@ outcome inorganic_module::enter_application(int row, const box_entry& entered) {
     applications_.set_cell(row, inorganic_column::comments, entered.text(comments));
     inorganic_table::recalculate(applications_, row);
     return box_closes();
+}
+
+outcome inorganic_module::enter_pasted(int row, const box_entry& pasted) {
+    using namespace application_part;
+    box_entry entered = pasted;
+    std::string& comment = entered.parts[comments].text;
+    const auto picked = pasted.day(day);
+    if (picked && *picked != parse_date(applications_.cell(row, inorganic_column::day))) {
+        const outcome picking = pick_date(row, *picked);
+        for (const auto& [part, text] : picking.changes) {
+            if (part == day && parse_date(text) != picked) return picking;
+            if (part == comments && !comment.starts_with(text)) comment = text + comment;
+        }
+    }
+    if (const auto limit = content_after_content(entered.text(content)))
+        entered.parts[content].text = std::string(*limit);
+    return enter_application(row, entered);
 }
 
 void inorganic_module::delete_row(int row) {

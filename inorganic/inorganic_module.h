@@ -46,6 +46,9 @@ class inorganic_module {
     /// this tests closed periods. Throws file_error.
     outcome pick_date(int row, date picked);
     outcome enter_application(int row, const box_entry& entered);
+    /// The same for an application that is pasted: its date is picked first, and behind the words that a
+    /// closed period puts there stand its comments.
+    outcome enter_pasted(int row, const box_entry& pasted);
 
     /// Does nothing for the entry row and without a row (-1).
     void delete_row(int row);

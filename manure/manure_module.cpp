@@ -134,12 +134,12 @@ opening manure_module::date_box(int row) const {
 }
 
 opening manure_module::incorporation_box(int row, const incorporation_choices& choices) const {
-    return {manure_box::incorporation,
-            text::incorporation_caption,
-            text::incorporation_instruction,
-            {{part_kind::options,
-              applications_.cell(row, col::incorporation),
-              {std::string(choices.early), std::string(choices.late)}}}};
+    opening shown(manure_box::incorporation, text::incorporation_caption, text::incorporation_instruction,
+                  {{part_kind::options,
+                    applications_.cell(row, col::incorporation),
+                    {std::string(choices.early), std::string(choices.late)}}});
+    shown.parts.front().column = col::incorporation;
+    return shown;
 }
 
 outcome manure_module::erase_row(int row) {

@@ -77,8 +77,9 @@ std::span<const program::screen_row> program::screen_table() {
 
 program::program(const installation& places, prompts& person, std::function<date()> today)
     : person_(person),
+      modules_person_(person),
       desk_{state_, *this, std::move(today), KEL_DEVELOPER_NAME},
-      profile_(state_, person_),
+      profile_(state_, modules_person_),
       front_(state_, person_, profile_, *this, desk_),
       years_(state_, person_, profile_, [this](picker_module caller) { reload(caller); }) {
     state_.places = places;
@@ -195,6 +196,7 @@ QWidget* program::make_location(screen_id /*id*/) {
 }
 
 QWidget* program::connected(screen_id id, module_screen* module) {
+    module->set_paste_port(modules_person_);
     connect(
         module, &module_screen::left, this, [this, id, module] { leave(id, module->closes_to()); },
         Qt::QueuedConnection);
@@ -207,9 +209,9 @@ QWidget* program::connected(screen_id id, module_screen* module) {
 template <class Screen>
 QWidget* program::make_module(screen_id id) {
     if constexpr (std::is_constructible_v<Screen, application_state&, prompts&, report_desk&, screens&>)
-        return connected(id, new Screen(state_, person_, desk_, *this));
+        return connected(id, new Screen(state_, modules_person_, desk_, *this));
     else
-        return connected(id, new Screen(state_, person_, desk_));
+        return connected(id, new Screen(state_, modules_person_, desk_));
 }
 
 QWidget* program::make_years(screen_id /*id*/) {

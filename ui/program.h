@@ -12,6 +12,7 @@
 
 #include "core/application_state.h"
 #include "core/file_stamp.h"
+#include "core/paste_prompts.h"
 #include "core/prompts.h"
 #include "profile/profile_module.h"
 #include "reports/report_viewer.h"
@@ -109,6 +110,7 @@ class program : public QObject, public desktop, public report_viewer {
 
     application_state state_;
     prompts& person_;
+    paste_prompts modules_person_;  // what the modules speak to
     report_desk desk_;
     profile_module profile_;
     assessments_module front_;

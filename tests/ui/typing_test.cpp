@@ -59,7 +59,7 @@ class Typing : public screen_test {
     }
     static void go_to(grid_view* grid, int row, int column) {
         grid->setFocus();
-        grid->setCurrentIndex(grid->model()->index(row, column));
+        grid->go_to(row, column);
     }
     static texts row_cells(const grid_view* grid, int row, int first, int last) {
         texts found;
@@ -156,6 +156,10 @@ TEST_F(Typing, DeleteRunsTheClearCellOfEveryWhiteCellSelected) {
     EXPECT_EQ(row_cells(land, 1, 1, 2), (texts{"4", "4"}));
     undo();
     EXPECT_EQ(row_cells(land, 0, 3, 6), (texts{"1", "1", "", "13.00"})) << "one Delete is one step";
+    go_to(land, 0, land_column::buffer);
+    keys("2\r");
+    press_key(Qt::Key_Down, 1, Qt::ShiftModifier);
+    EXPECT_EQ(land->selected_rows().first, 1) << "a selection begins where Enter has gone";
 }
 
 TEST_F(Typing, AnApplicationOfManureIsTypedDayFirstFromTheFieldToItsAmount) {

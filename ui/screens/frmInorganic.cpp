@@ -56,7 +56,8 @@ void frmInorganic::add_entry_boxes() {
     // clang-format off
     box_set* boxes = add_boxes(*grid_, [this](int row, int column) { return module_.click(row, column); }, {
         {inorganic_box::field, "Inorganic_field", runs(module_, &module::enter_field)},
-        {inorganic_box::application, "Inorganic_applic", runs(module_, &module::enter_application)},
+        {inorganic_box::application, "Inorganic_applic", runs(module_, &module::enter_application), {}, nullptr,
+            runs(module_, &module::enter_pasted)},
     });
     // clang-format on
     entry_box* dialog = boxes->box(inorganic_box::application);

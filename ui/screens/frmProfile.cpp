@@ -142,12 +142,16 @@ QLayout* frmProfile::main_buttons() {
 
 void frmProfile::add_entry_boxes() {
     using module = profile_module;
-    const auto enter_area = [this](grid_cell at, const box_entry& typed) {
-        const auto rows = grid_->selected_rows();
+    // The rows of the selection are those of the box; what is pasted is for its own row.
+    const auto rows_of = [this](grid_cell at) {
+        return grid_->locked() ? grid_->selected_rows() : grid_view::row_range{at.row, at.row};
+    };
+    const auto enter_area = [this, rows_of](grid_cell at, const box_entry& typed) {
+        const auto rows = rows_of(at);
         return module_.enter_area(rows.first, rows.last, at.column, typed.text());
     };
-    const auto enter_soil = [this](grid_cell, const box_entry& typed) {
-        const auto rows = grid_->selected_rows();
+    const auto enter_soil = [this, rows_of](grid_cell at, const box_entry& typed) {
+        const auto rows = rows_of(at);
         return module_.enter_soil(rows.first, rows.last, typed.text());
     };
     const auto click = [this](int row, int column) {

@@ -27,7 +27,7 @@ entry_box* box_set::add(const box_row& row) {
     auto* box = new entry_box(row.name, grid_, screen_);
     box->on_enter(row.enter);
     if (row.enter_name) box->enter_button()->setObjectName(row.enter_name);
-    boxes_.push_back({row.box, box, {}});
+    boxes_.push_back({row.box, box, {}, row.pasted ? row.pasted : row.enter});
     for (const box_button& button : row.buttons) {
         box->add_button(button.caption, button.suffix, button.action);
         if (std::string_view(button.suffix) == clear_suffix) boxes_.back().clear = button.action;

@@ -20,7 +20,8 @@ struct box_row {
     const char* name;
     entry_box::box_operation enter;
     std::vector<box_button> buttons{};
-    const char* enter_name = nullptr;  // of the Enter button, where it is not the usual one
+    const char* enter_name = nullptr;   // of the Enter button, where it is not the usual one
+    entry_box::box_operation pasted{};  // takes a pasted entry, where that is not what Enter does
 };
 
 // The operations of a module as those of a box: on the cell's row or on the cell, with what was typed or
@@ -72,12 +73,15 @@ class box_set : public QObject {
     void open_typed(const opening& shown, QKeyEvent* key);
     /// Runs the Clear Cell of the box that a click on the cell opens; false if that has none.
     bool clear(grid_cell at, const opening& clicked) const;
+    /// What takes a pasted entry of the box.
+    const entry_box::box_operation& pasted(box_id box) const { return member_of(box).pasted; }
 
   private:
     struct member {
         box_id id;
         entry_box* box;
         entry_box::box_operation clear;  // none: it has no such button
+        entry_box::box_operation pasted;
     };
     const member& member_of(box_id box) const;
     entry_box* box_over_cell(const opening& shown);

@@ -169,6 +169,17 @@ bool grid_view::is_white(int column) const {
     return columns[static_cast<std::size_t>(column)].kind == column_kind::entered;
 }
 
+// The view selects from the cell to which an arrow key has come last, so an arrow key does the last step.
+void grid_view::go_to(int row, int column) {
+    const int before = row > 0 ? row - 1 : row + 1;
+    if (before < model_->rowCount()) {
+        setCurrentIndex(model_->index(before, column));
+        QKeyEvent arrow(QEvent::KeyPress, before < row ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
+        QTableView::keyPressEvent(&arrow);
+    }
+    setCurrentIndex(model_->index(row, column));
+}
+
 void grid_view::step(cell_step step) {
     if (step == cell_step::none || !currentIndex().isValid()) return;
     const int on = step == cell_step::left ? -1 : 1;
@@ -186,7 +197,7 @@ void grid_view::step(cell_step step) {
             }
         } while (isColumnHidden(column));
     }
-    if (row >= 0 && row < model_->rowCount()) setCurrentIndex(model_->index(row, column));
+    if (row >= 0 && row < model_->rowCount()) go_to(row, column);
 }
 
 void grid_view::set_locked(bool locked) {
@@ -226,6 +237,10 @@ void grid_view::keyPressEvent(QKeyEvent* event) {
         emit cell_typed(current_row(), current_column(), *event);
     } else if (takes_entries_ && event->key() == Qt::Key_Delete) {
         emit clear_wanted();
+    } else if (takes_entries_ && event->matches(QKeySequence::Paste)) {
+        emit paste_wanted();
+    } else if (takes_entries_ && event->key() == Qt::Key_D && event->modifiers() == Qt::ControlModifier) {
+        emit fill_wanted();
     } else if (tab && leaves_by_tab(event)) {
         event->ignore();  // the window then moves the focus on
     } else {
@@ -250,16 +265,31 @@ void grid_view::mouseReleaseEvent(QMouseEvent* event) {
         emit cell_chosen(current_row(), current_column());
 }
 
+std::optional<grid_view::cell_range> grid_view::selected_cells() const {
+    if (!currentIndex().isValid()) return std::nullopt;
+    cell_range range{{current_row(), current_column()}, {current_row(), current_column()}};
+    for (const QItemSelectionRange& part : selectionModel()->selection()) {
+        range.first.row = std::min(range.first.row, part.top());
+        range.first.column = std::min(range.first.column, part.left());
+        range.last.row = std::max(range.last.row, part.bottom());
+        range.last.column = std::max(range.last.column, part.right());
+    }
+    return range;
+}
+
+cell_block grid_view::texts_of(const cell_range& range) const {
+    cell_block block;
+    for (int row = range.first.row; row <= range.last.row; ++row) {
+        std::vector<std::string>& cells = block.emplace_back();
+        for (int c = range.first.column; c <= range.last.column; ++c)
+            if (!isColumnHidden(c)) cells.push_back(model_->grid().cell(row, c));
+    }
+    return block;
+}
+
 void grid_view::copy_selection() const {
-    QString text;
-    for (const QItemSelectionRange& part : selectionModel()->selection())
-        for (int row = part.top(); row <= part.bottom(); ++row) {
-            QStringList cells;
-            for (int c = part.left(); c <= part.right(); ++c)
-                if (!isColumnHidden(c)) cells << model_->index(row, c).data().toString();
-            text += cells.join('\t') + '\n';
-        }
-    if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+    if (const auto range = selected_cells())
+        QApplication::clipboard()->setText(qt(block_text(texts_of(*range))));
 }
 
 }  // namespace kel

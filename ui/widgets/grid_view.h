@@ -1,14 +1,16 @@
 // The grid of every module: arrow keys and Tab move, Enter, F2 or a click chooses a cell, a character typed
-// on a white cell begins an entry, Delete clears, ranges can be selected and copied as tab-separated text.
-// The first column stays in view while the others are scrolled.
-// While an entry box is open the grid keeps its selection and takes no input.
+// on a white cell begins an entry, Delete clears, ranges can be selected, copied and pasted as tab-separated
+// text. The first column stays in view while the others are scrolled. While an entry box is open the grid
+// keeps its selection and takes no input.
 #pragma once
 
 #include <QTableView>
 
+#include <optional>
 #include <vector>
 
 #include "core/entry.h"
+#include "core/pasted_block.h"
 #include "ui/widgets/grid_model.h"
 
 namespace kel {
@@ -36,6 +38,15 @@ class grid_view : public QTableView {
     /// The rows of the selection, at least the current one.
     row_range selected_rows() const;
 
+    /// The rectangle of the selection; nothing without a current cell.
+    struct cell_range {
+        grid_cell first;
+        grid_cell last;
+    };
+    std::optional<cell_range> selected_cells() const;
+    /// The texts of its shown cells.
+    cell_block texts_of(const cell_range& range) const;
+    void copy_selection() const;
     /// The white cells of the selection that hold something.
     std::vector<grid_cell> selected_white_cells() const;
 
@@ -59,7 +70,10 @@ class grid_view : public QTableView {
     /// Makes typing and Delete mean something in its white cells.
     void take_entries() { takes_entries_ = true; }
     bool is_white(int column) const;
+    const text_grid& shown() const { return model_->grid(); }
     bool shows(const text_grid& grid) const { return &model_->grid() == &grid; }
+    /// Makes the cell the current one, and the one from which Shift and the arrows select.
+    void go_to(int row, int column);
     /// Right and left pass over hidden columns and go on in the next or the previous row.
     void step(cell_step step);
 
@@ -70,6 +84,9 @@ class grid_view : public QTableView {
     void cell_typed(int row, int column, const QKeyEvent& key);
     /// Delete was pressed: the white cells of the selection are to be cleared.
     void clear_wanted();
+    void paste_wanted();
+    /// The rows of the selection are to take what its first one holds.
+    void fill_wanted();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -81,7 +98,6 @@ class grid_view : public QTableView {
   private:
     void lay_out_columns();
     void lay_out_rows();
-    void copy_selection() const;
     bool leaves_by_tab(const QKeyEvent* event) const;
     int laid_out_width(int column) const;
     void keep_first_column();

@@ -1,19 +1,24 @@
 #include "ui/widgets/module_screen.h"
 
+#include <QApplication>
 #include <QBoxLayout>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <algorithm>
 #include <functional>
 
+#include "core/block_entry.h"
 #include "core/grid_history.h"
 #include "core/record_import.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/entry_box.h"
 #include "ui/widgets/grid_view.h"
+#include "ui/widgets/paste_list.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -107,9 +112,55 @@ box_set* module_screen::add_boxes(grid_view& grid, const click_operation& click,
         QKeyEvent typed(key.type(), key.key(), key.modifiers(), key.text());
         boxes->open_typed(click(row, column), &typed);
     });
+    connect(&grid, &grid_view::paste_wanted, this,
+            [this, &grid, boxes, click] { paste_clipboard(grid, *boxes, click); });
+    connect(&grid, &grid_view::fill_wanted, this,
+            [this, &grid, boxes, click] { fill_down(grid, *boxes, click); });
     connect(&grid, &grid_view::clear_wanted, this,
             [this, &grid, boxes, click] { clear_cells(grid, *boxes, click); });
     return boxes;
+}
+
+void module_screen::paste(grid_view& grid, const box_set& boxes, const click_operation& click,
+                          const cell_block& block, grid_cell at) {
+    if (!paste_port_ || block.empty()) return;
+    for (auto* earlier : findChildren<paste_list*>())
+        earlier->close();
+    const entry_target target{grid.shown(), click, [&](box_id box) { return &boxes.pasted(box); }};
+    std::vector<pasted_note> notes;
+    {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto done = qScopeGuard([this] {
+            QApplication::restoreOverrideCursor();
+            record_changes();
+            refresh();
+        });
+        notes = enter_block(target, *paste_port_, block, at);
+    }
+    if (!notes.empty()) (new paste_list(grid, std::move(notes), this))->show();
+}
+
+// A single cell goes into all that are selected.
+void module_screen::paste_clipboard(grid_view& grid, const box_set& boxes, const click_operation& click) {
+    const auto range = grid.selected_cells();
+    if (!range) return;
+    cell_block block = parse_block(from_qt(QApplication::clipboard()->text()));
+    if (block.size() == 1 && block.front().size() == 1) {
+        const std::string cell = block.front().front();
+        block = grid.texts_of(*range);
+        for (auto& row : block)
+            std::ranges::fill(row, cell);
+    }
+    paste(grid, boxes, click, block, range->first);
+}
+
+void module_screen::fill_down(grid_view& grid, const box_set& boxes, const click_operation& click) {
+    const auto range = grid.selected_cells();
+    if (!range || range->first.row == range->last.row) return;
+    cell_block block = grid.texts_of(*range);
+    block.pop_back();
+    std::ranges::fill(block, std::vector(block.front()));
+    paste(grid, boxes, click, block, {range->first.row + 1, range->first.column});
 }
 
 // A cell that holds nothing is not asked about.
@@ -140,6 +191,19 @@ void module_screen::fill_edit_menu(QMenu& menu) {
     QAction* undo = add(tr("&Undo"), "mnuModule_undo", {Qt::CTRL | Qt::Key_Z}, &grid_history::undo);
     QAction* redo = add(tr("&Redo"), "mnuModule_redo",
                         {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, &grid_history::redo);
+    menu.addSeparator();
+    const auto add_to_grid = [&](const QString& caption, const QString& name, auto act) {
+        menu.addAction(caption, this,
+                       [this, act] {
+                           if (grid_view* grid = front_grid()) act(grid);
+                       })
+            ->setObjectName(name);
+    };
+    add_to_grid(tr("&Copy\tCtrl+C"), "mnuModule_copy", [](grid_view* grid) { grid->copy_selection(); });
+    add_to_grid(tr("&Paste\tCtrl+V"), "mnuModule_paste", [](grid_view* grid) { emit grid->paste_wanted(); });
+    add_to_grid(tr("Fill &Down\tCtrl+D"), "mnuModule_fill",
+                [](grid_view* grid) { emit grid->fill_wanted(); });
+    add_to_grid(tr("C&lear\tDel"), "mnuModule_clear", [](grid_view* grid) { emit grid->clear_wanted(); });
     // Grey only as long as they are seen, so that the keys always ask the history itself.
     connect(&menu, &QMenu::aboutToShow, this, [=, this] {
         undo->setEnabled(front_grid() && history_->can_undo());
@@ -187,6 +251,8 @@ void module_screen::show_table(const text_grid& table) {
 void module_screen::reload_all() {
     for (entry_box* box : boxes_)
         box->close_box();
+    for (auto* list : findChildren<paste_list*>())
+        list->close();
     reload();
 }
 

@@ -7,7 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "core/entry.h"
 #include "core/grid_rows.h"
+#include "core/pasted_block.h"
 #include "core/screens.h"
 
 class QBoxLayout;
@@ -21,9 +23,9 @@ class box_set;
 class entry_box;
 class grid_history;
 class grid_view;
+class paste_prompts;
 class text_grid;
 struct box_row;
-struct opening;
 
 class module_screen : public QWidget {
     Q_OBJECT
@@ -35,6 +37,8 @@ class module_screen : public QWidget {
     virtual void reload() = 0;
     /// The same, with every entry box closed first: its cell may be gone.
     void reload_all();
+    /// Between the module and the person, for pastes.
+    void set_paste_port(paste_prompts& port) { paste_port_ = &port; }
     /// The screen to show when this one closes.
     virtual screen_id closes_to() const { return screen_id::front; }
     /// Asks the module's close question.
@@ -76,6 +80,10 @@ class module_screen : public QWidget {
 
   private:
     void adopt_box(entry_box* box);
+    void paste(grid_view& grid, const box_set& boxes, const click_operation& click, const cell_block& block,
+               grid_cell at);
+    void paste_clipboard(grid_view& grid, const box_set& boxes, const click_operation& click);
+    void fill_down(grid_view& grid, const box_set& boxes, const click_operation& click);
     void clear_cells(grid_view& grid, const box_set& boxes, const click_operation& click);
     entry_box* add_import_box(QBoxLayout* row, grid_view& grid, const QString& name);
 
@@ -89,6 +97,7 @@ class module_screen : public QWidget {
     std::vector<entry_box*> boxes_;
     std::vector<grid_view*> grids_;  // that take entries
     grid_history* history_ = nullptr;
+    paste_prompts* paste_port_ = nullptr;
 };
 
 }  // namespace kel

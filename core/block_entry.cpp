@@ -1,0 +1,276 @@
+#include "core/block_entry.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace kel {
+
+namespace {
+
+constexpr std::size_t most_questions = 20;  // in one chain
+
+std::string trimmed(const std::string& text) {
+    constexpr std::string_view blanks = " \t\r\n\xC2\xA0";
+    const auto first = text.find_first_not_of(blanks);
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+bool same_letters(std::string_view one, std::string_view other) {
+    return std::ranges::equal(
+        one, other, [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+}
+
+// The choice itself goes before what it puts into its cell, and both before what only looks alike.
+std::optional<int> choice_of(const entry_part& part, const std::string& text) {
+    const auto place = [](const auto& texts, const auto& is_it) -> std::optional<int> {
+        const auto found = std::ranges::find_if(texts, is_it);
+        if (found == texts.end()) return std::nullopt;
+        return static_cast<int>(found - texts.begin());
+    };
+    const auto same = [&](const std::string& choice) { return choice == text; };
+    const auto alike = [&](const std::string& choice) { return same_letters(choice, text); };
+    if (const auto exact = place(part.choices, same)) return exact;
+    if (const auto shown = place(part.cell_texts, same)) return shown;
+    return place(part.choices, alike);
+}
+
+part_entry chosen(const entry_part& part, int place) {
+    return {.text = part.choices[static_cast<std::size_t>(place)], .choice = place};
+}
+
+bool is_number(const std::string& text, bool with_point) {
+    const auto digits = std::ranges::count_if(text, [](unsigned char c) { return std::isdigit(c) != 0; });
+    const auto points = with_point ? std::ranges::count(text, '.') : 0;
+    return digits > 0 && points <= 1 && digits + points == static_cast<std::ptrdiff_t>(text.size());
+}
+
+std::string one_line(std::string text) {
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
+    return text;
+}
+
+std::string quote(const std::string& text) {
+    constexpr std::size_t longest = 60;
+    return '"' + (text.size() > longest ? text.substr(0, longest) + "..." : one_line(text)) + '"';
+}
+
+int year_shown(const entry_part& part) {
+    const auto shown = parse_date(part.text);
+    return shown ? year_of(*shown) : 0;
+}
+
+// What stands in a part as its box opens.
+part_entry as_it_opens(const entry_part& part) {
+    part_entry entry{.text = part.text};
+    if (!part.text.empty()) entry.choice = choice_of(part, part.text);
+    if (!part.choices.empty() && !entry.choice) entry.text.clear();
+    if (part.kind == part_kind::calendar || part.kind == part_kind::day) entry.day = parse_date(part.text);
+    return entry;
+}
+
+class block_writer {
+  public:
+    block_writer(const entry_target& target, paste_prompts& person) : target_(target), person_(person) {}
+
+    std::vector<pasted_note> write(const cell_block& block, grid_cell at) {
+        columns_ = columns_from(at.column);
+        const bool headed = block.size() > 1 && take_headings(block.front());
+        int row = at.row;
+        for (std::size_t line = headed ? 1 : 0; line < block.size(); ++line) {
+            line_ = static_cast<int>(line) + 1;
+            if (row >= target_.grid.row_count()) {
+                note({-1, at.column}, "The table has no row for this line and those below it.", false);
+                break;
+            }
+            write_row(block[line], row);
+            // A line of which nothing was taken leaves the entry row to the next one.
+            const bool last = row == target_.grid.row_count() - 1;
+            if (!last || row_holds_something(row)) ++row;
+        }
+        return std::move(notes_);
+    }
+
+  private:
+    std::vector<int> columns_from(int first) const {
+        std::vector<int> columns;
+        const auto all = target_.grid.columns();
+        for (int c = first; c < target_.grid.column_count(); ++c)
+            if (all[static_cast<std::size_t>(c)].kind != column_kind::carried) columns.push_back(c);
+        return columns;
+    }
+
+    bool take_headings(const std::vector<std::string>& cells) {
+        std::vector<int> named;
+        for (const std::string& cell : cells) {
+            const auto all = target_.grid.columns();
+            const auto found = std::ranges::find_if(all, [&](const grid_column& column) {
+                return column.kind != column_kind::carried && same_letters(column.heading, trimmed(cell));
+            });
+            if (found == all.end()) return false;
+            named.push_back(static_cast<int>(found - all.begin()));
+        }
+        columns_ = std::move(named);
+        return true;
+    }
+
+    bool row_holds_something(int row) const {
+        return std::ranges::any_of(target_.grid.row(row),
+                                   [](const std::string& cell) { return !cell.empty(); });
+    }
+
+    bool is_white(int column) const {
+        return target_.grid.columns()[static_cast<std::size_t>(column)].kind == column_kind::entered;
+    }
+
+    void write_row(const std::vector<std::string>& cells, int row) {
+        texts_.assign(static_cast<std::size_t>(target_.grid.column_count()), {});
+        const std::size_t width = std::min(cells.size(), columns_.size());
+        std::vector<int> order;
+        for (std::size_t i = 0; i < width; ++i) {
+            std::string& text = texts_[static_cast<std::size_t>(columns_[i])];
+            text = trimmed(cells[i]);
+            if (!text.empty() && is_white(columns_[i])) order.push_back(columns_[i]);
+        }
+        if (cells.size() > width)
+            note({row, columns_.empty() ? 0 : columns_.back()}, "The line has more cells than the table.",
+                 false);
+        std::ranges::sort(order);
+        for (const int column : order)
+            if (!texts_[static_cast<std::size_t>(column)].empty()) write_cell(row, column);
+    }
+
+    void write_cell(int row, int column) {
+        opening shown = target_.click(row, column);
+        if (shown.box.none()) {
+            note_told({row, column}, false, "This cell takes no entry.");
+            return;
+        }
+        for (std::size_t asked = 0; asked < most_questions; ++asked) {
+            const outcome result = enter(row, column, shown, asked > 0);
+            if (!result.next || result.next->box.none()) break;
+            shown = *result.next;
+        }
+        const std::string left = std::exchange(texts_[static_cast<std::size_t>(column)], {});
+        if (!left.empty() && row < target_.grid.row_count() && target_.grid.cell(row, column) != left)
+            note({row, column}, quote(left) + " found no place here.", false);
+    }
+
+    // Parts without a column of their own: the first one stands in that of the box.
+    std::optional<int> column_of(const opening& shown, std::size_t part, int clicked,
+                                 bool asked_after) const {
+        if (shown.parts[part].column) return shown.parts[part].column;
+        if (part > 0 || asked_after) return std::nullopt;
+        return shown.column.value_or(clicked);
+    }
+
+    /// Nothing next: the chain has ended.
+    outcome enter(int row, int column, const opening& shown, bool asked_after) {
+        const grid_cell cell{row, shown.column.value_or(column)};
+        box_entry entry;
+        bool answered = shown.parts.empty();
+        std::string why;
+        for (std::size_t part = 0; part < shown.parts.size(); ++part) {
+            const auto from = column_of(shown, part, column, asked_after);
+            std::string text =
+                from ? std::exchange(texts_[static_cast<std::size_t>(*from)], {}) : std::string();
+            auto put =
+                text.empty() ? as_it_opens(shown.parts[part]) : pasted_entry(shown.parts[part], text, why);
+            if (put && shown.parts[part].kind == part_kind::day && !put->day) {
+                put.reset();
+                why = "Its box asks for a date, too.";
+            }
+            answered = answered || !text.empty() || (put && put->choice);
+            if (!put) note({row, from.value_or(column)}, why, false);
+            if (!put) refused_ = true;
+            entry.parts.push_back(put.value_or(part_entry{}));
+        }
+        if (std::exchange(refused_, false)) return {};
+        if (!answered && asked_after) note(cell, "Not answered: " + shown.caption, true);
+        return run(cell, shown, entry);
+    }
+
+    outcome run(grid_cell cell, const opening& shown, const box_entry& entry) {
+        const cell_entry* operation = target_.enter(shown.box);
+        if (!operation) return {};
+        outcome result = (*operation)(cell, entry);
+        note_told(cell, result.closes, result.closes ? "" : "This is not taken.");
+        if (!result.closes) result.next.reset();
+        return result;
+    }
+
+    void note(grid_cell cell, std::string text, bool entered) {
+        notes_.push_back({line_, cell, std::move(text), entered});
+    }
+
+    void note_told(grid_cell cell, bool entered, std::string_view otherwise) {
+        std::vector<std::string> told = person_.take_told();
+        if (told.empty() && !otherwise.empty()) told.emplace_back(otherwise);
+        for (std::string& text : told)
+            note(cell, std::move(text), entered);
+    }
+
+    const entry_target& target_;
+    paste_prompts& person_;
+    std::vector<int> columns_;        // of the table, in the order of the block's
+    std::vector<std::string> texts_;  // of the line, by the table's columns; taken as they are used
+    std::vector<pasted_note> notes_;
+    int line_ = 0;
+    bool refused_ = false;
+};
+
+}  // namespace
+
+bool pasted_note::operator==(const pasted_note& other) const {
+    return line == other.line && cell.row == other.cell.row && cell.column == other.cell.column &&
+           text == other.text && entered == other.entered;
+}
+
+std::optional<part_entry> pasted_entry(const entry_part& part, const std::string& text, std::string& why) {
+    switch (part.kind) {
+        case part_kind::text:
+            return part_entry{.text = one_line(text)};
+        case part_kind::number:
+            if (is_number(text, true)) return part_entry{.text = text};
+            why = quote(text) + " is no number of digits and a decimal point.";
+            return std::nullopt;
+        case part_kind::digits:
+            if (is_number(text, false)) return part_entry{.text = text};
+            why = quote(text) + " is no whole number.";
+            return std::nullopt;
+        case part_kind::calendar:
+        case part_kind::day:
+            if (const auto day = typed_date(text, year_shown(part)))
+                return part_entry{.text = short_date_text(*day), .day = day};
+            why = quote(text) + " is no date (day/month/year).";
+            return std::nullopt;
+        case part_kind::options_with_number:
+            if (is_number(text, true)) {
+                part_entry number = chosen(part, static_cast<int>(part.choices.size()) - 1);
+                number.number = text;
+                return number;
+            }
+            break;
+        default:
+            break;
+    }
+    if (const auto place = choice_of(part, text)) return chosen(part, *place);
+    why = quote(text) + " is not among the choices.";
+    return std::nullopt;
+}
+
+std::vector<pasted_note> enter_block(const entry_target& target, paste_prompts& person,
+                                     const cell_block& block, grid_cell at) {
+    struct pasting {
+        paste_prompts& person;
+        explicit pasting(paste_prompts& whom) : person(whom) { person.begin_paste(); }
+        ~pasting() { person.end_paste(); }
+        pasting(const pasting&) = delete;
+        pasting& operator=(const pasting&) = delete;
+    };
+    const pasting quiet(person);
+    return block_writer(target, person).write(block, at);
+}
+
+}  // namespace kel
