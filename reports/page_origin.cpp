@@ -51,7 +51,7 @@ std::string unescaped(std::string_view text) {
 std::optional<std::string_view> taken_up_to(std::string_view& text, std::string_view mark) {
     const auto end = text.find(mark);
     if (end == std::string_view::npos) return std::nullopt;
-    const std::string_view taken = text.substr(0, end);
+    std::string_view taken = text.substr(0, end);
     text.remove_prefix(end + mark.size());
     return taken;
 }

@@ -25,7 +25,7 @@ std::string starting_folder(const application_state& state, const std::string& r
 std::string choose_file(const application_state& state, prompts& person, std::string_view title,
                         std::string_view filter, std::string& report_folder,
                         const std::string& documents_folder) {
-    const std::string chosen = with_extension(
+    std::string chosen = with_extension(
         person, title,
         person.file_to_save({.title = std::string(title),
                              .filter = std::string(filter),

@@ -10,7 +10,6 @@
 
 #include "core/file_error.h"
 #include "ui/kel_application.h"
-#include "ui/print/print_job.h"
 #include "ui/screens/Field_Record.h"
 #include "ui/screens/FullScreen.h"
 #include "ui/screens/Scotland.h"
@@ -26,6 +25,7 @@
 #include "ui/screens/frmStorage.h"
 #include "ui/screens/frmStraw.h"
 #include "ui/widgets/module_screen.h"
+#include "ui/widgets/print_job.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {

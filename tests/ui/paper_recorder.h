@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/print/print_job.h"
+#include "ui/widgets/print_job.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel::test {

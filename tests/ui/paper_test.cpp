@@ -4,7 +4,6 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QRegularExpression>
-#include <set>
 
 #include "reports/report_page.h"
 #include "tests/support/farm_files.h"
@@ -70,6 +69,7 @@ class Paper : public farm_test {
 
 texts row_texts(int row, int columns) {
     texts cells;
+    cells.reserve(static_cast<std::size_t>(columns));
     for (int c = 0; c < columns; ++c)
         cells.push_back("r" + std::to_string(row) + "c" + std::to_string(c));
     return cells;

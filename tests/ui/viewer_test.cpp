@@ -21,8 +21,8 @@
 #include "shell/years_messages.h"
 #include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
-#include "ui/print/print_job.h"
 #include "ui/widgets/page_view.h"
+#include "ui/widgets/print_job.h"
 
 namespace kel::test {
 

@@ -8,8 +8,8 @@
 #include "tools/bench/bench_farm.h"
 #include "tools/bench/bench_screen.h"
 #include "tools/bench/groups.h"
-#include "ui/print/print_job.h"
 #include "ui/widgets/page_view.h"
+#include "ui/widgets/print_job.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel::bench {

@@ -8,7 +8,7 @@
 #include "core/application_state.h"
 #include "core/prompts.h"
 #include "reports/report_viewer.h"
-#include "ui/print/print_job.h"
+#include "ui/widgets/print_job.h"
 
 class QLayout;
 class QPushButton;

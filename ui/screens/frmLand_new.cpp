@@ -11,9 +11,9 @@
 
 #include "land/land_messages.h"
 #include "land/land_report.h"
-#include "ui/print/print_job.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
+#include "ui/widgets/print_job.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {

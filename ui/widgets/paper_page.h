@@ -8,8 +8,8 @@
 #include <memory>
 #include <vector>
 
-#include "ui/print/paper_document.h"
-#include "ui/print/paper_strips.h"
+#include "ui/widgets/paper_document.h"
+#include "ui/widgets/paper_strips.h"
 
 class QPaintDevice;
 class QPainter;

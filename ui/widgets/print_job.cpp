@@ -1,4 +1,4 @@
-#include "ui/print/print_job.h"
+#include "ui/widgets/print_job.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -13,14 +13,14 @@
 #include <stdexcept>
 
 #include "core/file_error.h"
-#include "ui/print/paper_page.h"
-#include "ui/qt_prompts.h"
+#include "ui/widgets/paper_page.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
 
 namespace {
 
+constexpr const char* creator = "KEL Calculator";
 constexpr double foot_pt = smallest_text_pt;
 constexpr QMarginsF margins{15, 15, 15, 15};  // mm
 constexpr int pdf_dots_per_inch = 1200;
@@ -153,7 +153,7 @@ bool print_job::print(int first, int last) {
 void print_with_dialog(const std::vector<printed_page>& pages, date today, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageMargins(margins, QPageLayout::Millimeter);
-    printer.setDocName(qt(program_title));
+    printer.setDocName(creator);
     QPrintDialog dialog(&printer, parent);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     if (dialog.exec() != QDialog::Accepted) return;
@@ -177,7 +177,7 @@ std::string pdf_of(const std::vector<printed_page>& pages, const QString& title,
     {
         QPdfWriter writer(&buffer);
         writer.setTitle(title);
-        writer.setCreator(qt(program_title));
+        writer.setCreator(creator);
         writer.setResolution(pdf_dots_per_inch);
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins(margins, QPageLayout::Millimeter);

@@ -1,4 +1,4 @@
-#include "ui/print/paper_document.h"
+#include "ui/widgets/paper_document.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "ui/print/paper_strips.h"
+#include "ui/widgets/paper_strips.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "ui/print/paper_page.h"
+#include "ui/widgets/paper_page.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
