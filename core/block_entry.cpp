@@ -30,8 +30,8 @@ std::optional<int> choice_of(const entry_part& part, const std::string& text) {
     };
     const auto same = [&](const std::string& choice) { return choice == text; };
     const auto alike = [&](const std::string& choice) { return same_letters(choice, text); };
-    if (const auto exact = place(part.choices, same)) return exact;
-    if (const auto shown = place(part.cell_texts, same)) return shown;
+    if (auto exact = place(part.choices, same)) return exact;
+    if (auto shown = place(part.cell_texts, same)) return shown;
     return place(part.choices, alike);
 }
 

@@ -124,7 +124,7 @@ std::optional<date> parse_date(std::string_view text) {
 }
 
 std::optional<date> typed_date(std::string_view text, int year) {
-    if (const auto whole = parse_date(text)) return whole;
+    if (auto whole = parse_date(text)) return whole;
     const auto [parts, count] = split_date(text);
     if (count < 2 || count > 3) return std::nullopt;
     const auto day = whole_number(parts[0]);

@@ -143,7 +143,7 @@ outcome inorganic_module::enter_pasted(int row, const box_entry& pasted) {
     std::string& comment = entered.parts[comments].text;
     const auto picked = pasted.day(day);
     if (picked && *picked != parse_date(applications_.cell(row, inorganic_column::day))) {
-        const outcome picking = pick_date(row, *picked);
+        outcome picking = pick_date(row, *picked);
         for (const auto& [part, text] : picking.changes) {
             if (part == day && parse_date(text) != picked) return picking;
             if (part == comments && !comment.starts_with(text)) comment = text + comment;

@@ -20,8 +20,9 @@ paste_list::paste_list(grid_view& grid, std::vector<pasted_note> notes, QWidget*
     setObjectName("dlgPaste");
     setWindowTitle(tr("Paste"));
     setAttribute(Qt::WA_DeleteOnClose);
-    const auto taken = std::ranges::stable_partition(notes_, [](const pasted_note& n) { return !n.entered; });
-    const auto refused = static_cast<qsizetype>(notes_.size() - taken.size());
+    const auto taken = std::stable_partition(notes_.begin(), notes_.end(),
+                                             [](const pasted_note& note) { return !note.entered; });
+    const auto refused = static_cast<qsizetype>(taken - notes_.begin());
     auto* layout = new QVBoxLayout(this);
     auto* told =
         new QLabel(refused == 0 ? tr("Everything was entered. Please check:")
