@@ -52,6 +52,7 @@ void crop_module::open() {
     working_ = {};
     rain_ = {};
     phase_ = crop_phase::winter_question;
+    history_.begin_anew();
 }
 
 void crop_module::crop_load_stuff() {
