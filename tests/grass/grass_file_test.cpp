@@ -115,7 +115,7 @@ TEST_F(grass_file_test, ACopyThatCannotBeFilledIsNotGoneOnIn) {
     }
     EXPECT_EQ(state.assess_file, first);
     EXPECT_EQ(module.livestock().table().cell(0, livestock_column::number), "9");
-    for (const char* left : {"copy.kel", "copy.kel.new"})
+    for (const char* left : {"copy.kel", "copy.kel.unfinished"})
         EXPECT_FALSE(std::filesystem::exists(path(left))) << left;
 }
 

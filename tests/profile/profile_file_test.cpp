@@ -288,7 +288,7 @@ TEST_F(FailingNewFarm, AFailedSaveLeavesNoEmptyFarmAndKeepsTheStore) {
     write_file(path("old.kel"), "to be replaced");
     expect_failure(path("old.kel"));
     EXPECT_EQ(file_text(path("old.kel")), "to be replaced");
-    for (const char* left : {"new.kel", "new.kel.new", "old.kel.new"})
+    for (const char* left : {"new.kel", "new.kel.unfinished", "old.kel.unfinished"})
         EXPECT_FALSE(std::filesystem::exists(path(left))) << left;
 }
 
