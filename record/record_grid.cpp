@@ -26,7 +26,7 @@ constexpr std::array<grid_column, 11> record_columns{{
     {"Analysis of N content (kg/t or m3)",    "", calculated, 13},
     {"Quantity applied (t or m3/ha)",         "", calculated, 12},
     {"Total N applied",                       "", calculated, 10},
-    {"Additional comments",                   "", calculated, 24},
+    {"Additional comments",                   "", calculated, 19},
 }};
 
 constexpr std::array<grid_column, 3> warnings_columns{{

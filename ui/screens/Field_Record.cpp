@@ -36,6 +36,7 @@ Field_Record::Field_Record(application_state& state, prompts& person, report_des
     layout->addLayout(head());
     record_ = new grid_view(module_.record(), "MSFlexGrid1", this);
     record_->setAccessibleName(qt(text::title));
+    record_->wrap_column(record_column::comments);
     warnings_ = new warning_table("MSFlexGrid2", qt(text::warnings_heading), this);
     auto* parts = new QSplitter(Qt::Vertical, this);
     parts->addWidget(record_);
