@@ -1,8 +1,10 @@
 #include "core/assessment_store.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
+#include "core/file_stamp.h"
 #include "core/store_connection.h"
 #include "core/strangers_file.h"
 
@@ -90,6 +92,21 @@ std::vector<std::uint64_t> database::column_digests_of(std::string_view table,
                 digests.add(column, rows.text(column));
         return all_of(digests);
     });
+}
+
+// By the connection's own handle: SQLite's locks end with the first handle of the process that is closed.
+file_stamp database::stamp() const {
+    constexpr sqlite3_int64 counter_at = 24;
+    file_stamp stamp = stamp_from_outside(path_);
+    sqlite3_file* file = nullptr;
+    std::array<unsigned char, 4> bytes{};
+    sqlite3_file_control(shared_->sqlite.getHandle(), schema_.c_str(), SQLITE_FCNTL_FILE_POINTER, &file);
+    if (!file || !file->pMethods) return stamp;
+    if (file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), counter_at) != SQLITE_OK)
+        return stamp;
+    for (const unsigned char byte : bytes)
+        stamp.change_counter = stamp.change_counter << 8U | byte;
+    return stamp;
 }
 
 bool database::has_written() const {

@@ -17,6 +17,7 @@ namespace kel {
 
 class recordset;
 class save_transaction;
+struct file_stamp;
 
 /// One open file. Copies share the connection; a file attached to another one shares its connection and
 /// therefore its transaction. Every operation throws file_error.
@@ -48,6 +49,9 @@ class database {
 
     void delete_rows(std::string_view table) const;
     void delete_rows(std::string_view table, std::string_view column, std::string_view value) const;
+
+    /// Of the file as it lies there now, read without giving up a lock on it. Never throws.
+    file_stamp stamp() const;
 
     /// Whether anything was written through this connection since it was opened.
     bool has_written() const;

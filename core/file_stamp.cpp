@@ -24,7 +24,7 @@ std::uint32_t change_counter_of(const std::string& path) {
 
 }  // namespace
 
-file_stamp stamp_of(const std::string& path) {
+file_stamp stamp_from_outside(const std::string& path) {
     file_stamp stamp{.path = path};
     if (path.empty()) return stamp;
     std::error_code trouble;
@@ -32,7 +32,12 @@ file_stamp stamp_of(const std::string& path) {
     if (trouble) return stamp;
     stamp.size = size;
     stamp.written = fs::last_write_time(path, trouble);
-    stamp.change_counter = change_counter_of(path);
+    return stamp;
+}
+
+file_stamp stamp_of(const std::string& path) {
+    file_stamp stamp = stamp_from_outside(path);
+    if (stamp.size > 0) stamp.change_counter = change_counter_of(path);
     return stamp;
 }
 

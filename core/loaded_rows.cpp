@@ -20,21 +20,22 @@ std::uint64_t loaded_rows::digest(const database& db) const {
 }
 
 void loaded_rows::remember(const database& db) {
-    stamp_ = stamp_of(db.path());
+    stamp_ = db.stamp();
     digest_ = digest(db);
     path_ = db.path();
 }
 
 // The stamp after a save tells that file only if nobody wrote between the two.
-void loaded_rows::remember_saved(const database& db, std::uint64_t digest, const file_stamp& before) {
-    stamp_ = stamp_of(db.path());
-    if (stamp_.change_counter - before.change_counter > 1) stamp_ = {};
+void loaded_rows::remember_saved(const database& db, std::uint64_t digest, const file_stamp& before,
+                                 std::uint32_t own_writes) {
+    stamp_ = db.stamp();
+    if (stamp_.change_counter - before.change_counter > own_writes) stamp_ = {};
     digest_ = digest;
     path_ = db.path();
 }
 
 bool loaded_rows::changed(const database& db) const {
-    return changed(db, stamp_of(db.path()));
+    return changed(db, db.stamp());
 }
 
 bool loaded_rows::changed(const database& db, const file_stamp& now) const {

@@ -40,7 +40,8 @@ class loaded_rows {
     friend class module_save;
     std::uint64_t digest(const database& db) const;
     bool changed(const database& db, const file_stamp& now) const;
-    void remember_saved(const database& db, std::uint64_t digest, const file_stamp& before);
+    void remember_saved(const database& db, std::uint64_t digest, const file_stamp& before,
+                        std::uint32_t own_writes);
 
     std::vector<saved_table> tables_;
     std::string path_;

@@ -43,19 +43,20 @@ void module_save::begin(const std::string& path) {
 
 void module_save::lock() {
     transaction_.emplace(*db_);
-    at_start_ = stamp_of(db_->path());
+    at_start_ = db_->stamp();
 }
 
 void module_save::commit() {
     const bool as_loaded = !fresh_ && !db_->has_written() && rows_.stamp_ == at_start_;
     const std::uint64_t saved = as_loaded ? rows_.digest_ : rows_.digest(*db_);  // before another can write
+    const bool wrote = !fresh_ && db_->has_written();
     transaction_->commit();
     transaction_.reset();
     if (fresh_) {
         put_in_place();
-        at_start_ = stamp_of(target_.path);
+        at_start_ = db_->stamp();
     }
-    rows_.remember_saved(*db_, saved, at_start_);
+    rows_.remember_saved(*db_, saved, at_start_, wrote ? 1 : 0);
 }
 
 void module_save::put_in_place() {

@@ -1,5 +1,6 @@
 // Two copies of the program on one file: the mark that shows it at the opening, and the question before a
 // Save over rows that the other one has changed.
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -59,6 +60,29 @@ TEST_F(ChangedRows, AreAskedAboutOnceAndOwnSavesNever) {
     add_row(file, "Misc", {{"Item", "an item"}});
     person.expect(rows_changed_meanwhile(file), answer::no);
     EXPECT_FALSE(save("mine"));
+}
+
+// As another process sees it: whether somebody holds SQLite's lock for writing.
+bool is_locked_for_others(const std::string& file) {
+    const pid_t child = fork();
+    if (child == 0) {
+        struct flock reserved {};
+        reserved.l_type = F_WRLCK;
+        reserved.l_whence = SEEK_SET;
+        reserved.l_start = 0x40000001;
+        reserved.l_len = 1;
+        const int opened = open(file.c_str(), O_RDWR | O_CLOEXEC);
+        _exit(fcntl(opened, F_GETLK, &reserved) == 0 && reserved.l_type != F_UNLCK ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 1;
+}
+
+TEST_F(ChangedRows, CannotBeChangedByAnotherProgramWhileASaveIsUnderWay) {
+    EXPECT_FALSE(is_locked_for_others(file));
+    const module_save saving(file, person, loaded);
+    EXPECT_TRUE(is_locked_for_others(file));
 }
 
 // Another table, another module's columns, another file: nothing that this Save would write over.
