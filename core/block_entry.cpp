@@ -136,9 +136,44 @@ class block_writer {
         if (cells.size() > width)
             note({row, columns_.empty() ? 0 : columns_.back()}, "The line has more cells than the table.",
                  false);
+        if (!takes_name(row)) return;
         std::ranges::sort(order);
         for (const int column : order)
             if (!texts_[static_cast<std::size_t>(column)].empty()) write_cell(row, column);
+    }
+
+    // What stands behind a name must not go to another's row.
+    bool takes_name(int row) {
+        const std::string name = one_line(texts_.front());
+        if (name.empty()) return true;
+        if (is_white(0)) return writes_name(row, name);
+        texts_.front().clear();
+        if (same_letters(target_.grid.cell(row, 0), name)) return true;
+        leave_out_rest(row, quote(name) + " is not what this row is for.");
+        return false;
+    }
+
+    bool writes_name(int row, const std::string& name) {
+        const std::string before = target_.grid.cell(row, 0);
+        if (before == name) {
+            texts_.front().clear();
+            return true;
+        }
+        write_cell(row, 0);
+        if (row < target_.grid.row_count()) {
+            // The module may keep a name in a form of its own.
+            const std::string& now = target_.grid.cell(row, 0);
+            if (same_letters(now, name) || (!now.empty() && now != before)) return true;
+        }
+        leave_out_rest(row, "");
+        return false;
+    }
+
+    void leave_out_rest(int row, const std::string& why) {
+        constexpr const char* left_out = "The rest of the line was left out.";
+        const bool more = std::ranges::any_of(texts_, [](const std::string& text) { return !text.empty(); });
+        if (more || !why.empty())
+            note({row, 0}, why + (why.empty() || !more ? "" : " ") + (more ? left_out : ""), false);
     }
 
     void write_cell(int row, int column) {

@@ -1,7 +1,8 @@
 // A block of cells put into a table cell by cell, each through the module's own click and entry, as if a
 // person had typed them row by row from the left. A box whose parts stand in several columns of the row is
 // filled from all of them at once. Grey cells and empty ones of the block are passed over; a first row of the
-// table's own headings says which columns the others belong to.
+// table's own headings says which columns the others belong to. The first column says what a row is for:
+// a line whose first cell is another's, or is refused, is left out.
 #pragma once
 
 #include <functional>

@@ -179,10 +179,33 @@ TEST_F(BlockEntry, ARefusedLineLeavesItsRowToTheNextAndSaysWhere) {
     EXPECT_EQ(grid.cell(2, area), "1.5");
     ASSERT_EQ(notes.size(), 4U);
     EXPECT_EQ(notes[0], (pasted_note{2, {1, name}, "Taken!", false}));
-    EXPECT_EQ(notes[1], (pasted_note{2, {1, area}, "No name!", false}));
+    EXPECT_EQ(notes[1], (pasted_note{2, {1, name}, "The rest of the line was left out.", false}));
     EXPECT_EQ(notes[2].line, 3);
     EXPECT_EQ(notes[2].text, "\"3,5\" is no number of digits and a decimal point.");
     EXPECT_EQ(notes[3], (pasted_note{4, {2, area}, "Rounded.", true}));
+}
+
+TEST_F(BlockEntry, FiguresGoToNoRowOfAnotherName) {
+    paste({{"West", "", "5"}, {"North"}});
+    EXPECT_EQ(paste({{"North", "", "7"}}).size(), 2U);
+    EXPECT_EQ(cells(0), (row_texts{"West", "5 t", "5", "", "", "", ""}));
+    EXPECT_TRUE(paste({{"West", "", "6"}}).empty());
+    EXPECT_EQ(grid.cell(0, area), "6");
+
+    static const auto grey = [] {
+        auto changed = columns;
+        changed.front().kind = column_kind::calculated;
+        return changed;
+    }();
+    grid = text_grid(grey);
+    for (const char* row_name : {"West", "East", "South", "Bog"})
+        grid.set_cell(grid.add_row(), name, row_name);
+    const auto notes = paste({{"west", "", "1"}, {"North", "", "2"}, {"", "", "3"}, {"West"}});
+    EXPECT_EQ(grid.cell(0, area) + grid.cell(1, area) + grid.cell(2, area), "13");
+    const std::string other = " is not what this row is for.";
+    EXPECT_EQ(notes, (std::vector<pasted_note>{
+                         {2, {1, name}, "\"North\"" + other + " The rest of the line was left out.", false},
+                         {4, {3, name}, "\"West\"" + other, false}}));
 }
 
 TEST_F(BlockEntry, AQuestionIsAskedOnceForAllOfThePasteAndAgainInTheNext) {

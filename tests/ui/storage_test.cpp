@@ -3,6 +3,7 @@
 #include <QTabWidget>
 
 #include "core/module_messages.h"
+#include "storage/production_grid.h"
 #include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
 
@@ -146,6 +147,14 @@ TEST_F(StorageScreen, EveryBoxOfThePlanWritesItsCellAndSaveWritesThemAll) {
     press_in_box("storage", production, 2, 1, "Storage_number", "erase");
     fill_boxes("storage", production, {{2, 0, "Storage_stock", "1 weaner place", "1 weaner place"}});
     press_in_box("storage", production, 2, 0, "Storage_stock", "erase");
+    // One protected cell says why it stays; several are no box each.
+    production->setFocus();
+    production->go_to(0, production_column::january);
+    person.expect(says::protected_row);
+    press_key(Qt::Key_Delete);
+    press_key(Qt::Key_Right, 3, Qt::ShiftModifier);
+    press_key(Qt::Key_Delete);
+    EXPECT_EQ(cell(production, 1, production_column::january), "Slurry");
 
     tabs->setCurrentIndex(1);
     grid_view* land = grid("storage", "MSFlexGridStorage_land");

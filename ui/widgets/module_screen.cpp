@@ -140,6 +140,17 @@ void module_screen::paste(grid_view& grid, const box_set& boxes, const click_ope
     if (!notes.empty()) (new paste_list(grid, std::move(notes), this))->show();
 }
 
+namespace {
+
+// Texts that are not the rows' own would keep the rest of their lines out.
+void leave_out_grey_names(const grid_view& grid, int first_column, cell_block& block) {
+    if (first_column > 0 || grid.is_white(0)) return;
+    for (auto& row : block)
+        row.front().clear();
+}
+
+}  // namespace
+
 // A single cell goes into all that are selected.
 void module_screen::paste_clipboard(grid_view& grid, const box_set& boxes, const click_operation& click) {
     const auto range = grid.selected_cells();
@@ -150,6 +161,7 @@ void module_screen::paste_clipboard(grid_view& grid, const box_set& boxes, const
         block = grid.texts_of(*range);
         for (auto& row : block)
             std::ranges::fill(row, cell);
+        leave_out_grey_names(grid, range->first.column, block);
     }
     paste(grid, boxes, click, block, range->first);
 }
@@ -160,13 +172,23 @@ void module_screen::fill_down(grid_view& grid, const box_set& boxes, const click
     cell_block block = grid.texts_of(*range);
     block.pop_back();
     std::ranges::fill(block, std::vector(block.front()));
+    leave_out_grey_names(grid, range->first.column, block);
     paste(grid, boxes, click, block, {range->first.row + 1, range->first.column});
 }
 
 // A cell that holds nothing is not asked about.
 void module_screen::clear_cells(grid_view& grid, const box_set& boxes, const click_operation& click) {
-    for (const grid_cell at : grid.selected_white_cells())
-        boxes.clear(at, click(at.row, at.column));
+    const std::vector<grid_cell> cells = grid.selected_white_cells();
+    {
+        // Of one cell it is told why it stays as it is; of many that would be a box for each.
+        paste_prompts* quiet = cells.size() > 1 ? paste_port_ : nullptr;
+        if (quiet) quiet->begin_paste();
+        const auto loud = qScopeGuard([quiet] {
+            if (quiet) quiet->end_paste();
+        });
+        for (const grid_cell at : cells)
+            boxes.clear(at, click(at.row, at.column));
+    }
     record_changes();
     refresh();
 }
