@@ -107,6 +107,7 @@ void grass_module::back() {
             break;
         case grass_page::stock:
             page_ = grass_page::site;
+            history_.begin_anew();  // nothing is undone out of sight
             break;
         case grass_page::silage:
             silage_.finish_alterations();
@@ -130,10 +131,11 @@ void grass_module::calculate() {
 void grass_module::to_stock() {
     stocking_.fill();
     page_ = grass_page::stock;
+    history_.begin_anew();
 }
 
 void grass_module::turn_to(stock_tab tab) {
-    tab_ = tab;
+    if (std::exchange(tab_, tab) != tab) history_.begin_anew();
 }
 
 // The types and the units that the stocking of the fields goes by are the stored ones.

@@ -103,6 +103,23 @@ TEST_F(stocking_test, SilageTakesTheGroupsOfAFieldAndTheSiteTableShowsIt) {
     EXPECT_EQ(stocking(1, su::area), "10");  // the profile's, as the record has none
 }
 
+TEST_F(stocking_test, NothingIsUndoneFromAnotherPageOrTab) {
+    open_two_fields();
+    module.livestock().enter_number(0, "50");
+    module.turn_to(stock_tab::livestock);  // where it is
+    EXPECT_TRUE(module.history().record());
+    EXPECT_TRUE(module.history().can_undo());
+    module.turn_to(stock_tab::stocking);
+    EXPECT_EQ(module.history().undo(), nullptr);
+    EXPECT_EQ(livestock(lu::number), "50");
+    module.stocking().enter_use(0, "Grazing");
+    module.back();
+    EXPECT_EQ(module.history().undo(), nullptr);
+    site().erase_row(0);
+    module.to_stock();
+    EXPECT_EQ(module.history().undo(), nullptr);
+}
+
 TEST_F(stocking_test, ContinueTellsTheAverageRateAndTurnsToTheStocking) {
     open_two_fields();
     module.livestock().enter_type(1, "Horses");
