@@ -180,9 +180,13 @@ TEST_F(Typing, AnApplicationOfManureIsTypedDayFirstFromTheFieldToItsAmount) {
     press_key(Qt::Key_Return);
     ASSERT_EQ(focus_name(), "txtReductions_date") << "no such day: the line waits for another";
     EXPECT_EQ(shown_text("reduction", "lblReductions_date_typed"), "day/month/year");
+    const auto* calendar = drive::control<QCalendarWidget>(screen("reduction"), "calReductions_date");
+    const QDate before = calendar->selectedDate();
     keys("1/3");
-    EXPECT_EQ(drive::control<QCalendarWidget>(screen("reduction"), "calReductions_date")->selectedDate(),
-              QDate(2025, 3, 1));
+    EXPECT_EQ(calendar->selectedDate(), QDate(2025, 3, 1));
+    drive::control<QLineEdit>(screen("reduction"), "txtReductions_date")->clear();
+    EXPECT_EQ(calendar->selectedDate(), before) << "what was typed and deleted is not entered";
+    keys("1/3");
     press_key(Qt::Key_Tab);
     keys("5");
     press_key(Qt::Key_Tab);

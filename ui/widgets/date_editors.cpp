@@ -59,6 +59,7 @@ day_line::day_line(const QString& name, QCalendarWidget* calendar, QWidget* pare
 
 void day_line::begin(QKeyEvent& key) {
     year_ = calendar_->yearShown();
+    before_ = calendar_->selectedDate();
     line_->clear();
     show();
     line_->setFocus();
@@ -72,7 +73,10 @@ std::optional<date> day_line::typed() const {
 void day_line::follow() {
     const auto day = typed();
     read_as_->setText(day ? qt(long_date_text(*day)) : tr("day/month/year"));
-    if (day) calendar_->setSelectedDate(to_qt(*day));
+    if (day)
+        calendar_->setSelectedDate(to_qt(*day));
+    else if (line_->text().isEmpty())
+        calendar_->setSelectedDate(before_);
 }
 
 bool day_line::ready() {

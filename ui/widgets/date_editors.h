@@ -1,10 +1,11 @@
 // Parts that are a date: a calendar in view, or one line from which a calendar drops down.
 #pragma once
 
+#include <QDate>
+
 #include "ui/widgets/entry_editor.h"
 
 class QCalendarWidget;
-class QDate;
 class QDateEdit;
 class QLabel;
 class QLineEdit;
@@ -19,7 +20,8 @@ QDate to_qt(date day);
 date from_qt(QDate day);
 
 /// A line in which a date is typed, day first, and which shows it in a calendar meanwhile; out of sight until
-/// a person begins to type one. Without a year it is the calendar's.
+/// a person begins to type one. Without a year it is that of the calendar. Emptied, it gives that its day
+/// back.
 class day_line : public QWidget {
     Q_OBJECT
 
@@ -40,6 +42,7 @@ class day_line : public QWidget {
     QLineEdit* line_;
     QLabel* read_as_;
     int year_ = 0;
+    QDate before_;  // what the calendar showed, which counts again once nothing is typed
 };
 
 /// Arrows, Page Up and Page Down move; Enter or a double click on a day confirms.
