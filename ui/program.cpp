@@ -203,6 +203,8 @@ QWidget* program::connected(screen_id id, module_screen* module) {
     connect(module, &module_screen::help_wanted, this,
             [this, id](const std::string& topic) { front_.run_help(6, "TP", topic, id); });
     connect(module, &module_screen::years_wanted, this, [this] { open(screen_id::years); });
+    // A save under a new name changes the file behind the rows, not the rows.
+    connect(module, &module_screen::saved, this, [this, id] { screens_.at(id).rows = rows_behind(id); });
     return module;
 }
 

@@ -182,6 +182,25 @@ TEST_F(AssessmentChange, Step3OfLastYearFollowsTheLinkedFile) {
     EXPECT_EQ(column_of(last, "Manure_applic", "Manure Type"), texts{"Layer manure"});
 }
 
+// Its own Save brings the file of last year into being, behind the rows that are in view.
+TEST_F(AssessmentChange, Step3OfLastYearSavedUnderANewNameKeepsWhatIsTypedNext) {
+    start_with({{"Long Rig", "15"}});
+    add_row(state.assess_file, "Land", {{"Field Area ID", "Long Rig"}, {"January", "15"}});
+    run->state().manure_caller = manure_opener::old_crop;
+    run->open(screen_id::manure);
+    person.expect_file("Save the assessment", path("last.kel"));
+    press("reduction", "cmdReductions_save");
+    ASSERT_EQ(run->state().prev1_file, path("last.kel"));
+    grid_view* table = grid("reduction", "MSFlexGridReductions");
+    open_box("reduction", "Reductions_fieldID", table, 0, 0);
+    fill_box("reduction", "Reductions_fieldID", "Long Rig");
+    run->open(screen_id::about);
+    press("splash", "cmdSplash_close");
+    EXPECT_EQ(cell(table, 0, 0), "Long Rig");
+    press("reduction", "cmdReductions_save");
+    EXPECT_EQ(column_of(path("last.kel"), "Manure_applic", "Field Area ID"), texts{"Long Rig"});
+}
+
 // Cancel of the profile goes back to the file that the settings name, which is no longer the one shown.
 TEST_F(AssessmentChange, AStepFollowsFromACopyBackToTheFileOfTheSettings) {
     start_with({{"Long Rig", "15"}});

@@ -71,7 +71,9 @@ QWidget* frmReductions::table_page() {
         module_.calculate();
         show_view();
     });
-    add_command(row, tr("&Save"), "cmdReductions_save", [this] { module_.save(); });
+    add_command(row, tr("&Save"), "cmdReductions_save", [this] {
+        if (module_.save()) emit saved();
+    });
     add_command(row, tr("&Open Assessments"), "cmdReductions_open", [this] {
         state_.picker_caller = picker_module::manure;
         emit years_wanted();

@@ -48,6 +48,8 @@ class module_screen : public QWidget {
     /// The module was closed.
     void left();
     void years_wanted();
+    /// Its rows are now those of its file.
+    void saved();
     /// A topic of the program's help: "kel_1_6.htm".
     void help_wanted(const std::string& topic);
 
