@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QRegularExpression>
+#include <stdexcept>
 
 #include "reports/report_page.h"
 #include "tests/support/farm_files.h"
@@ -219,12 +220,37 @@ TEST_F(Paper, APictureStaysWholeAndNoWiderThanThePaper) {
     }
 }
 
+TEST_F(Paper, PicturesSideBySideAreEachMadeToFit) {
+    QImage picture(3000, 900, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    ASSERT_TRUE(picture.save(qt(path("wide.png"))));
+    std::string pictures;
+    for (const char* size : {"width=3000 height=900", "width=2000 height=600", "width=1000 height=300"})
+        pictures.append("<img src=wide.png ").append(size).append(">");
+    print(report_paragraph(pictures + "behind them"));
+    int drawn = 0;
+    for (const recorded_sheet& sheet : sheets)
+        for (const QRectF& place : sheet.pictures) {
+            if (place.width() < 2 * place.height()) continue;  // the logo
+            ++drawn;
+            EXPECT_LE(place.right(), 180.5 / 25.4 * dots);
+        }
+    EXPECT_EQ(drawn, 3);
+    EXPECT_EQ(count("behind them"), 1);
+}
+
+TEST_F(Paper, PaperWithoutRoomForTextIsRefused) {
+    device.setPageSize(QPageSize(QSizeF(45, 40), QPageSize::Millimeter));
+    EXPECT_THROW(print(report_paragraph("Some text")), std::runtime_error);
+}
+
 TEST_F(Paper, APdfHasTheSheetsOfAllPagesEachInItsOwnDirection) {
     report_table wide;
     wide.add_row(row_texts(0, 12));
     const std::vector<printed_page> pages{
         page_of_lines(framed_page(long_table(10).lines(), make_date(3, 4, 2026), ""), path("")),
-        page_of_lines(framed_page(wide.lines(), make_date(3, 4, 2026), ""), path(""))};
+        page_of_lines(framed_page(wide.lines(), make_date(3, 4, 2026), ""), path("")),
+        page_of_lines(framed_page(long_table(10).lines(), make_date(3, 4, 2026), ""), path(""))};
     const std::string pdf = pdf_of(pages, "Reports", make_date(21, 11, 2026));
     EXPECT_TRUE(pdf.starts_with("%PDF"));
     const auto boxes =
@@ -232,7 +258,7 @@ TEST_F(Paper, APdfHasTheSheetsOfAllPagesEachInItsOwnDirection) {
     QStringList widths;
     for (auto box = boxes; box.hasNext();)
         widths << box.next().captured(1);
-    EXPECT_EQ(widths.join(' ').toStdString(), "595 842");
+    EXPECT_EQ(widths.join(' ').toStdString(), "595 842 595");
 }
 
 }  // namespace kel::test

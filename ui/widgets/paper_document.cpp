@@ -29,11 +29,24 @@ void for_each_fragment(const QTextDocument& document, Action action) {
             action(it.fragment());
 }
 
-void set_format(QTextDocument& document, const QTextFragment& fragment, const QTextCharFormat& format) {
+// Formats are set when all are known: two neighbours of one format become one fragment.
+struct new_format {
+    int position;
+    int length;
+    QTextCharFormat format;
+};
+
+new_format format_of(const QTextFragment& fragment, const QTextCharFormat& format) {
+    return {.position = fragment.position(), .length = fragment.length(), .format = format};
+}
+
+void set_formats(QTextDocument& document, const QList<new_format>& formats) {
     QTextCursor cursor(&document);
-    cursor.setPosition(fragment.position());
-    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-    cursor.setCharFormat(format);
+    for (const new_format& wanted : formats) {
+        cursor.setPosition(wanted.position);
+        cursor.setPosition(wanted.position + wanted.length, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(wanted.format);
+    }
 }
 
 // Sizes are relative to the document's, or of the page's own in points or pixels.
@@ -91,11 +104,7 @@ QVariant paper_document::loadResource(int type, const QUrl& name) {
 void paper_document::raise_small_text() {
     const auto formats = allFormats();
     if (std::none_of(formats.begin(), formats.end(), is_small)) return;
-    struct raised {
-        QTextFragment fragment;
-        QTextCharFormat format;
-    };
-    QList<raised> small;
+    QList<new_format> raised;
     for_each_fragment(*this, [&](const QTextFragment& fragment) {
         const QTextCharFormat format = fragment.charFormat();
         if (!is_small(format)) return;
@@ -103,10 +112,9 @@ void paper_document::raise_small_text() {
         plain.clearProperty(QTextFormat::FontSizeAdjustment);
         plain.clearProperty(QTextFormat::FontPixelSize);
         plain.setFontPointSize(smallest_text_pt);
-        small << raised{fragment, plain};
+        raised << format_of(fragment, plain);
     });
-    for (const raised& text : small)
-        set_format(*this, text.fragment, text.format);
+    set_formats(*this, raised);
 }
 
 void paper_document::set_tables() {
@@ -124,6 +132,7 @@ void paper_document::set_tables() {
 
 void paper_document::fit_pictures(double width_px, double dpi) {
     const double widest = width_px * 96 / dpi;
+    QList<new_format> fitted;
     for_each_fragment(*this, [&](const QTextFragment& fragment) {
         QTextImageFormat format = fragment.charFormat().toImageFormat();
         if (!format.isValid()) return;
@@ -133,8 +142,9 @@ void paper_document::fit_pictures(double width_px, double dpi) {
         const double height = format.height() > 0 ? format.height() : picture.height();
         format.setWidth(widest);
         format.setHeight(height * widest / width);
-        set_format(*this, fragment, format);
+        fitted << format_of(fragment, format);
     });
+    set_formats(*this, fitted);
 }
 
 double paper_document::lay_out(QPaintDevice* device, double width_px) {

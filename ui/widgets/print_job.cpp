@@ -8,6 +8,7 @@
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScopeGuard>
 #include <QStringDecoder>
 #include <algorithm>
 #include <stdexcept>
@@ -75,10 +76,13 @@ std::vector<printed_page> pages_of_files(const std::vector<std::string>& paths) 
 }
 
 print_job::print_job(const std::vector<printed_page>& pages, QPagedPaintDevice& device, date today)
-    : device_(device), today_(today) {
+    : device_(device), upright_(upright_first(device)), today_(today) {
     // A person who chose landscape gets it for all pages.
     const QSizeF across = room(true);
-    const paper_room rooms{upright_first(device) ? room(false) : across, across};
+    const paper_room rooms{upright_ ? room(false) : across, across};
+    const QSizeF least = rooms.upright.boundedTo(rooms.across);
+    if (std::min(least.width(), least.height()) < foot_height(device))
+        throw std::runtime_error("The paper is too small to print on.");
     for (const printed_page& page : pages) {
         pages_.push_back(std::make_unique<paper_page>(page.html, page.folder, &device, rooms));
         origins_.push_back(page.origin);
@@ -95,7 +99,7 @@ QSizeF print_job::room(bool across) const {
 }
 
 bool print_job::lies_across(int sheet) const {
-    return !upright_first(device_) || pages_[sheets_[static_cast<std::size_t>(sheet)].page]->lies_across();
+    return !upright_ || pages_[sheets_[static_cast<std::size_t>(sheet)].page]->lies_across();
 }
 
 sheet_foot print_job::foot(int sheet) const {
@@ -158,13 +162,12 @@ void print_with_dialog(const std::vector<printed_page>& pages, date today, QWidg
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     if (dialog.exec() != QDialog::Accepted) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto waiting = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
     print_job job(pages, printer, today);
     const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
     const int first = range ? std::min(printer.fromPage(), job.sheets()) - 1 : 0;
     const int last = range ? std::clamp(printer.toPage() - 1, first, job.sheets() - 1) : job.sheets() - 1;
-    const bool printed = job.print(first, last);
-    QApplication::restoreOverrideCursor();
-    if (printed) return;
+    if (job.print(first, last)) return;
     const QString& name =
         printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
     throw file_error(from_qt(name), "it could not be printed.");

@@ -46,7 +46,7 @@ struct sheet_foot {
 class print_job {
   public:
     /// Lays the pages out for the device, which outlives the job. `today` stands on those that do not know
-    /// their own day.
+    /// their own day. Throws std::runtime_error if the paper has no room for text.
     print_job(const std::vector<printed_page>& pages, QPagedPaintDevice& device, date today);
     ~print_job();
     print_job(const print_job&) = delete;
@@ -70,6 +70,7 @@ class print_job {
     void draw_foot(int sheet, QPainter& painter) const;
 
     QPagedPaintDevice& device_;
+    bool upright_;  // as the person chose it; printing turns the device
     date today_;
     std::vector<std::unique_ptr<paper_page>> pages_;
     std::vector<std::optional<page_origin>> origins_;
