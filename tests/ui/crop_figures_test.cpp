@@ -29,6 +29,7 @@ class CropFigures : public screen_test {
     /// One field for each crop, named in their order, and the table after the winter question.
     void open_table(const std::vector<typed_crop>& crops, const char* winter) {
         std::vector<test_field> fields;
+        fields.reserve(crops.size());
         for (const typed_crop& crop : crops)
             fields.push_back({field(fields.size()), "5", crop.soil});
         start_with(fields);
