@@ -1,6 +1,5 @@
 #include "manure/field_limit_check.h"
 
-#include <algorithm>
 #include <string_view>
 #include <unordered_map>
 
@@ -41,18 +40,24 @@ histories by_field(std::span<const dated_rate> table, std::span<const dated_rate
 
 }  // namespace
 
+std::optional<std::vector<float>> rolling_sums(std::span<const dated_rate> table,
+                                               const std::optional<std::vector<dated_rate>>& last_year) {
+    if (last_year && last_year->empty()) return std::nullopt;
+    const std::span<const dated_rate> past = last_year ? *last_year : std::span<const dated_rate>{};
+    const histories fields = by_field(table, past);
+    std::vector<float> sums;
+    sums.reserve(table.size());
+    for (const dated_rate& application : table)
+        sums.push_back(sum_at(application, fields.at(application.field)));
+    return sums;
+}
+
 std::set<std::string, std::less<>> fields_over_limit(
     std::span<const dated_rate> table, const std::optional<std::vector<dated_rate>>& last_year) {
-    if (last_year && last_year->empty()) return {};
-    const std::span<const dated_rate> past = last_year ? *last_year : std::span<const dated_rate>{};
     std::set<std::string, std::less<>> over;
-    const auto beyond = [](const auto& history) {
-        return std::any_of(history.table.begin(), history.table.end(), [&](const auto* row) {
-            return exceeds_limit(sum_at(*row, history), rolling_field_limit_kg_per_ha);
-        });
-    };
-    for (const auto& [field, history] : by_field(table, past))
-        if (beyond(history)) over.emplace(field);
+    const auto sums = rolling_sums(table, last_year);
+    for (std::size_t row = 0; sums && row < table.size(); ++row)
+        if (exceeds_limit((*sums)[row], rolling_field_limit_kg_per_ha)) over.insert(table[row].field);
     return over;
 }
 

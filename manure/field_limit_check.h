@@ -20,6 +20,11 @@ struct dated_rate {
     float total_n_kg_per_ha;
 };
 
+/// The sum that the check tests at each application of `table`, kg N/ha, in row order; nothing when the check
+/// is switched off. `table` and `last_year` as below.
+std::optional<std::vector<float>> rolling_sums(std::span<const dated_rate> table,
+                                               const std::optional<std::vector<dated_rate>>& last_year);
+
 /// Names of the fields over the limit; exactly 250 passes. `table` is this year's applications in row order:
 /// all up to an application's day count with it. `last_year` is those of the linked file in stored order;
 /// they count when they are less than a year older. Nothing: no file is linked. A linked file without a

@@ -21,19 +21,6 @@ constexpr std::string_view closing = " -->";
 constexpr std::array<std::pair<char, std::string_view>, 5> written_as{
     {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'\n', "&#10;"}, {'\r', "&#13;"}}};
 
-std::string escaped(std::string_view text) {
-    std::string shown;
-    for (const char c : text) {
-        const auto* const found = std::find_if(written_as.begin(), written_as.end(),
-                                               [&](const auto& pair) { return pair.first == c; });
-        if (found == written_as.end())
-            shown += c;
-        else
-            shown += found->second;
-    }
-    return shown;
-}
-
 std::string unescaped(std::string_view text) {
     std::string plain;
     while (!text.empty()) {
@@ -71,6 +58,19 @@ std::string stored_name(const application_state& state) {
 }
 
 }  // namespace
+
+std::string escaped(std::string_view text) {
+    std::string shown;
+    for (const char c : text) {
+        const auto* const found = std::find_if(written_as.begin(), written_as.end(),
+                                               [&](const auto& pair) { return pair.first == c; });
+        if (found == written_as.end())
+            shown += c;
+        else
+            shown += found->second;
+    }
+    return shown;
+}
 
 page_origin origin_of(const application_state& state, date today, std::string_view farm) {
     return {.farm = farm.empty() ? stored_name(state) : std::string(farm),

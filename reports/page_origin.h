@@ -17,6 +17,9 @@ struct page_origin {
     bool operator==(const page_origin&) const = default;
 };
 
+/// Text that shows as it stands where it may hold markup, in one line.
+std::string escaped(std::string_view text);
+
 /// What a report made now of the open assessment is of. A farm's name of its own (`farm`) goes before the one
 /// that the file has. With no assessment open there is no year.
 page_origin origin_of(const application_state& state, date today, std::string_view farm = {});

@@ -88,7 +88,9 @@ std::string heading_cell(const report_cell& cell) {
 }
 
 std::string value_cell(const report_cell& cell) {
-    return cell_tag(cell, cell.align) + between(">", cell_text(cell), "</td>");
+    const std::string tag = cell_tag(cell, cell.align);
+    if (cell.shade.empty()) return tag + between(">", cell_text(cell), "</td>");
+    return tag + " bgcolor=" + cell.shade + between("><font color=black>", cell_text(cell), "</font></td>");
 }
 
 std::vector<report_cell> cells_of(const std::vector<std::string>& texts) {

@@ -29,6 +29,7 @@ struct report_cell {
     int rows = 1;
     std::string width{};  // "15%"; empty: as the browser lays it out
     std::string align{};  // "left", "center", "right"; empty: left for values, centred for headings
+    std::string shade{};  // ground of a value, "#d0d0d0"; empty: the paper's
 };
 
 /// A bordered table of full width. Its heading rows stand above its rows and are repeated on every printed

@@ -56,6 +56,14 @@ TEST(FieldLimitCheck, LastYearCountsForLessThanAYear) {
             << c.past.field << " " << short_date_text(c.past.day);
 }
 
+TEST(FieldLimitCheck, SumsStandInTheOrderOfTheRows) {
+    const rates table{on(1, 3, 2025, 60), on(1, 2, 2025, 90), on(1, 3, 2025, 20, "East Muir")};
+    const rates past{on(1, 3, 2024, 40), on(2, 3, 2024, 30)};
+    EXPECT_EQ(rolling_sums(table, past), (std::vector<float>{180, 160, 20}));
+    EXPECT_EQ(rolling_sums(table, {}), (std::vector<float>{150, 90, 20}));
+    EXPECT_EQ(rolling_sums(table, rates{}), std::nullopt);
+}
+
 TEST(FieldLimitCheck, LinkedYearWithoutRecordsSwitchesTheCheckOff) {
     const rates table{on(1, 2, 2025, 900)};
     EXPECT_TRUE(over(table));

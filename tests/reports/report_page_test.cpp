@@ -31,15 +31,17 @@ TEST(ReportTable, CellsCarryTheirLayoutAndEmptyOnesKeepTheirBorder) {
         {{.text = "Deducted", .columns = 3}, {.text = "", .rows = 2, .width = "15%", .align = "left"}});
     table.add_row({{.text = "3.5", .width = "12%", .align = "right"}, {.text = ""}});
     table.add_row(std::vector<std::string>{"North < Park & Bràigh"});
+    table.add_row({{.text = escaped("<b>&"), .shade = "#d0d0d0"}});
     const page_lines lines = table.lines();
     EXPECT_EQ(
         lines.at(3),
         "<td align=center colspan=3 bgcolor=#e0e0e0><font color=black><strong>Deducted</strong></font></td>");
     EXPECT_TRUE(lines.at(4).starts_with("<td width=15% align=left rowspan=2 bgcolor=#e0e0e0>"));
-    EXPECT_EQ(
-        page_lines(lines.begin() + 5, lines.end()),
-        (page_lines{"</tr>", "</thead>", "<tr>", "<td width=12% align=right>3.5</td>", "<td>&nbsp;</td>",
-                    "</tr>", "<tr>", "<td>North < Park & Bràigh</td>", "</tr>", "</table>"}));
+    EXPECT_EQ(page_lines(lines.begin() + 5, lines.end()),
+              (page_lines{"</tr>", "</thead>", "<tr>", "<td width=12% align=right>3.5</td>",
+                          "<td>&nbsp;</td>", "</tr>", "<tr>", "<td>North < Park & Bràigh</td>", "</tr>",
+                          "<tr>", "<td bgcolor=#d0d0d0><font color=black>&lt;b&gt;&amp;</font></td>", "</tr>",
+                          "</table>"}));
 }
 
 TEST(ReportTable, ColumnsOfAGridComeInTheOrderAskedForWithoutTheEntryRow) {
