@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/explanation.h"
 #include "core/numbers.h"
 
 namespace kel {
@@ -31,8 +32,13 @@ std::optional<monthly_values> first_monthly_rain(const database& climate) {
     return rain_of(climate.open("KEL_rain"));
 }
 
-float rain_volume(float rain_mm, float area_sq_m) {
-    return rain_mm / 1000 * area_sq_m;
+float rain_volume(float rain_mm, float area_sq_m, explanation* why) {
+    const float volume_m3 = rain_mm / 1000 * area_sq_m;
+    if (why)
+        why->step("Rain of " + default_text(rain_mm) + " mm on " + default_text(area_sq_m) +
+                  " square metres: " + default_text(rain_mm) + " / 1000 x " + default_text(area_sq_m) +
+                  " = " + default_text(volume_m3) + " cubic metres");
+    return volume_m3;
 }
 
 }  // namespace kel

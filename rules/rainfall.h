@@ -9,6 +9,8 @@
 
 namespace kel {
 
+class explanation;
+
 /// Mean rainfall of the town in mm a month, from the climate tables; nothing for a town without figures.
 /// Throws file_error.
 std::optional<monthly_values> monthly_rain(const database& climate, std::string_view town);
@@ -17,6 +19,6 @@ std::optional<monthly_values> monthly_rain(const database& climate, std::string_
 std::optional<monthly_values> first_monthly_rain(const database& climate);
 
 /// Cubic metres of the rain (mm) on the area.
-float rain_volume(float rain_mm, float area_sq_m);
+float rain_volume(float rain_mm, float area_sq_m, explanation* why = nullptr);
 
 }  // namespace kel

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <span>
+#include <string>
+
+#include "core/explanation.h"
+#include "rules/crop_lists.h"
 
 namespace kel {
 
@@ -62,12 +66,26 @@ consteval bool each_code_in_one_group() {
 }
 static_assert(each_code_in_one_group());
 
+void tell_group(std::string_view code, int group, explanation& why) {
+    const std::string_view listed = previous_crop_name(code);
+    const std::string name(listed.empty() ? code : listed);
+    why.rule("The group tells how much nitrogen the previous crop leaves in the soil, from 1 (least) to " +
+             std::to_string(residue_groups.size()) +
+             " (most). Soil, harvest date and manures play no part in it.");
+    if (group > 0)
+        why.source("Residue groups of previous crops: " + name + " is in group " + std::to_string(group));
+    else
+        why.source("Residue groups of previous crops: " + name + " is in none of them, which is told as 0");
+}
+
 }  // namespace
 
-int residue_group(std::string_view previous_code) {
-    for (std::size_t i = 0; i < residue_groups.size(); ++i)
-        if (holds(residue_groups[i], previous_code)) return static_cast<int>(i) + 1;
-    return 0;
+int residue_group(std::string_view previous_code, explanation* why) {
+    int group = 0;
+    for (std::size_t i = 0; i < residue_groups.size() && group == 0; ++i)
+        if (holds(residue_groups[i], previous_code)) group = static_cast<int>(i) + 1;
+    if (why) tell_group(previous_code, group, *why);
+    return group;
 }
 
 bool is_vegetable_crop(std::string_view name_or_code) {
