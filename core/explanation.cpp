@@ -26,8 +26,14 @@ void explanation::set_missing(std::string what) {
     last_line_ = std::move(what);
 }
 
+void explanation::set_follows(std::string what) {
+    result_.clear();
+    last_line_ = std::move(what);
+    of_entry_ = true;
+}
+
 std::string stale_note(const explanation& why, std::string_view shown) {
-    if (why.result() == shown) return {};
+    if (why.of_entry() || why.result() == shown) return {};
     const auto named = [](std::string_view text) {
         return text.empty() ? std::string("nothing") : '"' + std::string(text) + '"';
     };

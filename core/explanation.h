@@ -37,12 +37,17 @@ class explanation {
     void set_result(std::string shown, std::string_view unit);
     /// What is missing for a figure that cannot be worked out; it then has no result.
     void set_missing(std::string what);
+    /// What follows from a cell that a person enters: nothing in the cell itself was worked out, so that it
+    /// cannot be out of date.
+    void set_follows(std::string what);
 
     const std::string& subject() const { return subject_; }
     const std::vector<explanation_line>& lines() const { return lines_; }
     const std::string& result() const { return result_; }
-    /// The closing line: the result with its unit, or what is missing.
+    /// The closing line: the result with its unit, what is missing, or what follows.
     const std::string& last_line() const { return last_line_; }
+    /// Whether it tells what follows from an entry, and not where the cell's figure comes from.
+    bool of_entry() const { return of_entry_; }
 
   private:
     void add(explanation_line::kind what, std::string text) { lines_.push_back({what, std::move(text)}); }
@@ -51,10 +56,11 @@ class explanation {
     std::vector<explanation_line> lines_;
     std::string result_;
     std::string last_line_;
+    bool of_entry_ = false;
 };
 
 /// What is told below an account whose result is not what the table shows, because something was entered
-/// since it was worked out; empty where they agree.
+/// since it was worked out; empty where they agree, and for what follows from an entry.
 std::string stale_note(const explanation& why, std::string_view shown);
 
 }  // namespace kel

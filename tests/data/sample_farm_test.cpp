@@ -26,33 +26,14 @@
 #include "rules/crop_lists.h"
 #include "rules/nitrogen_limits.h"
 #include "storage/storage_module.h"
-#include "tests/support/farm_files.h"
+#include "tests/support/sample_chain.h"
 
 namespace kel {
 namespace {
 
-const std::string stage = test::stage_folder();
-
-struct sample_year {
-    std::string path;
-    date start;
-};
-
-std::vector<sample_year> sample_years() {
-    const std::string farm = stage + "/kel_calc/User_files/Mains of Tullifern ";
-    return {{farm + "2022-23.kel", make_date(19, 12, 2022)},
-            {farm + "2023-24.kel", make_date(19, 12, 2023)},
-            {farm + "2024-25.kel", make_date(19, 12, 2024)}};
-}
-
-/// Says yes to everything and keeps what it was told.
-struct agreeing_person : prompts {
-    answer ask(const message& box) override { return told.push_back(box), answer::yes; }
-    void show_list(const titled_list&) override {}
-    std::string file_to_open(const file_request&) override { return {}; }
-    std::string file_to_save(const file_request&) override { return {}; }
-    std::vector<message> told;
-};
+using test::agreeing_person;
+using test::sample_year;
+using test::sample_years;
 
 struct no_screens : screens {
     void open(screen_id) override {}

@@ -4,12 +4,11 @@
 
 #include <set>
 
-#include "core/whole_file.h"
 #include "grass/grass_module.h"
 #include "grass/sward_choices.h"
 #include "rules/crop_catalogue.h"
-#include "tests/support/farm_files.h"
 #include "tests/support/noted_screens.h"
+#include "tests/support/sample_chain.h"
 #include "tests/support/scripted_prompts.h"
 
 namespace kel::test {
@@ -18,24 +17,8 @@ namespace {
 
 namespace col = site_column;
 
-class SampleGrass : public farm_test {
+class SampleGrass : public sample_chain_test {
   protected:
-    /// Copies of the three years, newest last.
-    SampleGrass() {
-        for (const char* year : {"2022-23", "2023-24", "2024-25"}) {
-            files.push_back(path(std::string(year) + ".kel"));
-            copy_whole_file(stage_folder() + "/kel_calc/User_files/Mains of Tullifern " + year + ".kel",
-                            files.back());
-        }
-    }
-    void open(std::size_t year) {
-        state.assess_file = files[year];
-        state.prev1_file = year > 0 ? files[year - 1] : "";
-        state.prev2_file = year > 1 ? files[year - 2] : "";
-        state.kel_year_start = make_date(19, 12, 2022 + static_cast<int>(year));
-        state.limits = year_limits_of(*state.kel_year_start);
-    }
-    std::vector<std::string> files;
     scripted_prompts person;
     noted_screens shown;
 };
@@ -66,7 +49,7 @@ void enter_row_again(site_page& site, const text_grid& before, int row) {
 TEST_F(SampleGrass, RowsAreAsTheSiteRouteWritesThem) {
     std::set<std::string> managements;
     for (std::size_t year = 0; year < files.size(); ++year) {
-        open(year);
+        open_year(year);
         grass_module module(state, person, shown);
         answer_opening(module);
         const text_grid before = module.site().table();
@@ -92,7 +75,7 @@ TEST_F(SampleGrass, RowsAreAsTheSiteRouteWritesThem) {
 TEST_F(SampleGrass, LivestockAndRatesAreAsTheStockingRouteWritesThem) {
     int fields_of_two_groups = 0;
     for (std::size_t year = 0; year < files.size(); ++year) {
-        open(year);
+        open_year(year);
         const auto rates = column_of(files[year], "Site", "Silage Rate");
         {
             // The route is walked as on the day when no rate was stored yet.
