@@ -1,5 +1,7 @@
 #include "core/assessment_files.h"
 
+#include <chrono>
+
 namespace kel {
 
 // A text that is no date goes through as it stands: the module that reads it says what is wrong.
@@ -61,6 +63,12 @@ std::string read_farm_name(const std::string& path) {
 std::optional<date> read_assessment_year(const std::string& path) {
     const recordset type = database(path).open("Type");
     return type.eof() ? std::nullopt : type.date_value("Year");
+}
+
+bool is_year_before(std::optional<date> older, std::optional<date> newer) {
+    if (!older || !newer) return false;
+    const auto days = (std::chrono::sys_days(*newer) - std::chrono::sys_days(*older)).count();
+    return days == 365 || days == 366;
 }
 
 void write_assessment_year(const database& db, date year_start) {

@@ -33,6 +33,9 @@ void load_grid_row(const recordset& source, const std::vector<int>& stored, text
 /// Farm name and year of another file, for the years dialog; empty if its table has no row.
 std::string read_farm_name(const std::string& path);
 std::optional<date> read_assessment_year(const std::string& path);
+/// Whether the one may be linked as the year before the other. Years of a chain start on the same calendar
+/// day; 366 days apart if a 29 February lies between.
+bool is_year_before(std::optional<date> older, std::optional<date> newer);
 /// Writes [Type].[Year]. Call it within a save_transaction. Throws file_error, also for a table without its
 /// row.
 void write_assessment_year(const database& db, date year_start);

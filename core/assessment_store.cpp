@@ -1,7 +1,6 @@
 #include "core/assessment_store.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "core/file_stamp.h"
@@ -45,6 +44,11 @@ database::database(const std::string& path, const std::string& named)
     : shared_(guarded(named, [&] { return connection::opened(path, named); })),
       schema_("main"),
       path_(named) {}
+
+database database::for_reading(const std::string& path) {
+    return {guarded(path, [&] { return connection::opened(path, path, SQLite::OPEN_READONLY); }), "main",
+            path};
+}
 
 database::database(std::shared_ptr<connection> shared, std::string schema, std::string path)
     : shared_(std::move(shared)), schema_(std::move(schema)), path_(std::move(path)) {}
@@ -94,18 +98,12 @@ std::vector<std::uint64_t> database::column_digests_of(std::string_view table,
     });
 }
 
-// By the connection's own handle: SQLite's locks end with the first handle of the process that is closed.
 file_stamp database::stamp() const {
-    constexpr sqlite3_int64 counter_at = 24;
+    constexpr std::size_t counter_at = 24;
     file_stamp stamp = stamp_from_outside(path_);
-    sqlite3_file* file = nullptr;
-    std::array<unsigned char, 4> bytes{};
-    sqlite3_file_control(shared_->sqlite.getHandle(), schema_.c_str(), SQLITE_FCNTL_FILE_POINTER, &file);
-    if (!file || !file->pMethods) return stamp;
-    if (file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), counter_at) != SQLITE_OK)
-        return stamp;
-    for (const unsigned char byte : bytes)
-        stamp.change_counter = stamp.change_counter << 8U | byte;
+    const store::file_header header = store::header_of(shared_->sqlite, schema_);
+    for (std::size_t byte = counter_at; byte < header.size(); ++byte)
+        stamp.change_counter = stamp.change_counter << 8U | header.at(byte);
     return stamp;
 }
 

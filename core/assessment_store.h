@@ -28,6 +28,10 @@ class database {
     /// The same for a file that is to stand at `named` once it is finished: that is its path, also in
     /// failures.
     database(const std::string& path, const std::string& named);
+    /// Opens an existing file only to be read: nothing is written to it, not even what an unfinished save
+    /// asks for, and every table is read as it stood at the first. A file that such a save left behind, or
+    /// that is in write-ahead mode, throws file_error.
+    static database for_reading(const std::string& path);
 
     const std::string& path() const;
     /// Opens a second file within this one's transactions.

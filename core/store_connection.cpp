@@ -7,6 +7,8 @@ namespace kel::store {
 namespace {
 
 std::string trouble_of(const SQLite::Exception& e) {
+    if (e.getExtendedErrorCode() == SQLITE_READONLY_ROLLBACK)
+        return "its last save was cut off. Opening it in the program puts that right.";
     switch (e.getErrorCode()) {
         case SQLITE_NOTADB:
             return "it is not an assessment file, or it is damaged.";
@@ -51,6 +53,24 @@ char lower(char c) {
 file_error failure_of(const std::string& path, const SQLite::Exception& e) {
     const std::string missing = missing_table(e);
     return {path, missing.empty() ? trouble_of(e) : missing, is_in_use(e)};
+}
+
+file_header header_of(const SQLite::Database& db, const std::string& schema) {
+    file_header header{};
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(db.getHandle(), schema.c_str(), SQLITE_FCNTL_FILE_POINTER, &file);
+    if (file && file->pMethods)
+        file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0);
+    return header;
+}
+
+void begin_reading(SQLite::Database& db, const std::string& path) {
+    constexpr std::size_t read_version_at = 19;
+    constexpr unsigned char write_ahead = 2;
+    if (header_of(db, "main").at(read_version_at) == write_ahead)
+        throw file_error(path,
+                         "another program has left it in write-ahead mode. A save in this one ends that.");
+    db.exec("BEGIN");
 }
 
 std::string bracketed(std::string_view name) {

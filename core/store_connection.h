@@ -5,6 +5,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -31,6 +32,15 @@ auto guarded(const std::string& path, F&& work) {
         throw failure_of(path, e);
     }
 }
+
+/// The first bytes of an open file, read by its own handle: SQLite's locks end with the first handle of the
+/// process that is closed. Zeros where there are none.
+using file_header = std::array<unsigned char, 28>;
+file_header header_of(const SQLite::Database& db, const std::string& schema);
+
+/// Holds what is read from here on to one state of the file. Throws for a file in write-ahead mode, which
+/// cannot be read without writing beside it.
+void begin_reading(SQLite::Database& db, const std::string& path);
 
 std::string bracketed(std::string_view name);
 /// [one], [two]
@@ -86,15 +96,17 @@ struct database::connection {
     static constexpr int busy_timeout_ms = 2000;
 
     // One thread has it for itself, so that no cell waits for a lock and each can be read as it lies there.
-    connection(const std::string& path, const std::string& named)
-        : sqlite(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busy_timeout_ms), main_file(path) {
+    connection(const std::string& path, const std::string& named, int mode)
+        : sqlite(path, mode | SQLite::OPEN_NOMUTEX, busy_timeout_ms), main_file(path) {
         harden(sqlite.getHandle());
+        if (mode == SQLite::OPEN_READONLY) store::begin_reading(sqlite, named);
         check_layout(sqlite, "main", named);
     }
 
-    static std::shared_ptr<connection> opened(const std::string& path, const std::string& named) {
+    static std::shared_ptr<connection> opened(const std::string& path, const std::string& named,
+                                              int mode = SQLite::OPEN_READWRITE) {
         check_file_size(path);
-        return std::make_shared<connection>(path, named);
+        return std::make_shared<connection>(path, named, mode);
     }
 
     // Prepared once per connection and text; the caller binds and runs it to its end.
