@@ -4,7 +4,6 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
-#include "land/spreading_limits.h"
 #include "land/stock_nitrogen.h"
 
 namespace kel {
@@ -164,6 +163,16 @@ void import_stock(const import_source& source, import_mode mode, text_grid& anim
                   float& working_constant) {
     load_messages none;
     import_rows(source.file, stock_table, animals, {}, mode, stock_rules(working_constant), none);
+}
+
+farm_sums sums_of(const text_grid& land, const text_grid& animals) {
+    const int fields = land.data_row_count();
+    return {
+        .grass_ha = land.sum(land_column::grass, fields),
+        .other_ha = land.sum(land_column::not_in_grass, fields),
+        .field_limits_kg = land.sum(land_column::field_limit, fields),
+        .production_kg = animals.sum(stock_column::total_n, animals.data_row_count()),
+    };
 }
 
 void fill_deductions(text_grid& land) {

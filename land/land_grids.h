@@ -9,6 +9,7 @@
 #include "core/grid_rows.h"
 #include "core/record_import.h"
 #include "core/text_grid.h"
+#include "land/spreading_limits.h"
 
 namespace kel {
 
@@ -56,6 +57,9 @@ bool import_land(const import_source& source, import_mode mode, text_grid& land,
 text_grid load_stock(const database& db, float& working_constant);
 
 void import_stock(const import_source& source, import_mode mode, text_grid& animals, float& working_constant);
+
+/// What Calculate compares: the sums over the data rows of both tables.
+farm_sums sums_of(const text_grid& land, const text_grid& animals);
 
 /// Fills empty deductions of the data rows with "0", as they are saved.
 void fill_deductions(text_grid& land);

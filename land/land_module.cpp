@@ -222,13 +222,7 @@ bool land_module::import_animals(import_mode mode) {
 }
 
 void land_module::calculate() {
-    const int fields = land_.data_row_count();
-    result_ = compare_with_limits({
-        .grass_ha = land_.sum(land_column::grass, fields),
-        .other_ha = land_.sum(land_column::not_in_grass, fields),
-        .field_limits_kg = land_.sum(land_column::field_limit, fields),
-        .production_kg = animals_.sum(stock_column::total_n, animals_.data_row_count()),
-    });
+    result_ = compare_with_limits(sums_of(land_, animals_));
 }
 
 void land_module::back() {

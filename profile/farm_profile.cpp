@@ -4,6 +4,10 @@
 #include <numeric>
 #include <optional>
 
+#include "core/dates.h"
+#include "core/numbers.h"
+#include "profile/profile_messages.h"
+
 namespace kel {
 
 namespace {
@@ -56,7 +60,24 @@ class free_numbers {
     std::vector<int> next_;
 };
 
+bool any_field_incomplete(const text_grid& fields) {
+    for (int row = 0; row < fields.row_count(); ++row)
+        for (int column = field_column::name; column <= field_column::soil; ++column)
+            if (fields.cell(row, column).empty()) return true;
+    return false;
+}
+
 }  // namespace
+
+const message* missing_from_profile(const farm_details& farm, const text_grid& fields) {
+    if (farm.name.empty()) return &profile_messages::no_name;
+    if (farm.location.empty()) return &profile_messages::no_location;
+    if (farm.total_area.empty()) return &profile_messages::no_area;
+    if (leading_number(farm.field_count) == 0 || fields.row_count() == 0) return &profile_messages::no_fields;
+    if (!parse_date(farm.year)) return &profile_messages::no_year;
+    if (any_field_incomplete(fields)) return &profile_messages::missing_data;
+    return nullptr;
+}
 
 std::vector<std::string> year_choices() {
     std::vector<std::string> choices;

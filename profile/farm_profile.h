@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/prompts.h"
 #include "core/text_grid.h"
 
 namespace kel {
@@ -45,6 +46,9 @@ inline constexpr std::array<grid_column, 5> field_columns{{
 
 /// Starts of the KEL years that can be assessed, "19/12/2000" to "19/12/2040".
 std::vector<std::string> year_choices();
+
+/// What keeps the profile from being set, in the order of its tests; null: nothing is missing.
+const message* missing_from_profile(const farm_details& farm, const text_grid& fields);
 
 /// More fields than any farm has; larger counts are not believed.
 inline constexpr int most_fields = 100'000;

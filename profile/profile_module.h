@@ -94,8 +94,6 @@ class profile_module {
   private:
     void show_field_count() { farm_.field_count = std::to_string(fields_.row_count()); }
     void add_pasted(const std::vector<pasted_field>& pasted);
-    const message* first_refusal() const;
-    bool any_field_incomplete() const;
     bool kel_areas_agree();
     void forget_carried_names();
     bool save_new_farm(const std::string& path);

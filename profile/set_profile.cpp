@@ -12,23 +12,6 @@ namespace kel {
 
 namespace messages = profile_messages;
 
-bool profile_module::any_field_incomplete() const {
-    for (int row = 0; row < fields_.row_count(); ++row)
-        for (int column = field_column::name; column <= field_column::soil; ++column)
-            if (fields_.cell(row, column).empty()) return true;
-    return false;
-}
-
-const message* profile_module::first_refusal() const {
-    if (farm_.name.empty()) return &messages::no_name;
-    if (farm_.location.empty()) return &messages::no_location;
-    if (farm_.total_area.empty()) return &messages::no_area;
-    if (leading_number(farm_.field_count) == 0 || fields_.row_count() == 0) return &messages::no_fields;
-    if (!parse_date(farm_.year)) return &messages::no_year;
-    if (any_field_incomplete()) return &messages::missing_data;
-    return nullptr;
-}
-
 bool profile_module::kel_areas_agree() {
     const float total = fields_.sum(field_column::kel_area, fields_.row_count());
     if (leading_single(farm_.kel_area) == total) return true;
@@ -51,7 +34,7 @@ void profile_module::forget_carried_names() {
 }
 
 set_profile_result profile_module::set_profile() {
-    if (const message* refusal = first_refusal()) {
+    if (const message* refusal = missing_from_profile(farm_, fields_)) {
         person_.tell(*refusal);
         return set_profile_result::refused;
     }

@@ -1,6 +1,5 @@
 #include "shell/years_module.h"
 
-#include <chrono>
 #include <exception>
 
 #include "core/assessment_files.h"
@@ -39,13 +38,6 @@ std::optional<std::string> stored_farm_name(const std::string& path) {
     const recordset farm = database(path).open("FarmProfile");
     if (farm.eof()) return std::nullopt;
     return farm.text("Name");
-}
-
-/// Years of a chain start on the same calendar day; 366 days apart if a 29 February lies between.
-bool is_year_before(std::optional<date> older, std::optional<date> newer) {
-    if (!older || !newer) return false;
-    const auto days = (std::chrono::sys_days(*newer) - std::chrono::sys_days(*older)).count();
-    return days == 365 || days == 366;
 }
 
 }  // namespace
