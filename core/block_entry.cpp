@@ -21,18 +21,31 @@ bool same_letters(std::string_view one, std::string_view other) {
         one, other, [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
 }
 
-// The choice itself goes before what it puts into its cell, and both before what only looks alike.
+std::vector<int> places_of(const std::vector<std::string>& texts, const std::string& text) {
+    std::vector<int> places;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        if (texts[i] == text) places.push_back(static_cast<int>(i));
+    return places;
+}
+
+// The choices that the text may mean: the choice itself goes before those that it stands for in their cell,
+// of which the one that the box opens with goes first, and both before what only looks alike.
+std::vector<int> choices_meant(const entry_part& part, const std::string& text) {
+    if (auto exact = places_of(part.choices, text); !exact.empty()) return {exact.front()};
+    if (auto in_cell = places_of(part.cell_texts, text); !in_cell.empty()) {
+        const auto shown = std::ranges::find_if(
+            in_cell, [&](int place) { return part.choices[static_cast<std::size_t>(place)] == part.text; });
+        return shown == in_cell.end() ? in_cell : std::vector{*shown};
+    }
+    const auto alike = std::ranges::find_if(
+        part.choices, [&](const std::string& choice) { return same_letters(choice, text); });
+    if (alike == part.choices.end()) return {};
+    return {static_cast<int>(alike - part.choices.begin())};
+}
+
 std::optional<int> choice_of(const entry_part& part, const std::string& text) {
-    const auto place = [](const auto& texts, const auto& is_it) -> std::optional<int> {
-        const auto found = std::ranges::find_if(texts, is_it);
-        if (found == texts.end()) return std::nullopt;
-        return static_cast<int>(found - texts.begin());
-    };
-    const auto same = [&](const std::string& choice) { return choice == text; };
-    const auto alike = [&](const std::string& choice) { return same_letters(choice, text); };
-    if (auto exact = place(part.choices, same)) return exact;
-    if (auto shown = place(part.cell_texts, same)) return shown;
-    return place(part.choices, alike);
+    const std::vector<int> meant = choices_meant(part, text);
+    return meant.empty() ? std::nullopt : std::optional(meant.front());
 }
 
 part_entry chosen(const entry_part& part, int place) {
@@ -56,9 +69,12 @@ std::string quote(const std::string& text) {
     return '"' + (text.size() > longest ? text.substr(0, longest) + "..." : one_line(text)) + '"';
 }
 
-int year_shown(const entry_part& part) {
-    const auto shown = parse_date(part.text);
-    return shown ? year_of(*shown) : 0;
+std::string not_a_choice(const entry_part& part, const std::string& text, const std::vector<int>& meant) {
+    if (meant.empty()) return quote(text) + " is not among the choices.";
+    std::string names;
+    for (const int place : meant)
+        names += (names.empty() ? "" : ", ") + quote(part.choices[static_cast<std::size_t>(place)]);
+    return quote(text) + " stands for more than one of the choices: " + names + '.';
 }
 
 // What stands in a part as its box opens.
@@ -70,11 +86,28 @@ part_entry as_it_opens(const entry_part& part) {
     return entry;
 }
 
+bool asks_for_date(const opening& shown) {
+    return std::ranges::any_of(shown.parts, [](const entry_part& part) {
+        return part.kind == part_kind::calendar || part.kind == part_kind::day;
+    });
+}
+
 class block_writer {
   public:
-    block_writer(const entry_target& target, paste_prompts& person) : target_(target), person_(person) {}
+    block_writer(const entry_target& target, paste_prompts& person, std::vector<pasted_note>& notes)
+        : target_(target), person_(person), notes_(notes), year_(target.year ? target.year() : 0) {}
 
-    std::vector<pasted_note> write(const cell_block& block, grid_cell at) {
+    void write(const cell_block& block, grid_cell at) {
+        try {
+            write_lines(block, at);
+        } catch (...) {
+            note({-1, at.column}, "The paste stopped here.", false);
+            throw;
+        }
+    }
+
+  private:
+    void write_lines(const cell_block& block, grid_cell at) {
         columns_ = columns_from(at.column);
         const bool headed = block.size() > 1 && take_headings(block.front());
         int row = at.row;
@@ -89,10 +122,8 @@ class block_writer {
             const bool last = row == target_.grid.row_count() - 1;
             if (!last || row_holds_something(row)) ++row;
         }
-        return std::move(notes_);
     }
 
-  private:
     std::vector<int> columns_from(int first) const {
         std::vector<int> columns;
         const auto all = target_.grid.columns();
@@ -200,28 +231,45 @@ class block_writer {
         return shown.column.value_or(clicked);
     }
 
+    // Up to the divider, if a later part has its answer in the same column.
+    std::string take_text(const opening& shown, std::size_t part, int from, int clicked) {
+        std::string& text = texts_[static_cast<std::size_t>(from)];
+        bool shared = false;
+        for (std::size_t later = part + 1; later < shown.parts.size(); ++later)
+            shared = shared || column_of(shown, later, clicked, false) == from;
+        const auto end = shared ? text.find(answer_divider) : std::string::npos;
+        if (end == std::string::npos) return std::exchange(text, {});
+        std::string first = text.substr(0, end);
+        text.erase(0, end + answer_divider.size());
+        return first;
+    }
+
+    std::optional<part_entry> entry_of(const entry_part& part, const std::string& text,
+                                       std::string& why) const {
+        auto put = text.empty() ? as_it_opens(part) : pasted_entry(part, text, year_, why);
+        if (!put || part.kind != part_kind::day || put->day) return put;
+        why = "Its box asks for a date, too.";
+        return std::nullopt;
+    }
+
     /// Nothing next: the chain has ended.
     outcome enter(int row, int column, const opening& shown, bool asked_after) {
         const grid_cell cell{row, shown.column.value_or(column)};
         box_entry entry;
         bool answered = shown.parts.empty();
-        std::string why;
+        bool refused = false;
         for (std::size_t part = 0; part < shown.parts.size(); ++part) {
             const auto from = column_of(shown, part, column, asked_after);
-            std::string text =
-                from ? std::exchange(texts_[static_cast<std::size_t>(*from)], {}) : std::string();
-            auto put =
-                text.empty() ? as_it_opens(shown.parts[part]) : pasted_entry(shown.parts[part], text, why);
-            if (put && shown.parts[part].kind == part_kind::day && !put->day) {
-                put.reset();
-                why = "Its box asks for a date, too.";
-            }
+            const std::string text = from ? take_text(shown, part, *from, column) : std::string();
+            std::string why;
+            auto put = entry_of(shown.parts[part], text, why);
             answered = answered || !text.empty() || (put && put->choice);
             if (!put) note({row, from.value_or(column)}, why, false);
-            if (!put) refused_ = true;
-            entry.parts.push_back(put.value_or(part_entry{}));
+            refused = refused || !put;
+            entry.parts.push_back(put ? *std::move(put) : as_it_opens(shown.parts[part]));
         }
-        if (std::exchange(refused_, false)) return {};
+        // What the first answer has begun is brought to its end.
+        if (refused && (!asked_after || asks_for_date(shown))) return {};
         if (!answered && asked_after) note(cell, "Not answered: " + shown.caption, true);
         return run(cell, shown, entry);
     }
@@ -250,9 +298,9 @@ class block_writer {
     paste_prompts& person_;
     std::vector<int> columns_;        // of the table, in the order of the block's
     std::vector<std::string> texts_;  // of the line, by the table's columns; taken as they are used
-    std::vector<pasted_note> notes_;
+    std::vector<pasted_note>& notes_;
+    int year_;
     int line_ = 0;
-    bool refused_ = false;
 };
 
 }  // namespace
@@ -262,7 +310,8 @@ bool pasted_note::operator==(const pasted_note& other) const {
            text == other.text && entered == other.entered;
 }
 
-std::optional<part_entry> pasted_entry(const entry_part& part, const std::string& text, std::string& why) {
+std::optional<part_entry> pasted_entry(const entry_part& part, const std::string& text, int year,
+                                       std::string& why) {
     switch (part.kind) {
         case part_kind::text:
             return part_entry{.text = one_line(text)};
@@ -276,7 +325,8 @@ std::optional<part_entry> pasted_entry(const entry_part& part, const std::string
             return std::nullopt;
         case part_kind::calendar:
         case part_kind::day:
-            if (const auto day = typed_date(text, year_shown(part)))
+            if (const auto shown = parse_date(part.text)) year = year_of(*shown);
+            if (const auto day = typed_date(text, year))
                 return part_entry{.text = short_date_text(*day), .day = day};
             why = quote(text) + " is no date (day/month/year).";
             return std::nullopt;
@@ -290,13 +340,14 @@ std::optional<part_entry> pasted_entry(const entry_part& part, const std::string
         default:
             break;
     }
-    if (const auto place = choice_of(part, text)) return chosen(part, *place);
-    why = quote(text) + " is not among the choices.";
+    const std::vector<int> meant = choices_meant(part, text);
+    if (meant.size() == 1) return chosen(part, meant.front());
+    why = not_a_choice(part, text, meant);
     return std::nullopt;
 }
 
-std::vector<pasted_note> enter_block(const entry_target& target, paste_prompts& person,
-                                     const cell_block& block, grid_cell at) {
+void enter_block(const entry_target& target, paste_prompts& person, const cell_block& block, grid_cell at,
+                 std::vector<pasted_note>& notes) {
     struct pasting {
         paste_prompts& person;
         explicit pasting(paste_prompts& whom) : person(whom) { person.begin_paste(); }
@@ -305,7 +356,7 @@ std::vector<pasted_note> enter_block(const entry_target& target, paste_prompts& 
         pasting& operator=(const pasting&) = delete;
     };
     const pasting quiet(person);
-    return block_writer(target, person).write(block, at);
+    block_writer(target, person, notes).write(block, at);
 }
 
 }  // namespace kel

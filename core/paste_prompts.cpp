@@ -61,7 +61,10 @@ answer paste_prompts::ask(const message& box) {
 
 void paste_prompts::show_list(const titled_list& list) {
     if (!pasting_) return person_.show_list(list);
-    told_.push_back(in_one_line(list.heading + ' ' + list.note));
+    std::string told = list.heading + ' ' + list.note;
+    for (std::size_t row = 0; row < list.rows.size(); ++row)
+        told += (row == 0 ? " " : "; ") + list.rows[row];
+    told_.push_back(in_one_line(told));
 }
 
 }  // namespace kel

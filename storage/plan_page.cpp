@@ -204,24 +204,37 @@ opening plan_page::click_land(int row, int column) {
     }
 }
 
-// The date that the person sets stays from field to field, until the year is another one.
-opening plan_page::field_use_box(int row) {
+bool plan_page::in_year(date harvest) const {
+    return harvest >= state_.limits.year_start && harvest <= state_.limits.year_end;
+}
+
+// The date that was entered stays from field to field, until the year is another one.
+date plan_page::offered_harvest() const {
+    if (harvest_ && in_year(*harvest_)) return *harvest_;
+    return make_date(usual_harvest_day, usual_harvest_month, year_of(state_.limits.year_end));
+}
+
+opening plan_page::field_use_box(int row) const {
     using namespace storage_messages;
-    const int year = year_of(state_.limits.year_end);
-    std::string harvest;
-    if (std::exchange(harvest_year_, year) != year)
-        harvest = short_date_text(make_date(usual_harvest_day, usual_harvest_month, year));
     const crop_pair use = shown_field_use(row);
     const auto crops = [](std::string_view label, const char* name, const std::string& crop) {
-        return entry_part{part_kind::list,    crop, choices_of(field_uses(), &field_use::shown), {},
-                          std::string(label), name};
+        entry_part part{part_kind::list,    crop, choices_of(field_uses(), &field_use::shown), {},
+                        std::string(label), name};
+        part.column = plan_column::crop;  // the pair stands in one cell
+        part.cell_texts = choices_of(field_uses(), &field_use::stored);
+        return part;
     };
     return {storage_box::field_use,
             field_use_caption,
             field_use_instruction,
             {crops(first_crop_label, "first", use.first),
              crops(second_crop_label, "second", use.second),
-             {part_kind::day, harvest, {}, {}, std::string(harvest_label), "harvest"}}};
+             {part_kind::day,
+              short_date_text(offered_harvest()),
+              {},
+              {},
+              std::string(harvest_label),
+              "harvest"}}};
 }
 
 outcome plan_page::enter_field_use(int row, const std::string& first_crop, const std::string& second_crop,
@@ -230,11 +243,11 @@ outcome plan_page::enter_field_use(int row, const std::string& first_crop, const
     const auto second = stored_crop_type(second_crop);
     if (!first) return refuse(person_, storage_messages::no_first_crop);
     if (!second) return refuse(person_, storage_messages::no_second_crop);
-    if (harvest < state_.limits.year_start || harvest > state_.limits.year_end)
-        return refuse(person_, storage_messages::invalid_harvest_date);
+    if (!in_year(harvest)) return refuse(person_, storage_messages::invalid_harvest_date);
     const other_uses others = read_other_uses(state_, plan_.land.cell(row, plan_column::field));
     if (!goes_with_last_year(others, *first, person_)) return box_stays();
     if (!goes_with_calculated_crop(others, *first, person_)) return box_stays();
+    harvest_ = harvest;
     set_field_use(plan_, row, {std::string(*first), std::string(*second)}, month_of(harvest));
     return entered();
 }

@@ -93,7 +93,9 @@ class plan_page {
     void clear();
 
   private:
-    opening field_use_box(int row);
+    opening field_use_box(int row) const;
+    bool in_year(date harvest) const;
+    date offered_harvest() const;
     /// The field's use as shown in the lists; empty texts for a field not assessed.
     crop_pair shown_field_use(int row) const;
     outcome set_stock_cell(int row, int column, const std::string& text);
@@ -109,8 +111,8 @@ class plan_page {
     std::optional<storage_balance> balance_;
     plan_tab tab_ = plan_tab::production;
     bool changed_ = false;
-    bool land_imported_ = false;  // with soil and areas that are not those of the file
-    int harvest_year_ = 0;        // of the date that the box of a field's use offered first
+    bool land_imported_ = false;   // with soil and areas that are not those of the file
+    std::optional<date> harvest_;  // entered last, of whatever field
     grid_history history_{production_, plan_.land, plan_.spreading, changed_, land_imported_};
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <stdexcept>
 
 #include "tests/support/scripted_prompts.h"
 
@@ -38,6 +39,10 @@ TEST(PastedEntry, TurnsATextIntoWhatThePartAsksFor) {
     const entry_part day{part_kind::calendar, "01/01/2025"};
     entry_part list{part_kind::list, {}, {"Winter wheat", "Winter Oats", "winter oats"}};
     list.cell_texts = {"WW", "WO", "wo"};
+    entry_part twice{part_kind::list, {}, {"Leys, autumn", "Leys, spring"}};
+    twice.cell_texts = {"G", "G"};
+    entry_part shown_twice = twice;
+    shown_twice.text = "Leys, spring";
     const entry_part length{part_kind::options_with_number, {}, {"No", "Yes by"}};
     const struct {
         const entry_part& part;
@@ -54,6 +59,9 @@ TEST(PastedEntry, TurnsATextIntoWhatThePartAsksFor) {
         {digits, "12.0", std::nullopt},
         {day, "5/3", part_entry{.text = "05/03/2025", .day = make_date(5, 3, 2025)}},
         {day, "3/15/2025", std::nullopt},
+        {{part_kind::calendar}, "5/3", part_entry{.text = "05/03/2031", .day = make_date(5, 3, 2031)}},
+        {twice, "G", std::nullopt},
+        {shown_twice, "G", part_entry{.text = "Leys, spring", .choice = 1}},
         {list, "winter oats", part_entry{.text = "winter oats", .choice = 2}},
         {list, "WINTER OATS", part_entry{.text = "Winter Oats", .choice = 1}},
         {list, "wo", part_entry{.text = "winter oats", .choice = 2}},
@@ -64,7 +72,7 @@ TEST(PastedEntry, TurnsATextIntoWhatThePartAsksFor) {
     };
     for (const auto& c : cases) {
         std::string why;
-        EXPECT_EQ(pasted_entry(c.part, c.text, why), c.put) << c.text;
+        EXPECT_EQ(pasted_entry(c.part, c.text, 2031, why), c.put) << c.text;
         EXPECT_EQ(why.empty(), c.put.has_value()) << c.text;
     }
 }
@@ -133,7 +141,8 @@ class BlockEntry : public testing::Test {
         return box_closes();
     }
     outcome enter_side(grid_cell at, const box_entry& put) {
-        grid.set_cell(at.row, side, put.text());
+        ++sides_answered;
+        if (!put.text().empty()) grid.set_cell(at.row, side, put.text());
         return box_closes();
     }
     std::vector<pasted_note> paste(const cell_block& block, grid_cell at = {0, 0}) {
@@ -148,7 +157,9 @@ class BlockEntry : public testing::Test {
                                           if (id == box) return &entry;
                                       return static_cast<const cell_entry*>(nullptr);
                                   }};
-        return enter_block(target, port, block, at);
+        std::vector<pasted_note> notes;
+        enter_block(target, port, block, at, notes);
+        return notes;
     }
     row_texts cells(int row) const {
         const auto found = grid.row(row);
@@ -159,6 +170,7 @@ class BlockEntry : public testing::Test {
     paste_prompts port{person};
     text_grid grid{columns};
     int details = 0;
+    int sides_answered = 0;
 };
 
 TEST_F(BlockEntry, FillsRowsFromTheLeftAndFormsFromTheirCellsTogether) {
@@ -229,6 +241,33 @@ TEST_F(BlockEntry, AQuestionThatFollowsTakesItsAnswerFromItsColumn) {
     grid.set_cell(0, side, "");
     EXPECT_EQ(paste({{"East"}}),
               (std::vector<pasted_note>{{1, {0, name}, "Not answered: Which side", true}}));
+    grid.set_cell(0, name, "");
+    grid.set_cell(0, side, "Left");
+    const auto refused = paste({{"Name", "Side"}, {"East", "Middle"}});
+    ASSERT_EQ(refused.size(), 1U);
+    EXPECT_EQ(refused[0], (pasted_note{2, {0, side}, "\"Middle\" is not among the choices.", false}));
+    EXPECT_EQ(sides_answered, 3) << "the entry of the name is brought to its end";
+    EXPECT_EQ(grid.cell(0, side), "Left");
+}
+
+TEST_F(BlockEntry, AFailureKeepsWhatWasEnteredAndTold) {
+    std::vector<pasted_note> notes;
+    const cell_entry enter = [this](grid_cell at, const box_entry& put) {
+        if (put.text() == "Bog") throw std::runtime_error("gone");
+        return enter_name(at, put);
+    };
+    const entry_target target{grid, [this](int row, int column) { return click(row, column); },
+                              [&](box_id) { return &enter; }};
+    EXPECT_THROW(enter_block(target, port, {{"West"}, {"West"}, {"Bog"}, {"North"}}, {0, name}, notes),
+                 std::runtime_error);
+    EXPECT_EQ(grid.cell(0, name), "West");
+    ASSERT_EQ(notes.size(), 2U);
+    EXPECT_EQ(notes[0].text, "Taken!");
+    EXPECT_EQ(notes[1], (pasted_note{3, {-1, name}, "The paste stopped here.", false}));
+    port.begin_paste();
+    port.show_list({"Crops", "Of the field:", {"Barley", "Oats"}});
+    EXPECT_EQ(port.take_told(), std::vector<std::string>{"Crops Of the field: Barley; Oats"});
+    port.end_paste();
 }
 
 TEST_F(BlockEntry, WhatDoesNotFitIsTold) {

@@ -1,4 +1,5 @@
 // A field's use: what it is held against, in which order, and what it makes of the field's months.
+#include "core/block_entry.h"
 #include "tests/storage/storage_fixture.h"
 
 namespace kel::test {
@@ -64,13 +65,33 @@ TEST_F(FieldUse, EnteredAgainOpensTheMonthsClosedBeforeAlsoInTheFile) {
     EXPECT_EQ(shown.parts.at(1).text, grass);
 }
 
-TEST_F(FieldUse, HarvestIsOfferedOnceAYearAndThenStaysAsItStands) {
+TEST_F(FieldUse, HarvestIsOfferedAtTheUsualDayAndThenAsItWasEnteredLast) {
     open_plan("Sands");
     const auto offered = [this] { return plan.click_land(0, plan_column::crop).parts.at(2).text; };
     EXPECT_EQ(offered(), "31/08/2025");
-    EXPECT_EQ(offered(), "");
+    EXPECT_EQ(offered(), "31/08/2025") << "a box that was left without an entry";
+    ASSERT_TRUE(enter(other, other, make_date(20, 12, 2024)));
+    EXPECT_EQ(offered(), "20/12/2024");
     state.limits = year_limits_of(make_date(19, 12, 2025));
     EXPECT_EQ(offered(), "31/08/2026");
+}
+
+TEST_F(FieldUse, ACopiedPairGoesBackIntoItsCell) {
+    open({{"Home", "10", "Sands"}, {"Far", "5", "Sands"}});
+    walk_to_plan();
+    const cell_entry enter_use = [this](grid_cell at, const box_entry& put) {
+        return plan.enter_field_use(at.row, put.text(0), put.text(1), put.day(2).value());
+    };
+    paste_prompts port(person);
+    const entry_target target{plan.land(),
+                              [this](int row, int column) { return plan.click_land(row, column); },
+                              [&](box_id) { return &enter_use; }};
+    std::vector<pasted_note> notes;
+    person.expect(says::no_second_crop);
+    enter_block(target, port, {{"Grass / Autumn sown crop"}, {"Other"}}, {0, plan_column::crop}, notes);
+    EXPECT_EQ(pair(), "Grass / Autumn sown crop");
+    EXPECT_EQ(plan.land().cell(1, plan_column::crop), "");
+    EXPECT_EQ(notes.size(), 1U);
 }
 
 TEST_F(FieldUse, CropsAndHarvestAreTestedFirst) {

@@ -60,6 +60,7 @@ void frmInorganic::add_entry_boxes() {
             runs(module_, &module::enter_pasted)},
     });
     // clang-format on
+    boxes->set_paste_year([this] { return calendar_year(); });
     entry_box* dialog = boxes->box(inorganic_box::application);
     dialog->setFixedWidth(dialog_width_px);
     application_ = new application_form("Inorganic_applic", dialog);
@@ -68,8 +69,12 @@ void frmInorganic::add_entry_boxes() {
     set_calendar_year();
 }
 
+int frmInorganic::calendar_year() const {
+    return module_.calendar_year().value_or(year_of(desk_.today()));
+}
+
 void frmInorganic::set_calendar_year() {
-    application_->set_year(module_.calendar_year().value_or(year_of(desk_.today())));
+    application_->set_year(calendar_year());
 }
 
 void frmInorganic::refresh() {

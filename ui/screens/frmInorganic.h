@@ -24,6 +24,7 @@ class frmInorganic : public module_screen {
   private:
     void add_commands(QBoxLayout* layout);
     void add_entry_boxes();
+    int calendar_year() const;
     void set_calendar_year();
 
     inorganic_module module_;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "ui/widgets/entry_box.h"
@@ -73,6 +75,9 @@ class box_set : public QObject {
     void open_typed(const opening& shown, QKeyEvent* key);
     /// Runs the Clear Cell of the box that a click on the cell opens; false if that has none.
     bool clear(grid_cell at, const opening& clicked) const;
+    /// The year of pasted dates without one.
+    void set_paste_year(std::function<int()> year) { paste_year_ = std::move(year); }
+    const std::function<int()>& paste_year() const { return paste_year_; }
     /// What takes a pasted entry of the box.
     const entry_box::box_operation& pasted(box_id box) const { return member_of(box).pasted; }
 
@@ -88,6 +93,7 @@ class box_set : public QObject {
     grid_view& grid_;
     QWidget* screen_;
     std::vector<member> boxes_;
+    std::function<int()> paste_year_;
 };
 
 }  // namespace kel

@@ -126,18 +126,18 @@ void module_screen::paste(grid_view& grid, const box_set& boxes, const click_ope
     if (!paste_port_ || block.empty()) return;
     for (auto* earlier : findChildren<paste_list*>())
         earlier->close();
-    const entry_target target{grid.shown(), click, [&](box_id box) { return &boxes.pasted(box); }};
+    const entry_target target{grid.shown(), click, [&](box_id box) { return &boxes.pasted(box); },
+                              boxes.paste_year()};
     std::vector<pasted_note> notes;
-    {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        const auto done = qScopeGuard([this] {
-            QApplication::restoreOverrideCursor();
-            record_changes();
-            refresh();
-        });
-        notes = enter_block(target, *paste_port_, block, at);
-    }
-    if (!notes.empty()) (new paste_list(grid, std::move(notes), this))->show();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    // Also after a failure: what was entered until then stands in the table.
+    const auto done = qScopeGuard([&] {
+        QApplication::restoreOverrideCursor();
+        record_changes();
+        refresh();
+        if (!notes.empty()) (new paste_list(grid, std::move(notes), this))->show();
+    });
+    enter_block(target, *paste_port_, block, at, notes);
 }
 
 namespace {
