@@ -4,6 +4,7 @@
 
 #include "core/numbers.h"
 #include "crops/arable_requirements.h"
+#include "crops/crop_account.h"
 #include "crops/vegetable_requirements.h"
 #include "rules/soils.h"
 
@@ -55,11 +56,33 @@ base_requirement for_seedbed(const requirement_cell& cell, std::string_view soil
             .crop_note = std::string(light ? potato_note : "")};
 }
 
-std::optional<base_requirement> find_sown_grass(std::string_view crop, int residue_group) {
+// What is looked up, and who is told where it was found.
+struct looked_up {
+    table_key key;
+    std::string_view soil;
+    explanation* why;
+};
+
+void tell(const looked_up& what, std::string_view table, const requirement_cell& cell) {
+    if (what.why)
+        tell_requirement_cell(table, what.key.crop, what.key.residue_group, what.soil, cell, *what.why);
+}
+
+std::optional<requirement_cell> find_told(const looked_up& what, requirement_table table,
+                                          std::string_view name) {
+    const auto cell = find_cell(table, what.key);
+    if (cell) tell(what, name, *cell);
+    return cell;
+}
+
+std::optional<base_requirement> find_sown_grass(const looked_up& what) {
     const auto rows = sown_grass_requirements();
-    const auto row = std::ranges::find(rows, crop, &sown_grass_row::crop);
-    if (row == rows.end() || residue_group < 1 || residue_group > 6) return std::nullopt;
-    return for_spring({row->n_kg_per_ha_by_group[static_cast<std::size_t>(residue_group) - 1]});
+    const auto row = std::ranges::find(rows, what.key.crop, &sown_grass_row::crop);
+    const int group = what.key.residue_group;
+    if (row == rows.end() || group < 1 || group > 6) return std::nullopt;
+    const requirement_cell cell{row->n_kg_per_ha_by_group[static_cast<std::size_t>(group) - 1]};
+    tell(what, "Requirement table of sown grass, which is the same on every soil", cell);
+    return for_spring(cell);
 }
 
 }  // namespace
@@ -72,16 +95,24 @@ int residue_group_number(std::string_view cell) {
 }
 
 std::optional<base_requirement> lookup_requirement(std::string_view crop_code, int residue_group,
-                                                   std::string_view soil) {
-    if (std::ranges::count(nil_requirement_crops(), crop_code) > 0) return base_requirement{};
-    if (auto grass = find_sown_grass(crop_code, residue_group)) return grass;
-    const table_key key{crop_code, residue_group, soil_code(soil).value_or("")};
-    if (const auto cell = find_cell(vegetable_requirements(), key)) return for_spring(*cell);
-    if (const auto cell = find_cell(potato_requirements(), key)) return for_seedbed(*cell, key.soil_code);
-    const auto cell = find_cell(arable_spring_requirements(), key);
+                                                   std::string_view soil, explanation* why) {
+    if (std::ranges::count(nil_requirement_crops(), crop_code) > 0) {
+        if (why) why->source("Crops that need no nitrogen: " + crop_words(crop_code) + ": 0 kg N/ha");
+        return base_requirement{};
+    }
+    const looked_up what{{crop_code, residue_group, soil_code(soil).value_or("")}, soil, why};
+    if (auto grass = find_sown_grass(what)) return grass;
+    if (const auto cell = find_told(what, vegetable_requirements(), "Requirement table of vegetables"))
+        return for_spring(*cell);
+    if (const auto cell = find_told(what, potato_requirements(),
+                                    "Requirement table of potatoes, all of it for the seedbed"))
+        return for_seedbed(*cell, what.key.soil_code);
+    const auto cell =
+        find_told(what, arable_spring_requirements(), "Requirement table of arable crops, for spring");
     if (!cell) return std::nullopt;
     base_requirement found = for_spring(*cell);
-    if (const auto seedbed = find_cell(rape_seedbed_requirements(), key)) {
+    if (const auto seedbed = find_told(what, rape_seedbed_requirements(),
+                                       "Requirement table of winter oilseed rape, for the seedbed")) {
         found.seedbed_n = seedbed->n_kg_per_ha;
         found.total_n += seedbed->n_kg_per_ha;
     }

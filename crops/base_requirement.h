@@ -7,6 +7,8 @@
 
 namespace kel {
 
+class explanation;
+
 /// kg N/ha. A range is the width above its amount, 0 for a single figure; the total leaves it out.
 struct base_requirement {
     float spring_n = 0;
@@ -24,6 +26,6 @@ int residue_group_number(std::string_view cell);
 /// The requirement of a planned code after a residue group (1 to 6) on a soil of the farm profile. Nothing
 /// for a crop, a group or a soil that its table does not have: the caller keeps what it had.
 std::optional<base_requirement> lookup_requirement(std::string_view crop_code, int residue_group,
-                                                   std::string_view soil);
+                                                   std::string_view soil, explanation* why = nullptr);
 
 }  // namespace kel

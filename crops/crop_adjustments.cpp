@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <array>
 
+#include "core/dates.h"
+#include "core/numbers.h"
 #include "crops/base_requirement.h"
+#include "crops/crop_account.h"
+#include "crops/crop_messages.h"
 #include "rules/rainfall.h"
 #include "rules/soils.h"
 
@@ -170,18 +174,29 @@ std::optional<int> spring_figure(std::string_view crop, int group, std::string_v
     return std::ranges::find(spring_rows, found->spring, &spring_row::crops)->kg_per_ha[*place];
 }
 
+constexpr rain_words winter_words{"Winter rainfall", crop_messages::more_than_450_mm,
+                                  crop_messages::less_than_450_mm};
+constexpr rain_words spring_words{"Spring rainfall", crop_messages::more_than_200_mm,
+                                  crop_messages::less_than_200_mm};
+
 // The frame of both rules; `kept` is what the rule gave last.
 template <class Figure>
-std::optional<int> rain_adjustment(bool high, const rained_on& row, std::string_view& soil, int& kept,
-                                   Figure figure) {
-    if (high) {
-        if (row.crop.empty() || row.residue_group.empty() || row.soil.empty()) return std::nullopt;
-        soil = soil_code(row.soil).value_or(soil);
-        kept = figure(row.crop, residue_group_number(row.residue_group), soil).value_or(kept);
-    } else {
+rain_outcome adjust_for_rain(bool high, const rained_on& row, std::string_view& soil, int& kept,
+                             Figure figure) {
+    if (!high) {
         kept = 0;
+        return rain_outcome::dry;
     }
-    return kept;
+    if (row.crop.empty() || row.residue_group.empty() || row.soil.empty())
+        return rain_outcome::row_incomplete;
+    soil = soil_code(row.soil).value_or(soil);
+    const auto found = figure(row.crop, residue_group_number(row.residue_group), soil);
+    kept = found.value_or(kept);
+    return found ? rain_outcome::figure : rain_outcome::kept;
+}
+
+std::optional<int> figure_of(rain_outcome outcome, int kept) {
+    return outcome == rain_outcome::row_incomplete ? std::nullopt : std::optional(kept);
 }
 
 }  // namespace
@@ -218,25 +233,38 @@ int wet_summer_kg_per_ha(std::string_view soil) {
     return is_shallow_or_sand(soil) ? 15 : 10;
 }
 
-std::optional<int> winter_rain_adjustment(std::string_view status, const rained_on& row,
-                                          rain_memory& memory) {
-    return rain_adjustment(status != rain_status::low, row, memory.soil_code, memory.winter_kg_per_ha,
-                           winter_figure);
+std::optional<int> winter_rain_adjustment(std::string_view status, const rained_on& row, rain_memory& memory,
+                                          explanation* why) {
+    const rain_outcome outcome = adjust_for_rain(status != rain_status::low, row, memory.soil_code,
+                                                 memory.winter_kg_per_ha, winter_figure);
+    if (why) tell_rain(winter_words, status, outcome, row, memory.winter_kg_per_ha, *why);
+    return figure_of(outcome, memory.winter_kg_per_ha);
 }
 
-std::optional<int> spring_rain_adjustment(std::string_view status, const rained_on& row,
-                                          rain_memory& memory) {
+std::optional<int> spring_rain_adjustment(std::string_view status, const rained_on& row, rain_memory& memory,
+                                          explanation* why) {
     const bool high = !status.empty() && status != rain_status::low;
-    return rain_adjustment(high, row, memory.soil_code, memory.spring_kg_per_ha, spring_figure);
+    const rain_outcome outcome =
+        adjust_for_rain(high, row, memory.soil_code, memory.spring_kg_per_ha, spring_figure);
+    if (why) tell_rain(spring_words, status, outcome, row, memory.spring_kg_per_ha, *why);
+    return figure_of(outcome, memory.spring_kg_per_ha);
 }
 
-std::optional<std::string_view> winter_rain_default(const database& climate, std::string_view town) {
+std::optional<std::string_view> winter_rain_default(const database& climate, std::string_view town,
+                                                    explanation* why) {
     const auto rain_mm = monthly_rain(climate, town);
     if (!rain_mm) return std::nullopt;
     float winter_mm = 0;
-    for (const std::size_t month : {9U, 10U, 11U, 0U, 1U})
+    std::string sum;
+    for (const std::size_t month : {9U, 10U, 11U, 0U, 1U}) {
         winter_mm += (*rain_mm)[month];
-    return winter_mm <= high_winter_rain_mm ? rain_status::low : rain_status::high;
+        if (why)
+            sum += (sum.empty() ? "" : " + ") + std::string(month_name(static_cast<int>(month) + 1)) + ' ' +
+                   default_text((*rain_mm)[month]);
+    }
+    const bool high = winter_mm > high_winter_rain_mm;
+    if (why) tell_winter_default(sum, default_text(winter_mm), default_text(high_winter_rain_mm), high, *why);
+    return high ? rain_status::high : rain_status::low;
 }
 
 }  // namespace kel

@@ -10,6 +10,8 @@
 
 namespace kel {
 
+class explanation;
+
 /// An answer, what it adds in kg/ha (of a variety: the percentage taken off), and the word that it leaves for
 /// the advice.
 struct crop_answer {
@@ -54,11 +56,14 @@ struct rain_memory {
 };
 
 // The adjustment in kg/ha for a status; nothing: the row is not complete and its cell stays as it is.
-std::optional<int> winter_rain_adjustment(std::string_view status, const rained_on& row, rain_memory& memory);
-std::optional<int> spring_rain_adjustment(std::string_view status, const rained_on& row, rain_memory& memory);
+std::optional<int> winter_rain_adjustment(std::string_view status, const rained_on& row, rain_memory& memory,
+                                          explanation* why = nullptr);
+std::optional<int> spring_rain_adjustment(std::string_view status, const rained_on& row, rain_memory& memory,
+                                          explanation* why = nullptr);
 
 /// The status that the mean rainfall of the town from October to February suggests: high above 450 mm.
 /// Nothing for a town without figures. Throws file_error.
-std::optional<std::string_view> winter_rain_default(const database& climate, std::string_view town);
+std::optional<std::string_view> winter_rain_default(const database& climate, std::string_view town,
+                                                    explanation* why = nullptr);
 
 }  // namespace kel

@@ -43,39 +43,81 @@ std::string_view split_advice(const crop_row& row) {
     return row.crop == "WOSR" ? rape_split : "";
 }
 
-void set_note(const crop_row& row, base_requirement& working) {
-    if (const std::string_view split = split_advice(row); !split.empty()) working.crop_note = split;
-    if (!is_vegetable_crop(row.crop) || working.total_n < base_dressing_limit_kg_per_ha) return;
+void set_note(const crop_row& row, base_requirement& working, explanation* why) {
+    const std::string_view split = split_advice(row);
+    if (!split.empty()) working.crop_note = split;
+    if (why) tell_split_advice(row, !split.empty(), !working.crop_note.empty(), *why);
+    const bool vegetable = is_vegetable_crop(row.crop);
+    if (vegetable && why) tell_base_dressing(working.total_n, base_dressing_limit_kg_per_ha, *why);
+    if (!vegetable || working.total_n < base_dressing_limit_kg_per_ha) return;
     working.crop_note = base_dressing;
     if (row.crop == "LET") working.crop_note += lettuce_base_dressing;
 }
 
 // The high figure first.
 template <class Figure>
-std::string range_text(Figure low, float range) {
+std::string range_text(Figure low, float range, explanation* why) {
     if (range == 0) return default_text(low);
-    return default_text(low + static_cast<Figure>(range)) + " - " + default_text(low);
+    std::string text = default_text(low + static_cast<Figure>(range)) + " - " + default_text(low);
+    if (why) tell_range(default_text(range), text, *why);
+    return text;
 }
 
 float range_of(const base_requirement& figures) {
     return figures.spring_range != 0 ? figures.spring_range : figures.seedbed_range;
 }
 
+void add(float& sum, const crop_row& row, std::size_t i, explanation* why) {
+    const float before = sum;
+    const float added = static_cast<float>(signs[i]) * leading_single(row.adjustments[i]);
+    sum += added;
+    if (why && added != 0)
+        tell_adjustment(row, i, default_text(added), default_text(before), default_text(sum), *why);
+}
+
+void add(double& sum, const crop_row& row, std::size_t i, explanation* why) {
+    const double before = sum;
+    const double added = signs[i] * leading_number(row.adjustments[i]);
+    sum += added;
+    if (why && added != 0)
+        tell_adjustment(row, i, default_text(added), default_text(before), default_text(sum), *why);
+}
+
+template <class Figure>
+void set_floor(Figure& sum, explanation* why) {
+    if (sum >= 0) return;
+    if (why) tell_floor(default_text(sum), *why);
+    sum = 0;
+}
+
+// Those who are told how the spring and the total amount came about.
+struct sum_accounts {
+    explanation* spring;
+    explanation* total;
+};
+
 // The percentage works on the spring amount only, and on the total by what is left of that.
-void apply_variety(std::string_view percent, base_requirement& working) {
+void apply_variety(const crop_row& row, base_requirement& working, const sum_accounts& why) {
+    const std::string_view percent = row.cell(adjustment::variety);
+    const bool some = leading_number(percent) != 0;
+    const std::string spring = default_text(working.spring_n);
     working.spring_n -= working.spring_n * leading_single(percent) / 100;
+    if (why.spring && some) tell_variety(row, spring, spring, default_text(working.spring_n), *why.spring);
+    const std::string total = default_text(working.total_n);
     working.total_n -= static_cast<double>(working.spring_n) * leading_number(percent) / 100;
+    if (why.total && some)
+        tell_variety(row, total, default_text(working.spring_n), default_text(working.total_n), *why.total);
 }
 
 // The seedbed amount takes no adjustment.
-void apply_adjustments(const crop_row& row, base_requirement& working) {
+void apply_adjustments(const crop_row& row, base_requirement& working, const sum_accounts& why) {
     for (std::size_t i = 0; i < signs.size(); ++i) {
-        working.spring_n += static_cast<float>(signs[i]) * leading_single(row.adjustments[i]);
-        working.total_n += signs[i] * leading_number(row.adjustments[i]);
+        add(working.spring_n, row, i, why.spring);
+        add(working.total_n, row, i, why.total);
     }
-    apply_variety(row.cell(adjustment::variety), working);
-    if (working.spring_n < 0) working.spring_n = 0;
-    if (working.total_n < 0) working.total_n = 0;
+    apply_variety(row, working, why);
+    set_floor(working.spring_n, why.spring);
+    set_floor(working.total_n, why.total);
 }
 
 void round_figures(base_requirement& working) {
@@ -85,25 +127,47 @@ void round_figures(base_requirement& working) {
     working.total_n = round_shown_half_even(working.total_n, 1);
 }
 
-std::string manures_text(const crop_row& row) {
-    return shortest_text(static_cast<float>(leading_number(row.cell(adjustment::manures)) +
-                                            leading_number(row.cell(adjustment::previous_manures))));
+void tell_rounded(const base_requirement& working, const crop_account& account) {
+    if (explanation* why = account.about({crop_figure::spring}))
+        tell_rounding(default_text(working.spring_n), *why);
+    if (explanation* why = account.about({crop_figure::seedbed}))
+        tell_rounding(default_text(working.seedbed_n), *why);
+    if (explanation* why = account.about({crop_figure::total}))
+        tell_rounding(default_text(working.total_n), *why);
+}
+
+std::string manures_text(const crop_row& row, explanation* why) {
+    std::string sum =
+        shortest_text(static_cast<float>(leading_number(row.cell(adjustment::manures)) +
+                                         leading_number(row.cell(adjustment::previous_manures))));
+    if (why) tell_manures(row, sum, *why);
+    return sum;
+}
+
+void set_base(const crop_row& row, base_requirement& working, explanation* why) {
+    if (why) tell_requirement_keys(row, *why);
+    const auto found = lookup_requirement(row.crop, residue_group_number(row.residue_group), row.soil, why);
+    if (!found && why) tell_carried_requirement(row, working, *why);
+    if (found) working = *found;
 }
 
 }  // namespace
 
-crop_recommendation recommend_row(const crop_row& row, base_requirement& working) {
-    const auto found = lookup_requirement(row.crop, residue_group_number(row.residue_group), row.soil);
-    if (found) working = *found;
-    set_note(row, working);
-    const std::string requirement = range_text(working.total_n, range_of(working));
-    apply_adjustments(row, working);
+crop_recommendation recommend_row(const crop_row& row, base_requirement& working,
+                                  const crop_account& account) {
+    using enum crop_figure;
+    set_base(row, working, account.about({spring, seedbed, total, requirement}));
+    set_note(row, working, account.about({notes}));
+    const std::string required = range_text(working.total_n, range_of(working), account.about({requirement}));
+    apply_adjustments(row, working, {account.about({spring}), account.about({total})});
+    if (explanation* why = account.about({spring, total})) tell_idle_adjustments(row, *why);
     round_figures(working);
-    return {.spring = range_text(working.spring_n, working.spring_range),
-            .seedbed = range_text(working.seedbed_n, working.seedbed_range),
-            .total = range_text(working.total_n, range_of(working)),
-            .requirement = requirement,
-            .manures = manures_text(row),
+    tell_rounded(working, account);
+    return {.spring = range_text(working.spring_n, working.spring_range, account.about({spring})),
+            .seedbed = range_text(working.seedbed_n, working.seedbed_range, account.about({seedbed})),
+            .total = range_text(working.total_n, range_of(working), account.about({total})),
+            .requirement = required,
+            .manures = manures_text(row, account.about({manures})),
             .notes = working.crop_note};
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "crops/base_requirement.h"
+#include "crops/crop_account.h"
 
 namespace kel {
 
@@ -49,8 +50,10 @@ struct crop_recommendation {
 };
 
 /// Works out a row. `working` holds the figures of the row before and then those of this one: a row that the
-/// tables do not have goes on from them. The rainfall cells must be up to date.
-crop_recommendation recommend_row(const crop_row& row, base_requirement& working);
+/// tables do not have goes on from them. The rainfall cells must be up to date. Tells of the figure that
+/// `account` is about.
+crop_recommendation recommend_row(const crop_row& row, base_requirement& working,
+                                  const crop_account& account = {});
 
 /// Low nitrogen malting barley is not grown after crops that leave much nitrogen, nor on humose and peaty
 /// soils.

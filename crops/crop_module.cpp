@@ -66,6 +66,7 @@ void crop_module::load(std::string winter_status) {
     std::vector<std::string> names;
     load_messages told;
     loaded_rows loaded = loaded_;
+    bool winter_is_stored = false;
     if (!state_.assess_file.empty()) {
         const database db(state_.assess_file);
         loaded.remember(db);
@@ -73,8 +74,8 @@ void crop_module::load(std::string winter_status) {
         const known_fields known(fields);
         names = kel::field_names(fields);
         const recordset first = db.open("Crops");
-        if (!first.eof() && is_rain_status(first.text("Winter Rainfall Status")))
-            winter_status = first.text("Winter Rainfall Status");
+        winter_is_stored = !first.eof() && is_rain_status(first.text("Winter Rainfall Status"));
+        if (winter_is_stored) winter_status = first.text("Winter Rainfall Status");
         crops.clear();
         append_rows(db, "Crops", crops, {.fields = &known}, told);
         crops.add_row();
@@ -84,6 +85,7 @@ void crop_module::load(std::string winter_status) {
     results_ = empty_crop_results();
     field_names_ = std::move(names);
     winter_status_ = std::move(winter_status);
+    winter_is_stored_ = winter_is_stored;
     opened_assessment_ = state_.assessment;
     history_.begin_anew();
     told.tell(person_);
@@ -117,11 +119,14 @@ bool crop_module::calculate() {
         return false;
     }
     results_ = empty_crop_results();
+    before_results_ = {working_, rain_};
     for (int row = 0; row < crops_.data_row_count(); ++row) {
-        set_winter_rain(row);
-        set_spring_rain(row);
-        add_crop_result(results_, crops_.cell(row, crop_column::field),
-                        recommend_row(crop_row_of(crops_, row), working_));
+        const calculated_crop crop = calculate_crop(crops_, row, winter_status_, working_, rain_);
+        if (crop.winter_rain)
+            crops_.set_cell(row, crop_column::winter_rain, std::to_string(*crop.winter_rain));
+        if (crop.spring_rain)
+            crops_.set_cell(row, crop_column::spring_rain, std::to_string(*crop.spring_rain));
+        add_crop_result(results_, crops_.cell(row, crop_column::field), crop.found);
     }
     phase_ = crop_phase::results;
     return true;

@@ -11,11 +11,13 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/grid_history.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/text_grid.h"
+#include "crops/crop_calculation.h"
 #include "crops/crop_grids.h"
 #include "crops/crop_questions.h"
 #include "reports/report_viewer.h"
@@ -35,6 +37,13 @@ class crop_module {
     const text_grid& results() const { return results_; }
     /// Undo and redo of its tables since the last load or save.
     grid_history& history() { return history_; }
+
+    /// Why a cell of either table is what it is; nothing for one that a person enters. The results are those
+    /// of the calculation in view. Throws file_error.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+    /// Why the answer to the winter rainfall question, "Crops_winter_rain", is preselected. Throws
+    /// file_error.
+    std::optional<explanation> why(std::string_view result) const;
 
     /// Begins with the winter rainfall question, answered by the climate of the farm's town or by what is
     /// stored. Throws file_error and leaves everything as it was when a file cannot be read.
@@ -91,6 +100,9 @@ class crop_module {
   private:
     void load(std::string winter_status);
     void save_rec();
+    explanation why_soil(int row) const;
+    explanation why_residue_group(int row) const;
+    explanation why_result(int row, int column) const;
 
     // The steps and their questions.
     opening field_opening(int row) const;
@@ -136,6 +148,8 @@ class crop_module {
     // What a row without a figure of its own falls back on; kept as long as the module is open.
     base_requirement working_;
     rain_memory rain_;
+    crop_memory before_results_;  // what the calculation in view went on from
+    bool winter_is_stored_ = false;
     grid_history history_{crops_, sowing_shown_, rain_};
 };
 
