@@ -81,8 +81,13 @@ explanation crop_module::why_residue_group(int row) const {
 // The rows before are worked out again, since a row may go on from their figures.
 explanation crop_module::why_result(int row, int column) const {
     const std::string& field = results_.cell(row, crop_result_column::field);
+    if (row >= crops_.data_row_count()) {
+        explanation gone(of_field("Recommendation", field));
+        gone.set_missing("The row is no longer in the crops table.");
+        return gone;
+    }
     if (column == crop_result_column::field) {
-        explanation why(of_field("Field", {}));
+        explanation why("Field");
         why.rule("The field of row " + std::to_string(row + 1) + " of the crops table.");
         why.set_result(crops_.cell(row, crop_column::field), "");
         return why;
