@@ -50,12 +50,6 @@ static_assert(manure_columns[col::date].is_date && manure_columns[col::month].st
               manure_columns[col::total_n].stored == "Total N Applic Rate" &&
               manure_columns[col::available_next].stored == "Available N Rate Next");
 
-bool is_complete(const text_grid& table, int row) {
-    for (int c = col::soil; c <= col::month; ++c)
-        if (table.cell(row, c).empty()) return false;
-    return true;
-}
-
 struct nitrogen_sums {
     float current_crop = 0;
     float next_crop = 0;
@@ -144,6 +138,12 @@ void import_applications(const import_source& source, import_mode mode, const da
 
 void save_applications(const database& db, const text_grid& table) {
     save_grid(db, stored_table, table, table.data_row_count());
+}
+
+bool is_complete(const text_grid& table, int row) {
+    for (int c = col::soil; c <= col::month; ++c)
+        if (table.cell(row, c).empty()) return false;
+    return true;
 }
 
 std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table) {

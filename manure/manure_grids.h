@@ -73,6 +73,9 @@ void import_applications(const import_source& source, import_mode mode, const da
 /// Replaces the rows of [Manure_applic]. Call within a save_transaction.
 void save_applications(const database& db, const text_grid& table);
 
+/// Whether an application has no empty cell. Without that there are no results.
+bool is_complete(const text_grid& table, int row);
+
 /// One row per field of the profile with the sums of its applications in kg N/ha, one decimal, and "No" for
 /// warnings. Nothing if an application to one of the fields has an empty cell.
 std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table);

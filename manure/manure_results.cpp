@@ -1,14 +1,12 @@
 // Calculate and what follows from it, save and close.
-#include <array>
-#include <unordered_map>
 #include <utility>
 
 #include "core/file_choice.h"
 #include "core/module_messages.h"
+#include "manure/closed_months.h"
 #include "manure/manure_messages.h"
 #include "manure/manure_module.h"
 #include "manure/manure_report.h"
-#include "rules/closed_periods.h"
 
 namespace kel {
 
@@ -24,37 +22,12 @@ struct files_read {
     std::optional<std::vector<dated_rate>> last_year;
 };
 
-// The months closed to manure of every field in [Land], read in one pass; a field's first row counts.
-using closed_calendar = std::unordered_map<std::string, std::array<bool, 12>>;
-
-closed_calendar read_closed_months(const database& db) {
-    closed_calendar calendar;
-    for (recordset rows = db.open("Land"); !rows.eof(); rows.move_next()) {
-        const auto [entry, is_new] = calendar.try_emplace(rows.text("Field Area ID"));
-        for (int month = 1; is_new && month <= 12; ++month)
-            entry->second.at(static_cast<std::size_t>(month - 1)) =
-                rows.text(month_name(month)) == closed_month;
-    }
-    return calendar;
-}
-
-std::vector<int> rows_in_closed_periods(const closed_calendar& calendar, const text_grid& table) {
-    std::vector<int> rows;
-    for (int row = 0; row < table.data_row_count(); ++row) {
-        const auto day = parse_date(table.cell(row, col::date));
-        const auto field = calendar.find(table.cell(row, col::field));
-        if (!day || field == calendar.end() || is_exempt_fym(table.cell(row, col::manure))) continue;
-        if (field->second.at(static_cast<std::size_t>(month_of(*day) - 1))) rows.push_back(row);
-    }
-    return rows;
-}
-
 files_read read_files(const application_state& state, const text_grid& table, bool with_last_year) {
     files_read files;
     if (!state.assess_file.empty()) {
         const database db(state.assess_file);
         files.fields = read_farm_fields(db);
-        files.closed_rows = rows_in_closed_periods(read_closed_months(db), table);
+        files.closed_rows = rows_in_closed_months(db, table);
     }
     // The table of last year's applications holds those of that file: none counts twice.
     if (with_last_year && !state.prev1_file.empty())

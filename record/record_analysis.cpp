@@ -42,9 +42,9 @@ float inorganic_sum(const std::vector<record_row>& rows) {
 std::vector<record_warning> requirement_warning(const std::vector<record_row>& rows,
                                                 const std::optional<std::string>& required) {
     if (!required) return {{warning_kind::information, std::string(text::no_requirement)}};
-    const float applied = inorganic_sum(rows);
-    if (!exceeds_limit(applied, leading_single(*required))) return {};
-    return {{warning_kind::alert, text::requirement_exceeded(default_text(applied), *required)}};
+    const auto excess = nitrogen_above_requirement(rows, required);
+    if (!excess) return {};
+    return {{warning_kind::alert, text::requirement_exceeded(excess->applied, excess->required)}};
 }
 
 // Days before the year assessed are judged by what last year's file says of the field.
@@ -107,6 +107,14 @@ std::vector<std::string> icon_paths() {
     for (const icon& i : icons)
         paths.emplace_back(i.path);
     return paths;
+}
+
+std::optional<excess_nitrogen> nitrogen_above_requirement(const std::vector<record_row>& rows,
+                                                          const std::optional<std::string>& required) {
+    if (!required) return std::nullopt;
+    const float applied = inorganic_sum(rows);
+    if (!exceeds_limit(applied, leading_single(*required))) return std::nullopt;
+    return excess_nitrogen{default_text(applied), *required};
 }
 
 std::vector<float> twelve_month_totals(const std::vector<record_row>& rows) {

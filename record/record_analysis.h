@@ -2,6 +2,7 @@
 // periods or without any entered, and more than 250 kg N/ha of manures within twelve months.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,15 @@ struct record_warning {
 /// Total N of manures, kg N/ha, in the twelve months that begin with each row's first manure, one for each
 /// row. The same date a year on is no longer within them.
 std::vector<float> twelve_month_totals(const std::vector<record_row>& rows);
+
+/// A field that got more inorganic nitrogen than its crop requires, kg N/ha as texts.
+struct excess_nitrogen {
+    std::string applied;
+    std::string required;
+};
+/// Nothing without a requirement, too.
+std::optional<excess_nitrogen> nitrogen_above_requirement(const std::vector<record_row>& rows,
+                                                          const std::optional<std::string>& required);
 
 /// In the order in which they are shown.
 std::vector<record_warning> analysis(const field_record& record, const field_history& field,

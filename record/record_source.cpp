@@ -1,5 +1,7 @@
 #include "record/record_source.h"
 
+#include <optional>
+
 #include "core/assessment_store.h"
 
 namespace kel {
@@ -76,19 +78,25 @@ void read_requirements(const table_reader& file, histories& found) {
     });
 }
 
-histories read_files(const application_state& state, const std::string* field) {
+histories read_files(const database* current, const database* last_year, const std::string* field) {
     histories found;
-    if (!state.assess_file.empty()) {
-        const database db(state.assess_file);
-        const table_reader file(db, field);
+    if (current) {
+        const table_reader file(*current, field);
         read_applications(file, &field_history::current, found);
         read_requirements(file, found);
     }
-    if (!state.prev1_file.empty()) {
-        const database db(state.prev1_file);
-        read_applications(table_reader(db, field), &field_history::previous, found);
-    }
+    if (last_year) read_applications(table_reader(*last_year, field), &field_history::previous, found);
     return found;
+}
+
+std::optional<database> opened(const std::string& path) {
+    return path.empty() ? std::nullopt : std::optional(database(path));
+}
+
+histories read_files(const application_state& state, const std::string* field) {
+    const auto current = opened(state.assess_file);
+    const auto last_year = opened(state.prev1_file);
+    return read_files(current ? &*current : nullptr, last_year ? &*last_year : nullptr, field);
 }
 
 }  // namespace
@@ -103,6 +111,10 @@ field_history read_history(const application_state& state, const std::string& fi
 
 histories read_histories(const application_state& state) {
     return read_files(state, nullptr);
+}
+
+histories read_histories(const database& file, const database* last_year) {
+    return read_files(&file, last_year, nullptr);
 }
 
 }  // namespace kel

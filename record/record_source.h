@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "core/application_state.h"
+#include "core/assessment_store.h"
 #include "record/field_history.h"
 
 namespace kel {
@@ -18,5 +19,8 @@ field_history read_history(const application_state& state, const std::string& fi
 
 /// Of every field that they name. Throws file_error.
 std::unordered_map<std::string, field_history> read_histories(const application_state& state);
+/// The same of files that are open; last year's may be null.
+std::unordered_map<std::string, field_history> read_histories(const database& file,
+                                                              const database* last_year);
 
 }  // namespace kel

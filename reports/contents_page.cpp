@@ -26,13 +26,26 @@ std::vector<report_cell> contents_row(const report_file& report, bool exists) {
     };
 }
 
+bool is_optional(const report_file& report) {
+    return std::any_of(optional_reports.begin(), optional_reports.end(),
+                       [&](const auto& page) { return page.report.file_name == report.file_name; });
+}
+
 }  // namespace
+
+std::vector<report_file> all_reports() {
+    std::vector<report_file> all(report_files.begin(), report_files.end());
+    std::size_t leading = 0;
+    for (const auto& [report, first] : optional_reports)
+        all.insert(first ? all.begin() + static_cast<std::ptrdiff_t>(leading++) : all.end(), report);
+    return all;
+}
 
 page_lines contents_body(const std::vector<std::string>& files) {
     report_table table;
-    for (const report_file& report : report_files) {
+    for (const report_file& report : all_reports()) {
         const bool exists = std::find(files.begin(), files.end(), report.file_name) != files.end();
-        table.add_row(contents_row(report, exists));
+        if (exists || !is_optional(report)) table.add_row(contents_row(report, exists));
     }
     page_lines body = report_heading("Reports Generated");
     append(body, report_paragraph(note));

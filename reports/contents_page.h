@@ -1,5 +1,4 @@
-// The contents page of the reports: which of the nine reports exist in the report folder, with a link to
-// each.
+// The contents page of the reports: which of them exist in the report folder, with a link to each.
 #pragma once
 
 #include <array>
@@ -33,6 +32,21 @@ inline constexpr std::array<report_file, 9> report_files{{
     {"KEL_report_record.htm",     "Field Record:"},
 }};
 // clang-format on
+
+// Pages that the program makes besides. They stand on the contents page when they have been made, and are
+// not missed there otherwise.
+struct optional_report {
+    report_file report;
+    bool first;  // above the nine; else below them
+};
+// clang-format off
+inline constexpr std::array<optional_report, 1> optional_reports{{
+    {{"KEL_report_standing.htm",   "Where the farm stands:"}, true},
+}};
+// clang-format on
+
+/// All of them in the order in which the contents page lists them.
+std::vector<report_file> all_reports();
 
 /// Body of the contents page. `files` are the bare names of the files in the report folder, compared exactly.
 page_lines contents_body(const std::vector<std::string>& files);

@@ -38,7 +38,7 @@ struct found_reports {
 found_reports find_reports(const application_state& state) {
     const page_origin open = origin_of(state, {});
     found_reports found;
-    for (const report_file& report : report_files) {
+    for (const report_file& report : all_reports()) {
         const std::string path = state.places.report(report.file_name);
         const auto head = head_of(path);
         if (!head) continue;

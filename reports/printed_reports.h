@@ -1,4 +1,4 @@
-// "Print all reports": which of the nine reports belong into one print of the open assessment.
+// "Print all reports": which of the reports belong into one print of the open assessment.
 #pragma once
 
 #include <string>

@@ -41,22 +41,21 @@ loaded_profile read_identity(const database& file) {
 
 // What keeps last year's file from being used, or only has to be said.
 void open_last_year(const farm_paths& files, farm_year& year) {
+    const auto tell = [&year](std::string_view trouble) { year.link_troubles.emplace_back(trouble); };
     if (files.previous.empty()) {
-        if (!files.before_previous.empty()) year.link_troubles.push_back(text::half_a_chain());
+        if (!files.before_previous.empty()) tell(text::half_a_chain);
         return;
     }
-    if (same_file(files.previous, files.current))
-        return year.link_troubles.push_back(text::links_to_itself());
+    if (same_file(files.previous, files.current)) return tell(text::links_to_itself);
     try {
         opened_file last_year = open_to_read(files.previous);
         const loaded_profile identity = read_identity(last_year.file);
         if (!is_year_before(identity.kel_year_start, year.profile.kel_year_start))
-            return year.link_troubles.push_back(text::not_the_year_before());
-        if (identity.farm_name != year.profile.farm_name)
-            year.link_troubles.push_back(text::of_another_farm(identity.farm_name));
+            return tell(text::not_the_year_before);
+        if (identity.farm_name != year.profile.farm_name) tell(text::of_another_farm(identity.farm_name));
         year.last_year = std::move(last_year);
     } catch (const file_error& failure) {
-        year.link_troubles.push_back(text::last_year_unreadable(failure.trouble()));
+        tell(text::last_year_unreadable(failure.trouble()));
     }
 }
 
@@ -64,7 +63,7 @@ void check_year_before_last(const farm_paths& files, farm_year& year) {
     const std::string& oldest = files.before_previous;
     if (oldest.empty() || files.previous.empty()) return;
     if (same_file(oldest, files.current) || same_file(oldest, files.previous))
-        year.link_troubles.push_back(text::links_in_a_circle());
+        year.link_troubles.emplace_back(text::links_in_a_circle);
 }
 
 }  // namespace
@@ -76,7 +75,13 @@ farm_paths linked_paths(const application_state& state) {
 const std::optional<monthly_values>& town_rain::of(const std::string& town) {
     const auto found = known_.find(town);
     if (found != known_.end()) return found->second;
-    return known_[town] = monthly_rain(database::for_reading(climate_tables_), town);
+    auto& rain = known_[town];
+    try {
+        rain = monthly_rain(database::for_reading(climate_tables_), town);
+    } catch (const file_error&) {
+        rain.reset();
+    }
+    return rain;
 }
 
 farm_year open_farm_year(const farm_paths& files) {

@@ -31,7 +31,7 @@ farm_paths linked_paths(const application_state& state);
 class town_rain {
   public:
     explicit town_rain(std::string climate_tables) : climate_tables_(std::move(climate_tables)) {}
-    /// mm by month; nothing for a town without figures. Throws file_error.
+    /// mm by month; nothing for a town without figures, or without the climate tables.
     const std::optional<monthly_values>& of(const std::string& town);
 
   private:

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "record/record_source.h"
+#include "standing/standing_messages.h"
 #include "standing/step_standings.h"
 
 namespace kel {
@@ -27,8 +29,38 @@ constexpr std::array<named_step, 9> titles{{
 }};
 // clang-format on
 
-using step_verdict = step_standing (*)(const farm_year&, farm_standing&);
-constexpr std::array<step_verdict, 2> verdicts{profile_standing, land_standing};
+farm_standing judge(const farm_paths& files, const farm_year& year, town_rain& rain) {
+    farm_standing farm{.files = files,
+                       .farm = year.profile.farm_name,
+                       .zone = year.profile.farm_zone,
+                       .year_start = year.profile.kel_year_start};
+    const field_histories fields =
+        read_histories(year.current.file, year.last_year ? &year.last_year->file : nullptr);
+    farm.steps.reserve(titles.size());
+    farm.steps.push_back(profile_standing(year, farm));
+    farm.steps.push_back(land_standing(year, farm));
+    farm.steps.push_back(storage_standing(year, rain, farm));
+    farm.steps.push_back(manure_standing(year, farm));
+    farm.steps.push_back(inorganic_standing(year, fields, farm));
+    farm.steps.push_back(crops_standing(year, fields, farm));
+    farm.steps.push_back(grass_standing(year, fields, farm));
+    farm.steps.push_back(composting_standing(year, farm));
+    farm.steps.push_back(record_standing(year, fields, farm));
+    check_unchanged(year);
+    return farm;
+}
+
+// What is wrong with last year's file shows in the middle at the latest; the year is then judged without it.
+farm_standing judge_opened(const farm_paths& files, farm_year year, town_rain& rain) {
+    try {
+        return judge(files, year, rain);
+    } catch (const file_error& failure) {
+        if (!year.last_year || failure.file() != year.last_year->file.path()) throw;
+        year.last_year.reset();
+        year.link_troubles.push_back(standing_messages::last_year_unreadable(failure.trouble()));
+        return judge(files, year, rain);
+    }
+}
 
 }  // namespace
 
@@ -58,20 +90,12 @@ severity farm_standing::worst() const {
     return worst;
 }
 
-farm_standing standing_of(const farm_paths& files, town_rain& /*rain*/) {
-    farm_standing farm{.files = files};
+farm_standing standing_of(const farm_paths& files, town_rain& rain) {
     try {
-        const farm_year year = open_farm_year(files);
-        farm.farm = year.profile.farm_name;
-        farm.zone = year.profile.farm_zone;
-        farm.year_start = year.profile.kel_year_start;
-        for (const step_verdict verdict : verdicts)
-            farm.steps.push_back(verdict(year, farm));
-        check_unchanged(year);
+        return judge_opened(files, open_farm_year(files), rain);
     } catch (const file_error& failure) {
-        farm = {.files = files, .trouble = failure.trouble()};
+        return {.files = files, .trouble = failure.trouble()};
     }
-    return farm;
 }
 
 }  // namespace kel

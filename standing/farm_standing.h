@@ -60,10 +60,12 @@ struct closed_breach {
     date day;
     std::string applied;     // manure type or fertiliser
     bool inorganic = false;  // by the calendar rule; else by months
+    bool justified = false;  // the comments give the reason
     bool operator==(const closed_breach&) const = default;
 };
 
-/// A field with more inorganic nitrogen than its crop requires; kg N/ha as the field record shows them.
+/// A field that was given more inorganic nitrogen than its crop requires; kg N/ha as the field record shows
+/// them. The record also warns of a field that got none where even less is required; that is not one.
 struct requirement_excess {
     std::string field;
     std::string applied;

@@ -87,16 +87,16 @@ void dirty_water_page::take_last_year() {
 }
 
 bool dirty_water_page::complete() {
-    if (holds_number(answers_.actual)) return true;
-    if (!holds_number(answers_.cows)) {
-        person_.tell(storage_messages::no_cow_figure);
-        return false;
-    }
-    if (!holds_number(answers_.pig_pens)) {
-        person_.tell(storage_messages::no_pig_pen_figure);
-        return false;
-    }
-    return true;
+    const message* missing = missing_answer(answers_);
+    if (missing) person_.tell(*missing);
+    return !missing;
+}
+
+const message* missing_answer(const dirty_water_answers& answers) {
+    if (holds_number(answers.actual)) return nullptr;
+    if (!holds_number(answers.cows)) return &storage_messages::no_cow_figure;
+    if (!holds_number(answers.pig_pens)) return &storage_messages::no_pig_pen_figure;
+    return nullptr;
 }
 
 std::optional<dirty_water_answers> read_dirty_water(const database& db) {

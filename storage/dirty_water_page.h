@@ -49,6 +49,9 @@ class dirty_water_page {
     dirty_water_answers answers_;
 };
 
+/// What is told of the first answer that is missing; null: none is.
+const message* missing_answer(const dirty_water_answers& answers);
+
 /// The answers in [Store_in]; nothing without a row.
 std::optional<dirty_water_answers> read_dirty_water(const database& db);
 /// Replaces the row of [Store_in]: mean rainfall in mm by month, and the answers that are not empty. Call it

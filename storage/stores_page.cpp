@@ -198,7 +198,11 @@ void save_stores(const database& db, const text_grid& stores) {
 
 std::optional<std::string> get_previous_percent_full(const application_state& state) {
     if (state.prev1_file.empty()) return std::nullopt;
-    const auto stored = database(state.prev1_file).lookup("Value", "Misc", "Item", december_percent_item);
+    return get_previous_percent_full(database(state.prev1_file));
+}
+
+std::optional<std::string> get_previous_percent_full(const database& last_year) {
+    const auto stored = last_year.lookup("Value", "Misc", "Item", december_percent_item);
     if (!stored) return std::nullopt;
     return shortest_text(round_half_even(std::min(leading_single(*stored), 100.0F), 1));
 }

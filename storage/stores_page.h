@@ -83,6 +83,8 @@ inline constexpr std::string_view december_percent_item = "December store percen
 /// 100, with at most 1 decimal. Nothing without a linked file or without a figure in it. Throws file_error
 /// for a file that cannot be read.
 std::optional<std::string> get_previous_percent_full(const application_state& state);
+/// The same of a file that is open.
+std::optional<std::string> get_previous_percent_full(const database& last_year);
 
 /// Rain (mean, mm) that falls into the store of a row, cubic metres. A store of an unknown shape gets none.
 monthly_values store_rain(const text_grid& stores, int row, const monthly_values& rain_mm);

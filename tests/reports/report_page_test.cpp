@@ -91,6 +91,14 @@ TEST(ContentsPage, OnlyFilesOfExactlyTheReportsNamesAreLinked) {
               *(row_of(one, "Land availability") + 1));
 }
 
+TEST(ContentsPage, PagesBesidesTheNineStandThereOnlyWhenTheyHaveBeenMade) {
+    const page_lines without = contents_body({});
+    EXPECT_EQ(without.end(), row_of(without, "Where the farm stands"));
+    const page_lines with = contents_body({"KEL_report_standing.htm"});
+    EXPECT_LT(row_of(with, "Where the farm stands"), row_of(with, "Farm Profile"));
+    EXPECT_EQ(9, std::ranges::count_if(with, holds("No report generated")));
+}
+
 TEST(ContentsPage, CropsRowIsNarrowOnlyWhenItsReportExists) {
     for (const bool exists : {false, true}) {
         const page_lines page =
