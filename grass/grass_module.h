@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/explanation.h"
 #include "core/grid_history.h"
 #include "core/module_save.h"
 #include "core/prompts.h"
@@ -41,6 +42,11 @@ class grass_module {
     silage_page& silage() { return silage_; }
     /// Undo and redo of its tables since the last load or save.
     grid_history& history() { return history_; }
+
+    /// Why a cell of its tables is what it is; nothing for one that a person enters. Throws file_error.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+    /// The same of "lblGrass_summary" and of the answers given in advance, "Grass_rain" and "Grass_altitude".
+    std::optional<explanation> why(std::string_view result) const;
 
     /// Fills the tables from the assessment, answers the opening questions in advance, turns to the first of
     /// them and tells which stored fields the profile lacks. Throws file_error and leaves everything as it

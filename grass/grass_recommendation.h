@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/explanation.h"
 #include "grass/grass_tables.h"
 
 namespace kel {
@@ -29,7 +30,12 @@ struct grass_recommendation {
     bool operator==(const grass_recommendation&) const = default;
 };
 
-/// Manures and what is to be applied are rounded to 1 decimal, ties to the even digit.
-grass_recommendation recommend_grass(const grass_tables& tables, const grass_field& field);
+enum class grass_figure { requirement, adjustment, manures, to_be_applied };
+
+/// Manures and what is to be applied are rounded to 1 decimal, ties to the even digit. Tells how the figure
+/// that is asked for came about.
+grass_recommendation recommend_grass(const grass_tables& tables, const grass_field& field,
+                                     explanation* why = nullptr,
+                                     grass_figure of = grass_figure::to_be_applied);
 
 }  // namespace kel

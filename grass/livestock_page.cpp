@@ -11,10 +11,13 @@ namespace col = livestock_column;
 
 namespace {
 
+std::string units_text(const text_grid& livestock, int row, explanation* why = nullptr) {
+    return default_text(livestock_units(livestock.number(row, col::time), livestock.number(row, col::number),
+                                        livestock.number(row, col::ratio), why));
+}
+
 void recalculate(text_grid& livestock, int row) {
-    const float units = livestock_units(livestock.number(row, col::time), livestock.number(row, col::number),
-                                        livestock.number(row, col::ratio));
-    livestock.set_cell(row, col::units, default_text(units));
+    livestock.set_cell(row, col::units, units_text(livestock, row));
 }
 
 }  // namespace
@@ -34,6 +37,28 @@ opening livestock_page::click(int row, int column) {
         default:
             return opens_none(person_, text::stock_calculation);
     }
+}
+
+std::optional<explanation> livestock_page::why(int row, int column) const {
+    if (column != col::ratio && column != col::units) return std::nullopt;
+    const auto cell = [&](int c) -> const std::string& { return farm_.livestock.cell(row, c); };
+    const std::string& type = cell(col::type);
+    explanation why((column == col::ratio ? "Livestock unit ratio" : "Livestock units") +
+                    (type.empty() ? std::string{} : " of " + type));
+    if (column == col::units) {
+        why.input("Number of animals", cell(col::number), "", "livestock table");
+        why.input("Part of the year on the farm", cell(col::time), "%", "livestock table");
+        why.input("Ratio", cell(col::ratio), "LU per animal", "from the stock type");
+    }
+    if (type.empty() && cell(column).empty()) {
+        why.set_missing("No stock type has been entered in this row.");
+    } else if (column == col::units) {
+        why.set_result(units_text(farm_.livestock, row, &why), "LU");
+    } else {
+        const auto ratio = lu_ratio(type, &why);
+        why.set_result(ratio ? default_text(*ratio) : cell(col::ratio), "LU per animal");
+    }
+    return why;
 }
 
 outcome livestock_page::write(int row, int column, const std::string& text) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/prompts.h"
 #include "grass/grass_farm.h"
 
@@ -17,6 +18,8 @@ class livestock_page {
     const text_grid& table() const { return farm_.livestock; }
 
     opening click(int row, int column);
+    /// Why a cell of the table is what it is; nothing for one that is entered.
+    std::optional<explanation> why(int row, int column) const;
 
     // The entry boxes; each recalculates its row.
     outcome enter_type(int row, const std::string& type);

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+
+#include "core/explanation.h"
+#include "core/numbers.h"
 
 namespace kel {
 
@@ -37,14 +41,25 @@ std::span<const grazing_stock> grazing_stock_list() {
     return stock_table;
 }
 
-std::optional<float> lu_ratio(std::string_view stock_type) {
+std::optional<float> lu_ratio(std::string_view stock_type, explanation* why) {
     const auto* const found = std::ranges::find(stock_table, stock_type, &grazing_stock::type);
-    if (found == stock_table.end()) return std::nullopt;
+    if (found == stock_table.end()) {
+        if (why)
+            why->rule("The list of livestock unit ratios lacks this type, so the ratio that it had stands.");
+        return std::nullopt;
+    }
+    if (why)
+        why->source("Livestock unit ratios: " + std::string(stock_type) + ": " +
+                    default_text(found->lu_per_animal) + " livestock units (LU) per animal");
     return found->lu_per_animal;
 }
 
-float livestock_units(float percent_of_year, float number, float ratio) {
-    return percent_of_year / 100 * number * ratio;
+float livestock_units(float percent_of_year, float number, float ratio, explanation* why) {
+    const float units = percent_of_year / 100 * number * ratio;
+    if (why)
+        why->step(default_text(percent_of_year) + " / 100 x " + default_text(number) + " animals x " +
+                  default_text(ratio) + " LU = " + default_text(units) + " LU");
+    return units;
 }
 
 }  // namespace kel

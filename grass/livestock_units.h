@@ -7,6 +7,8 @@
 
 namespace kel {
 
+class explanation;
+
 struct grazing_stock {
     std::string_view type;
     float lu_per_animal;
@@ -16,9 +18,9 @@ struct grazing_stock {
 std::span<const grazing_stock> grazing_stock_list();
 
 /// LU of one animal; nothing for any text but the exact name of a type: the caller keeps the ratio it had.
-std::optional<float> lu_ratio(std::string_view stock_type);
+std::optional<float> lu_ratio(std::string_view stock_type, explanation* why = nullptr);
 
 /// LU of `number` animals that are there for that percentage of the year. Neither is limited.
-float livestock_units(float percent_of_year, float number, float ratio);
+float livestock_units(float percent_of_year, float number, float ratio, explanation* why = nullptr);
 
 }  // namespace kel

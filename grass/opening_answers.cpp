@@ -1,5 +1,6 @@
 #include "grass/opening_answers.h"
 
+#include "core/explanation.h"
 #include "grass/site_class.h"
 
 namespace kel {
@@ -17,15 +18,24 @@ int place_of(const altitude_level* level) {
     return static_cast<int>(level - altitude_levels().data());
 }
 
-void add_stored(const database& db, opening_answers& answers) {
+void tell(explanation* why, std::string_view where) {
+    if (why) why->rule("The answer that " + std::string(where) + " has stands before the climate tables.");
+}
+
+void add_stored(const database& db, std::string_view where, opening_answers& answers,
+                const opening_accounts& why) {
     const recordset row = db.open(table);
     if (row.eof()) return;
     if (!answers.rain)
-        if (const rain_level* const level = rain_level_stored_as(row.text(rain_column)))
+        if (const rain_level* const level = rain_level_stored_as(row.text(rain_column))) {
             answers.rain = place_of(level);
+            tell(why.rain, where);
+        }
     if (!answers.altitude)
-        if (const altitude_level* const level = altitude_level_stored_as(row.text(altitude_column)))
+        if (const altitude_level* const level = altitude_level_stored_as(row.text(altitude_column))) {
             answers.altitude = place_of(level);
+            tell(why.altitude, where);
+        }
 }
 
 // At most one row; it is made when the first answer is kept.
@@ -46,13 +56,15 @@ void store(const std::string& file, std::string_view column, std::string_view an
 
 }  // namespace
 
-opening_answers answers_in_advance(const database& assessment, const application_state& state) {
+opening_answers answers_in_advance(const database& assessment, const application_state& state,
+                                   const opening_accounts& why) {
     opening_answers answers;
-    add_stored(assessment, answers);
+    add_stored(assessment, "this assessment", answers, why);
     const bool complete = answers.rain && answers.altitude;
-    if (!complete && !state.prev1_file.empty()) add_stored(database(state.prev1_file), answers);
+    if (!complete && !state.prev1_file.empty())
+        add_stored(database(state.prev1_file), "last year's assessment", answers, why);
     if (!answers.rain)
-        if (const auto mm = apr_to_sep_rain_mm(database(state.places.climate_tables())))
+        if (const auto mm = apr_to_sep_rain_mm(database(state.places.climate_tables()), why.rain))
             answers.rain = place_of(&rain_level_of(*mm));
     return answers;
 }

@@ -1,6 +1,7 @@
 #include "grass/silage_page.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/numbers.h"
 #include "grass/grass_messages.h"
@@ -32,6 +33,9 @@ text_grid silage_page::reported() const {
 void silage_page::fill() {
     built_from_ = stocked_fields_of(farm_.stocking);
     built_for_lus_ = farm_.total_lus;
+    filled_from_ = built_from_;
+    worked_with_before_ = farm_.working;
+    alterations_.clear();
     plan_ = fill_silage_table(built_from_, built_for_lus_, farm_.working);
     farm_.working = plan_.working;
     table_ = silage_grid_of(plan_);
@@ -46,7 +50,8 @@ void silage_page::name_fields_without_area() {
     if (!names.empty()) person_.tell(text::no_area(names));
 }
 
-std::string silage_page::summary() const {
+std::string silage_page::summary(explanation* why) const {
+    if (why) tell_summary(farm_.total_lus, plan_, *why);
     return text::livestock_units_summary(default_text(farm_.total_lus), format_shown(plan_.grazed_lus, 2),
                                          format_shown(farm_.total_lus - plan_.grazed_lus, 2));
 }
@@ -69,6 +74,8 @@ bool silage_page::make_alteration(const std::string& decrease, const std::string
             site_class(farm_.stocking.cell(row, stocking_column::soil), farm_.rain_class, farm_.altitude_step)
                 .value_or(0));
     move_feed(plan_, decrease, increase, site_classes);
+    alterations_.push_back({decrease, increase});
+    altered_classes_ = std::move(site_classes);
     farm_.working = plan_.working;
     table_ = silage_grid_of(plan_);
     name_fields_without_area();

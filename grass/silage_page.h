@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/explanation.h"
 #include "core/prompts.h"
 #include "grass/grass_farm.h"
 
@@ -21,7 +22,9 @@ class silage_page {
     /// than those that it was built from.
     text_grid reported() const;
     /// What the farm has, what is grazed and what is left, in a line.
-    std::string summary() const;
+    std::string summary(explanation* why = nullptr) const;
+    /// Why a cell of the table is what it is: built and altered as the table in view was.
+    explanation why(int row, int column) const;
 
     /// Builds the table from the stocking table, and names the fields without an area.
     void fill();
@@ -43,6 +46,7 @@ class silage_page {
 
   private:
     bool refuse(const message& reason);
+    silage_plan built_again(const silage_account& account) const;
     void name_fields_without_area();
 
     prompts& person_;
@@ -50,6 +54,16 @@ class silage_page {
     silage_plan plan_;
     std::vector<stocked_field> built_from_;
     float built_for_lus_ = 0;
+    // What the plan went on from, for its account: saving the rates changes the fields that it was built
+    // from.
+    std::vector<stocked_field> filled_from_;
+    silage_working worked_with_before_{};
+    struct alteration {
+        std::string decrease;
+        std::string increase;
+    };
+    std::vector<alteration> alterations_;
+    std::vector<int> altered_classes_;  // of each row
     text_grid table_;
     bool varying_ = false;
 };

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "grass/silage_account.h"
+
 namespace kel {
 
 inline constexpr int groups_per_field = 10;
@@ -65,12 +67,12 @@ struct silage_plan {
 /// what is worked out; the feed from silage always goes by the rate worked with last. `before` is what the
 /// plan before this one worked with.
 silage_plan fill_silage_table(const std::vector<stocked_field>& fields, float farm_lus,
-                              const silage_working& before = {});
+                              const silage_working& before = {}, const silage_account& account = {});
 
 inline constexpr double feed_step_lu = 0.1;
 /// Takes one step of feed from every row of the one field and gives it to the other. `site_classes` has the
 /// class of each row. Refills `without_area` with the rows that could not be worked out.
 void move_feed(silage_plan& plan, const std::string& decrease, const std::string& increase,
-               const std::vector<int>& site_classes);
+               const std::vector<int>& site_classes, const silage_account& account = {});
 
 }  // namespace kel

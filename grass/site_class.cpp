@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
+#include "core/dates.h"
+#include "core/explanation.h"
+#include "core/numbers.h"
 #include "rules/rainfall.h"
 
 namespace kel {
@@ -46,6 +50,33 @@ constexpr std::array<std::string_view, 4> other_soils{"Sandy loams", "Other mine
 constexpr int april = 4;
 constexpr int september = 9;
 
+template <class Level>
+std::string answer_of(std::span<const Level> levels, int Level::*number, int wanted) {
+    const auto found = std::ranges::find(levels, wanted, number);
+    return found == levels.end() ? std::string{} : std::string(found->answer);
+}
+
+void tell_site(std::string_view soil, int rain_class, int altitude_step, explanation& why) {
+    why.rule(
+        "The site class, 1 (moist) to 5 (dry), follows from the summer rain, the soil and the altitude.");
+    why.input("Rain from April to September",
+              answer_of<rain_level>(rain_table, &rain_level::rain_class, rain_class), "",
+              "opening question of the grassland module");
+    why.input(
+        "Altitude",
+        answer_of<altitude_level>(altitude_table, &altitude_level::altitude_step, altitude_step > 0 ? 1 : 0),
+        "", "opening question of the grassland module");
+    why.input("Soil", soil, "", "farm profile, of the field");
+}
+
+void tell_class(const site_class_row& row, bool light, explanation& why) {
+    const auto& classes = light ? row.light_soil : row.other_soil;
+    why.source("Site classes of the guidelines for farmers in the zones: " +
+               std::string(light ? "shallow soils and sands" : "soils other than shallow soils and sands") +
+               " with this rain: class " + std::to_string(classes[0]) + " on low ground, class " +
+               std::to_string(classes[1]) + " on high ground");
+}
+
 bool among(std::span<const std::string_view> soils, std::string_view soil) {
     return std::ranges::find(soils, soil) != soils.end();
 }
@@ -76,20 +107,36 @@ const altitude_level* altitude_level_stored_as(std::string_view stored) {
     return found == altitude_table.end() ? nullptr : found;
 }
 
-std::optional<float> apr_to_sep_rain_mm(const database& climate) {
+std::optional<float> apr_to_sep_rain_mm(const database& climate, explanation* why) {
     const auto rain = first_monthly_rain(climate);
     if (!rain) return std::nullopt;
     float sum = 0;
-    for (int month = april; month <= september; ++month)
-        sum += (*rain)[static_cast<std::size_t>(month - 1)];
+    std::string summands;
+    for (int month = april; month <= september; ++month) {
+        const float mm = (*rain)[static_cast<std::size_t>(month - 1)];
+        sum += mm;
+        if (why)
+            summands +=
+                (month == april ? "" : " + ") + std::string(month_name(month)) + ' ' + default_text(mm);
+    }
+    if (why) {
+        why->source(
+            "Climate tables, mean rainfall in mm a month of their first town, whatever that of the farm is");
+        why->step(summands + " = " + default_text(sum) + " mm");
+    }
     return sum;
 }
 
-std::optional<int> site_class(std::string_view soil, int rain_class, int altitude_step) {
+std::optional<int> site_class(std::string_view soil, int rain_class, int altitude_step, explanation* why) {
+    if (why) tell_site(soil, rain_class, altitude_step, *why);
     const bool light = among(light_soils, soil);
-    if (!light && !among(other_soils, soil)) return 0;
+    if (!light && !among(other_soils, soil)) {
+        if (why) why->rule("The soil is none of the farm profile's, which counts as class 0.");
+        return 0;
+    }
     const auto* const row = std::ranges::find(site_classes, rain_class, &site_class_row::rain_class);
     if (row == site_classes.end()) return std::nullopt;
+    if (why) tell_class(*row, light, *why);
     return (light ? row->light_soil : row->other_soil)[altitude_step > 0 ? 1 : 0];
 }
 

@@ -10,6 +10,8 @@
 
 namespace kel {
 
+class explanation;
+
 /// An answer to the question for the rainfall from April to September.
 struct rain_level {
     int rain_class;           // 1 (most rain) to 4
@@ -35,10 +37,11 @@ const altitude_level* altitude_level_stored_as(std::string_view stored);
 
 /// Rain from April to September in mm of the climate table's first row, whatever the farm's town is; nothing
 /// from an empty table. Throws file_error.
-std::optional<float> apr_to_sep_rain_mm(const database& climate);
+std::optional<float> apr_to_sep_rain_mm(const database& climate, explanation* why = nullptr);
 
 /// 1 to 5; 0 for a soil that is none of the profile's, at any altitude. Nothing for a rain class other than 1
 /// to 4 on a known soil. From the guidelines for farmers in the zones.
-std::optional<int> site_class(std::string_view soil, int rain_class, int altitude_step);
+std::optional<int> site_class(std::string_view soil, int rain_class, int altitude_step,
+                              explanation* why = nullptr);
 
 }  // namespace kel

@@ -2,6 +2,7 @@
 #include "core/module_messages.h"
 #include "core/numbers.h"
 #include "grass/grass_messages.h"
+#include "grass/management_adjustment.h"
 #include "grass/site_page.h"
 #include "grass/sward_choices.h"
 #include "rules/closed_period_lookups.h"
@@ -111,9 +112,8 @@ outcome site_page::enter_use(int row, const std::string& use) {
 }
 
 std::string site_page::adjustment(int row, std::string_view cuts, std::string_view applications) {
-    const auto found = tables().grass_adjustment(
-        farm_.site.cell(row, col::clover), farm_.site.cell(row, col::use), lookup_cuts(cuts), applications);
-    return found ? default_text(*found) : std::string{};
+    return management_adjustment(
+        tables(), {farm_.site.cell(row, col::clover), farm_.site.cell(row, col::use), cuts, applications});
 }
 
 outcome site_page::enter_cuts(int row, const std::string& cuts) {

@@ -43,7 +43,7 @@ void site_page::clear() {
     tables_.reset();
 }
 
-const grass_tables& site_page::tables() {
+const grass_tables& site_page::tables() const {
     if (!tables_) tables_.emplace(database(state_.places.grass_tables()));
     return *tables_;
 }

@@ -8,6 +8,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/text_grid.h"
@@ -39,6 +40,11 @@ class site_page {
 
     opening click(int row, int column);
 
+    /// Why a cell of the table is what it is; nothing for one that is entered. Throws file_error, as the
+    /// next.
+    std::optional<explanation> why(int row, int column) const;
+    explanation why_result(int row, int column) const;
+
     outcome enter_field(int row, const std::string& name);
     /// The sward and the end of its season.
     outcome enter_previous(int row, const box_entry& entered);
@@ -69,7 +75,12 @@ class site_page {
     void clear();
 
   private:
-    const grass_tables& tables();
+    const grass_tables& tables() const;
+    explanation why_soil(int row) const;
+    explanation why_site_class(int row) const;
+    explanation why_residue_group(int row) const;
+    explanation why_choice(int row, int column) const;
+    explanation why_adjustment(int row) const;
     opening manure_opening(int row, int column, site_box box, std::string_view instruction) const;
     opening previous_opening(int row) const;
     opening choice_opening(int row, int column, site_box box) const;
@@ -86,7 +97,7 @@ class site_page {
     screens& screens_;
     grass_farm& farm_;
     text_grid results_;
-    std::optional<grass_tables> tables_;  // read once, when first asked
+    mutable std::optional<grass_tables> tables_;  // read once, when first asked
 };
 
 }  // namespace kel

@@ -1,5 +1,7 @@
 #include "grass/stocking_page.h"
 
+#include <algorithm>
+
 #include "core/numbers.h"
 #include "grass/grass_messages.h"
 #include "grass/sward_choices.h"
@@ -23,6 +25,31 @@ opening stocking_page::click(int row, int column) {
     }
     if (column < col::first_group || column >= col::grazing_lus) return {};
     return click_group(row, column);
+}
+
+std::optional<explanation> stocking_page::why(int row, int column) const {
+    const grid_column& described = farm_.stocking.columns()[static_cast<std::size_t>(column)];
+    if (described.kind != column_kind::calculated) return std::nullopt;
+    const std::string& field = farm_.stocking.cell(row, col::field);
+    explanation why(std::string(farm_.stocking.columns()[static_cast<std::size_t>(column)].heading) +
+                    " for " + field);
+    const auto profile = std::ranges::find(farm_.fields, field, &farm_field::name);
+    std::string result = farm_.stocking.cell(row, column);
+    if (column == col::area && profile != farm_.fields.end()) {
+        why.rule("The size that the farm profile has for the field, taken over when the field is selected.");
+        result = profile->size;
+    } else if (column == col::grazing_lus) {
+        why.rule("Kept as it is stored; what grazes the field now is worked out in the silage table.");
+    } else if (column == col::silage_rate) {
+        why.rule(
+            "The stocking density that was saved with the silage table. It goes before what the next silage "
+            "table works out.");
+    } else {
+        why.rule("As the site table has it.");
+    }
+    const bool density = column == col::silage_rate;
+    why.set_result(std::move(result), column == col::area ? "ha" : density ? "LU/ha" : "");
+    return why;
 }
 
 opening stocking_page::click_group(int row, int column) {

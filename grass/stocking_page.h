@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/prompts.h"
 #include "grass/grass_farm.h"
 
@@ -19,6 +20,8 @@ class stocking_page {
     void fill() { farm_.stocking = stocking_of(farm_.site); }
 
     opening click(int row, int column);
+    /// Why a cell of the table is what it is; nothing for one that is entered.
+    std::optional<explanation> why(int row, int column) const;
 
     /// Nothing chosen changes nothing.
     outcome enter_use(int row, const std::string& choice);

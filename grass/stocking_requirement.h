@@ -7,12 +7,14 @@
 
 namespace kel {
 
+class explanation;
+
 // kg N/ha for a density in LU/ha, never negative; nothing for a class other than 1 to 5: what was worked out
 // last stands.
-std::optional<float> grazing_requirement(int site_class, float lu_per_ha);
-std::optional<float> silage_requirement(int site_class, float lu_per_ha);
+std::optional<float> grazing_requirement(int site_class, float lu_per_ha, explanation* why = nullptr);
+std::optional<float> silage_requirement(int site_class, float lu_per_ha, explanation* why = nullptr);
 
 /// "1 cut" to "3 cuts" for a requirement in kg N/ha; nothing at 0: the note that is there stands.
-std::optional<std::string_view> cuts_note(float n_kg_per_ha);
+std::optional<std::string_view> cuts_note(float n_kg_per_ha, explanation* why = nullptr);
 
 }  // namespace kel
