@@ -19,6 +19,24 @@ std::string told_rest(const std::vector<told_row>& rows, std::size_t first, std:
 
 }  // namespace
 
+const std::string& told_cell(const text_grid& grid, int row, int column, std::string_view entered_in,
+                             explanation* why) {
+    const std::string& text = grid.cell(row, column);
+    if (!why) return text;
+    std::string_view heading = grid.columns()[static_cast<std::size_t>(column)].heading;
+    std::string_view unit;
+    if (const auto bracket = heading.rfind(" ("); heading.ends_with(')') && bracket != heading.npos) {
+        unit = heading.substr(bracket + 2, heading.size() - bracket - 3);
+        heading = heading.substr(0, bracket);
+    }
+    why->input(heading, text, unit, entered_in);
+    return text;
+}
+
+float told_number(const text_grid& grid, int row, int column, std::string_view entered_in, explanation* why) {
+    return leading_single(told_cell(grid, row, column, entered_in, why));
+}
+
 void tell_rows(explanation& why, const std::vector<told_row>& rows, std::string_view things,
                std::string_view unit) {
     const std::size_t told = rows.size() > most_rows ? most_rows - 1 : rows.size();

@@ -1,4 +1,5 @@
-// The rows of a sum in an explanation: one line each, and one for those that would make it too long to read.
+// What an explanation tells of a table: a cell that went in, and the rows of a sum, one line each with one
+// for those that would make it too long to read.
 #pragma once
 
 #include <string>
@@ -6,8 +7,16 @@
 #include <vector>
 
 #include "core/explanation.h"
+#include "core/text_grid.h"
 
 namespace kel {
+
+/// The cell as an input, "Area In Grass: 4.2 ha (Step 1)", named by its column's heading, whose last bracket
+/// is the unit. Without `why` nothing is told.
+const std::string& told_cell(const text_grid& grid, int row, int column, std::string_view entered_in,
+                             explanation* why);
+/// The same as a number.
+float told_number(const text_grid& grid, int row, int column, std::string_view entered_in, explanation* why);
 
 struct told_row {
     std::string text;  // "Low Moss: 4.2 ha"

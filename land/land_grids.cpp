@@ -1,9 +1,11 @@
 #include "land/land_grids.h"
 
 #include <array>
+#include <utility>
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
+#include "core/told_rows.h"
 #include "land/stock_nitrogen.h"
 
 namespace kel {
@@ -80,8 +82,7 @@ constexpr std::string_view stock_table = "Land_animals";
 // The field limit follows from the available area as it is stored.
 row_rules land_rules(const known_fields& fields) {
     return {.fields = &fields, .complete = [](text_grid& land, int row, const recordset&) {
-                land.set_cell(row, land_column::field_limit,
-                              shortest_text(field_limit(land.number(row, land_column::available))));
+                land.set_cell(row, land_column::field_limit, loaded_field_limit_text(land, row));
             }};
 }
 
@@ -89,6 +90,16 @@ row_rules stock_rules(float& working_constant) {
     return {.complete = [&working_constant](text_grid& animals, int row, const recordset&) {
         recalculate_stock_row(animals, row, working_constant);
     }};
+}
+
+field_areas areas_of(const text_grid& land, int row, explanation* why) {
+    const auto number = [&](int column) { return told_number(land, row, column, in_land_table, why); };
+    // Braces are read from left to right, which is the order in which the inputs are told.
+    return {.grass_ha = number(land_column::grass),
+            .other_ha = number(land_column::not_in_grass),
+            .buffer_ha = number(land_column::buffer),
+            .slope_ha = number(land_column::slope),
+            .other_deduction_ha = number(land_column::other_deduction)};
 }
 
 }  // namespace
@@ -105,25 +116,59 @@ text_grid empty_stock_grid() {
     return animals;
 }
 
+std::string available_text(const text_grid& land, int row, explanation* why) {
+    std::string text = format_fixed(available_area(areas_of(land, row, why), why), 2);
+    if (why) why->step("Rounded to 2 decimals, halves up: " + text + " ha");
+    return text;
+}
+
+std::string field_limit_text(const text_grid& land, int row, explanation* why) {
+    const std::string text = shortest_text(field_limit(available_area(areas_of(land, row, why), why), why));
+    if (why) why->step("The limit is worked out from the area before it is rounded, and is not rounded.");
+    return text;
+}
+
+std::string loaded_field_limit_text(const text_grid& land, int row, explanation* why) {
+    if (why)
+        why->rule("The row is as it was loaded, so that its limit follows from the area as it was saved.");
+    return shortest_text(
+        field_limit(told_number(land, row, land_column::available, in_land_table, why), why));
+}
+
+float room_for_deduction(const text_grid& land, int row, int column, explanation* why) {
+    const auto number = [&](int c) { return told_number(land, row, c, in_land_table, why); };
+    const float grass = number(land_column::grass);
+    const float other = number(land_column::not_in_grass);
+    float deducted[2] = {};
+    int others = 0;
+    for (int c = land_column::buffer; c <= land_column::other_deduction; ++c)
+        if (c != column) deducted[others++] = number(c);
+    return deduction_room(grass, other, deducted[0], deducted[1], why);
+}
+
 void recalculate_land_row(text_grid& land, int row) {
-    const float available = available_area({
-        .grass_ha = land.number(row, land_column::grass),
-        .other_ha = land.number(row, land_column::not_in_grass),
-        .buffer_ha = land.number(row, land_column::buffer),
-        .slope_ha = land.number(row, land_column::slope),
-        .other_deduction_ha = land.number(row, land_column::other_deduction),
-    });
-    land.set_cell(row, land_column::available, format_fixed(available, 2));
-    land.set_cell(row, land_column::field_limit, shortest_text(field_limit(available)));
+    land.set_cell(row, land_column::available, available_text(land, row));
+    land.set_cell(row, land_column::field_limit, field_limit_text(land, row));
+}
+
+stock_texts stock_line_texts(const text_grid& animals, int row, float& working_constant, explanation* why) {
+    const std::string& type = told_cell(animals, row, stock_column::stock, in_stock_table, why);
+    const float number = told_number(animals, row, stock_column::number, in_stock_table, why);
+    const stock_line line = stock_line_nitrogen(type, number, working_constant, why);
+    working_constant = line.unit_n_kg_per_year;
+    const bool known = line.unit_n_kg_per_year != 0;
+    stock_texts texts{known ? shortest_text(line.unit_n_kg_per_year) : "",
+                      shortest_text(line.total_n_kg_per_year)};
+    if (why && known)
+        why->step(shortest_text(number) + " x " + texts.unit_n + " kg N/year = " + texts.total_n +
+                  " kg N/year, not rounded");
+    return texts;
 }
 
 void recalculate_stock_row(text_grid& animals, int row, float& working_constant) {
-    const stock_line line = stock_line_nitrogen(animals.cell(row, stock_column::stock),
-                                                animals.number(row, stock_column::number), working_constant);
-    working_constant = line.unit_n_kg_per_year;
-    const bool known = line.unit_n_kg_per_year != 0;
-    animals.set_cell(row, stock_column::unit_n, known ? shortest_text(line.unit_n_kg_per_year) : "");
-    animals.set_cell(row, stock_column::total_n, shortest_text(line.total_n_kg_per_year));
+    stock_texts texts = stock_line_texts(animals, row, working_constant);
+    animals.set_cell(row, stock_column::unit_n, std::move(texts.unit_n));
+    animals.set_cell(row, stock_column::total_n, std::move(texts.total_n));
 }
 
 text_grid fields_to_grid(const std::vector<farm_field>& fields) {

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/assessment_store.h"
+#include "core/explanation.h"
 #include "core/farm_fields.h"
 #include "core/grid_rows.h"
 #include "core/record_import.h"
@@ -39,10 +41,28 @@ enum : int { stock = 0, number = 1, unit_n = 2, total_n = 3 };
 text_grid empty_land_grid();
 text_grid empty_stock_grid();
 
-/// Available area ("0.00", ha) and field limit (kg N, not rounded) of a row.
+/// Where an account says that its inputs were entered.
+inline constexpr std::string_view in_land_table = "Step 1, Land Available For Spreading";
+inline constexpr std::string_view in_stock_table = "Step 1, Manure Production";
+
+// The cells that follow from a row's entries: available area ("0.00", ha), field limit (kg N, not rounded),
+// and the hectares that the other deductions leave for one of them.
+std::string available_text(const text_grid& land, int row, explanation* why = nullptr);
+std::string field_limit_text(const text_grid& land, int row, explanation* why = nullptr);
+float room_for_deduction(const text_grid& land, int row, int column, explanation* why = nullptr);
+/// The limit as a row has it that was loaded: from the available area as it was stored.
+std::string loaded_field_limit_text(const text_grid& land, int row, explanation* why = nullptr);
+/// Nitrogen per unit and of the line, kg N.
+struct stock_texts {
+    std::string unit_n;
+    std::string total_n;
+};
+/// An unknown type takes and every other one sets `working_constant`.
+stock_texts stock_line_texts(const text_grid& animals, int row, float& working_constant,
+                             explanation* why = nullptr);
+
+/// Available area and field limit of a row.
 void recalculate_land_row(text_grid& land, int row);
-/// Nitrogen per unit and of the line, kg N; an unknown type takes and every other one sets
-/// `working_constant`.
 void recalculate_stock_row(text_grid& animals, int row, float& working_constant);
 
 /// One row per field of the profile with its soil and size; the areas are left to the user.

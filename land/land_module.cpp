@@ -7,6 +7,7 @@
 #include "core/module_messages.h"
 #include "core/module_save.h"
 #include "core/numbers.h"
+#include "land/land_account.h"
 #include "land/land_messages.h"
 #include "land/land_report.h"
 #include "land/stock_nitrogen.h"
@@ -17,15 +18,6 @@ namespace {
 
 int other_of_pair(int column) {
     return column == land_column::grass ? land_column::not_in_grass : land_column::grass;
-}
-
-float room_for_deduction(const text_grid& land, int row, int column) {
-    float deducted[2] = {};
-    int others = 0;
-    for (int c = land_column::buffer; c <= land_column::other_deduction; ++c)
-        if (c != column) deducted[others++] = land.number(row, c);
-    return deduction_room(land.number(row, land_column::grass), land.number(row, land_column::not_in_grass),
-                          deducted[0], deducted[1]);
 }
 
 }  // namespace
@@ -111,9 +103,7 @@ outcome land_module::enter_field(int row, const std::string& name) {
     if (land_.in_other_row(row, land_column::field, name))
         return refuse(person_, land_messages::field_in_grid);
     // Read before the first cell is written: a file that cannot be read must leave the row as it was.
-    const recordset field = database(state_.assess_file).open("Field Data", "Field Name", name);
-    std::string soil = field.eof() ? "" : field.text("Soil");
-    std::string size = field.eof() ? "" : field.text("Size");
+    auto [soil, size] = read_profile_texts(state_.assess_file, name).value_or(profile_texts{});
     land_.set_cell(row, land_column::field, name);
     land_.keep_entry_row(row);
     land_.set_cell(row, land_column::soil, std::move(soil));
@@ -223,6 +213,17 @@ bool land_module::import_animals(import_mode mode) {
 
 void land_module::calculate() {
     result_ = compare_with_limits(sums_of(land_, animals_));
+}
+
+std::optional<explanation> land_module::why(const text_grid& grid, std::size_t row,
+                                            std::size_t column) const {
+    const auto at = [](std::size_t i) { return static_cast<int>(i); };
+    if (&grid == &land_) return why_land_cell(land_, at(row), at(column), state_.assess_file);
+    return why_stock_cell(animals_, at(row), at(column));
+}
+
+std::optional<explanation> land_module::why(std::string_view result) const {
+    return why_land_result(result, land_, animals_);
 }
 
 void land_module::back() {

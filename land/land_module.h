@@ -10,6 +10,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/grid_history.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
@@ -67,6 +68,11 @@ class land_module {
     void calculate();
     /// Closes the result panel.
     void back();
+
+    /// Why a cell of one of its tables is what it is; nothing for what a person enters. Throws file_error.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+    /// The same of a label of the result panel, by its name.
+    std::optional<explanation> why(std::string_view result) const;
 
     /// Replaces both tables in the file in one transaction. False: no file was chosen. Throws file_error; the
     /// file then holds its old rows.

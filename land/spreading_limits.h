@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "core/explanation.h"
+
 namespace kel {
 
 inline constexpr float grassland_limit_kg_per_ha = 250.0F;
@@ -20,14 +22,15 @@ struct field_areas {
 };
 
 /// Both areas less the three deductions, in hectares; never below 0.
-float available_area(const field_areas& areas);
+float available_area(const field_areas& areas, explanation* why = nullptr);
 
 /// kg N per year that may be spread on a field. It is 250 kg for each available hectare, in grass or not; the
 /// 170 of the farm limit has no part in it.
-float field_limit(float available_ha);
+float field_limit(float available_ha, explanation* why = nullptr);
 
 /// Hectares left for one deduction beside the two others. Below 0 when those exceed the areas already.
-float deduction_room(float grass_ha, float other_ha, float deducted_ha, float also_deducted_ha);
+float deduction_room(float grass_ha, float other_ha, float deducted_ha, float also_deducted_ha,
+                     explanation* why = nullptr);
 
 /// A field's area split into what was entered and the rest, as cell texts of hectares with at most 2
 /// decimals, ties to even.
@@ -47,6 +50,14 @@ struct farm_sums {
     float production_kg = 0;
 };
 
+/// kg N per year that may be spread on the farm, and the two parts of it. Deductions have no part in them.
+float other_land_limit(const farm_sums& sums, explanation* why = nullptr);
+float grassland_limit(const farm_sums& sums, explanation* why = nullptr);
+float farm_limit(const farm_sums& sums, explanation* why = nullptr);
+
+/// A sum as the result shows it: "1234.5 kg N/year".
+std::string shown_per_year(float n_kg, explanation* why = nullptr);
+
 enum class land_balance { too_little, equal, to_spare };
 
 /// Production against the limits, kg N per year: the values, and the texts that are shown.
@@ -64,9 +75,9 @@ struct spreading_result {
     bool operator==(const spreading_result&) const = default;
 };
 
-/// The farm limit takes no account of deductions. Which is more, limit or production, is told by the numbers
-/// shown; whether the field limits are lower than the farm limit, by the numbers themselves.
-spreading_result compare_with_limits(const farm_sums& sums);
+/// Which is more, limit or production, is told by the numbers shown; whether the field limits are lower than
+/// the farm limit, by the numbers themselves.
+spreading_result compare_with_limits(const farm_sums& sums, explanation* why = nullptr);
 
 /// Number with at most 2 decimals, ties to even, in the shortest text.
 std::string two_decimals(float value);

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+
+#include "core/numbers.h"
 
 namespace kel {
 
@@ -54,6 +57,20 @@ constexpr bool names_are_unique() {
 }
 static_assert(names_are_unique());
 
+void tell_constant(std::string_view type, float unit_n, explanation& why) {
+    const std::string constant = shortest_text(unit_n) + " kg N/year";
+    if (type.empty())
+        why.rule("A line without a stock unit produces nothing.");
+    else if (stock_nitrogen(type))
+        why.source("Nitrogen excreted by stock, from the guidelines for farmers in the zones, row \"" +
+                   std::string(type) + "\": " + constant);
+    else
+        why.rule(
+            "The table of stock has no such unit. The line goes on with the figure of the line before "
+            "it: " +
+            constant);
+}
+
 }  // namespace
 
 std::span<const stock_type> stock_types() {
@@ -66,8 +83,10 @@ std::optional<float> stock_nitrogen(std::string_view type) {
     return found->n_kg_per_year;
 }
 
-stock_line stock_line_nitrogen(std::string_view type, float number, float working_constant) {
+stock_line stock_line_nitrogen(std::string_view type, float number, float working_constant,
+                               explanation* why) {
     const float unit_n = type.empty() ? 0.0F : stock_nitrogen(type).value_or(working_constant);
+    if (why) tell_constant(type, unit_n, *why);
     return {unit_n, unit_n * number};
 }
 

@@ -6,6 +6,8 @@
 #include <span>
 #include <string_view>
 
+#include "core/explanation.h"
+
 namespace kel {
 
 struct stock_type {
@@ -26,6 +28,7 @@ struct stock_line {
 
 /// Nitrogen of one line of stock. An empty type has the constant 0; a type that is not in the table keeps
 /// `working_constant`, the constant of the line recalculated last.
-stock_line stock_line_nitrogen(std::string_view type, float number, float working_constant);
+stock_line stock_line_nitrogen(std::string_view type, float number, float working_constant,
+                               explanation* why = nullptr);
 
 }  // namespace kel
