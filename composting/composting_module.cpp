@@ -157,6 +157,21 @@ void composting_module::leave_panel() {
     history_.begin_anew();
 }
 
+std::optional<explanation> composting_module::why(const text_grid& grid, std::size_t row,
+                                                  std::size_t column) const {
+    const auto cell = [&](int c) { return grid.cell(static_cast<int>(row), c); };
+    if (column != col::rate && column != col::release) return std::nullopt;
+    return why_recorded({cell(col::residue), cell(col::soil_n), cell(col::waste), cell(col::waste_n)},
+                        column == col::rate ? composting_figure::rate : composting_figure::release);
+}
+
+std::optional<explanation> composting_module::why(std::string_view result) const {
+    if (worked_) return why_shown(result, worked_->inputs);
+    explanation nothing("Result of the calculator");
+    nothing.set_missing("Nothing has been calculated yet.");
+    return nothing;
+}
+
 bool composting_module::close() {
     return person_.ask(module_messages::close_module) != answer::no;
 }

@@ -8,10 +8,12 @@
 #include <string_view>
 #include <vector>
 
+#include "composting/composting_account.h"
 #include "composting/composting_report.h"
 #include "composting/composting_rules.h"
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/grid_history.h"
 #include "core/grid_rows.h"
 #include "core/loaded_rows.h"
@@ -22,15 +24,6 @@
 namespace kel {
 
 enum class composting_box { none, field };
-
-/// What the calculator asks for: residue and numbers as typed, the waste as it is stored.
-struct composting_inputs {
-    std::string residue;
-    std::string soil_n;
-    std::string waste{pms_waste};
-    std::string waste_n;
-    bool operator==(const composting_inputs&) const = default;
-};
 
 class composting_module {
   public:
@@ -73,6 +66,11 @@ class composting_module {
     bool save();
     /// Saves and closes the panel; it stays open when nothing was saved.
     void close_panel();
+
+    /// Why a quantity or a release of the recorded calculations is what it is; nothing for the other columns.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+    /// The same of a label of the result.
+    std::optional<explanation> why(std::string_view result) const;
 
     /// Asks whether the module may close.
     bool close();

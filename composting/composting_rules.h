@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/explanation.h"
+
 namespace kel {
 
 /// A residue of the list with the nitrogen that it adds to that of the soil.
@@ -30,10 +32,13 @@ struct waste_factors {
     float immobilised_kg_per_t_dm;
     float released_kg_per_t_dm;
 };
-waste_factors factors_of(std::string_view waste, float n_percent);
+/// Any waste but straw counts as paper mill sludge.
+waste_factors factors_of(std::string_view waste, float n_percent, explanation* why = nullptr);
 
 /// From this N content (%) on the person is asked whether it is right, whatever the waste product.
 inline constexpr float high_n_percent = 1.2F;
+
+enum class composting_figure { rate, release };
 
 /// The figures as they are shown and kept, each a number with at most one decimal.
 struct composting_result {
@@ -42,8 +47,14 @@ struct composting_result {
     bool operator==(const composting_result&) const = default;
 };
 
-/// The rate is rounded to one decimal before the release is worked out from it, both halves away from zero.
-/// Nothing for a waste that immobilises exactly no nitrogen, or for figures beyond all measure.
+// The two figures, each with one decimal, halves away from zero; nothing beyond all measure, as for a waste
+// that immobilises exactly no nitrogen. The release follows from the rate as it was rounded.
+std::optional<std::string> compost_rate(float residue_kg_per_ha, float soil_kg_per_ha,
+                                        const waste_factors& factors, explanation* why = nullptr);
+std::optional<std::string> compost_release(const std::string& rate, const waste_factors& factors,
+                                           explanation* why = nullptr);
+
+/// Both of them.
 std::optional<composting_result> compost(float residue_kg_per_ha, float soil_kg_per_ha,
                                          std::string_view waste, float n_percent);
 
