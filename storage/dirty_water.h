@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "core/explanation.h"
 #include "rules/months.h"
 
 namespace kel {
@@ -16,8 +17,9 @@ struct dirty_water_answers {
     bool operator==(const dirty_water_answers&) const = default;
 };
 
-/// Cubic metres a month that go into the balance. Only the estimate does: with an actual figure it is
-/// nothing.
+/// Cubic metres that go into the balance in a month, January as 0. Only the estimate does: with an actual
+/// figure it is nothing.
+float dirty_water_in(const dirty_water_answers& answers, std::size_t month, explanation* why = nullptr);
 monthly_values monthly_dirty_water(const dirty_water_answers& answers);
 
 /// The round monthly figures of the report, cubic metres.

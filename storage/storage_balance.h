@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "core/explanation.h"
 #include "rules/months.h"
 
 namespace kel {
@@ -37,8 +38,10 @@ struct storage_balance {
 };
 
 /// January to December from the level at the start of the year, in single precision. Nothing without a
-/// capacity.
+/// capacity. An account tells the month `asked`, January as 0, or with 12 what the warning goes by.
+inline constexpr std::size_t warning_asked = 12;
 std::optional<storage_balance> build_balance(const store_totals& stores, const monthly_values& inputs,
-                                             const monthly_values& outputs);
+                                             const monthly_values& outputs, explanation* why = nullptr,
+                                             std::size_t asked = warning_asked);
 
 }  // namespace kel

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/explanation.h"
+
 namespace kel {
 
 enum class store_shape { rectangular, circular, lagoon };
@@ -28,9 +30,9 @@ struct store_size {
 /// Cubic metres below the freeboard, in single precision. A tank shallower than its freeboard counts
 /// below zero, as the formula gives it.
 /// A lagoon is summed in slices of 0.01 m; slices beyond the point where the banks meet still count.
-float store_capacity(store_shape shape, const store_size& size);
+float store_capacity(store_shape shape, const store_size& size, explanation* why = nullptr);
 
 /// Drainage area in square metres as the text of its box: at most 1 decimal, ties to even.
-std::string auto_area(store_shape shape, const store_size& size);
+std::string auto_area(store_shape shape, const store_size& size, explanation* why = nullptr);
 
 }  // namespace kel

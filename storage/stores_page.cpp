@@ -9,7 +9,6 @@
 #include "core/module_save.h"
 #include "core/numbers.h"
 #include "core/record_import.h"
-#include "rules/rainfall.h"
 #include "storage/storage_messages.h"
 
 namespace kel {
@@ -205,30 +204,6 @@ std::optional<std::string> get_previous_percent_full(const database& last_year) 
     const auto stored = last_year.lookup("Value", "Misc", "Item", december_percent_item);
     if (!stored) return std::nullopt;
     return shortest_text(round_half_even(std::min(leading_single(*stored), 100.0F), 1));
-}
-
-monthly_values store_rain(const text_grid& stores, int row, const monthly_values& rain_mm) {
-    monthly_values rain{};
-    if (!find_store_shape(stores.cell(row, store_column::shape))) return rain;
-    const float area_sq_m = stores.number(row, store_column::area);
-    for (std::size_t month = 0; month < rain.size(); ++month)
-        rain[month] = rain_volume(rain_mm[month], area_sq_m);
-    return rain;
-}
-
-store_totals compute_store_totals(const text_grid& stores, const monthly_values& rain_mm) {
-    store_totals totals;
-    for (int row = 0; row < stores.data_row_count(); ++row) {
-        const auto shape = find_store_shape(stores.cell(row, store_column::shape));
-        if (!shape) continue;
-        const float capacity = store_capacity(*shape, size_of(form_of(stores, row)));
-        totals.total_capacity += capacity;
-        totals.total_free += capacity - capacity * (stores.number(row, store_column::percent) / 100);
-        const monthly_values rain = store_rain(stores, row, rain_mm);
-        for (std::size_t month = 0; month < rain.size(); ++month)
-            totals.monthly_rain_input[month] += rain[month];
-    }
-    return totals;
 }
 
 }  // namespace kel

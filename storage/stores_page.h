@@ -13,14 +13,10 @@
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
-#include "storage/storage_balance.h"
 #include "storage/store_form.h"
+#include "storage/store_totals.h"
 
 namespace kel {
-
-namespace store_column {
-enum : int { name, shape, depth, length, width, diameter, angle, percent, area };
-}
 
 class stores_page {
   public:
@@ -85,12 +81,5 @@ inline constexpr std::string_view december_percent_item = "December store percen
 std::optional<std::string> get_previous_percent_full(const application_state& state);
 /// The same of a file that is open.
 std::optional<std::string> get_previous_percent_full(const database& last_year);
-
-/// Rain (mean, mm) that falls into the store of a row, cubic metres. A store of an unknown shape gets none.
-monthly_values store_rain(const text_grid& stores, int row, const monthly_values& rain_mm);
-
-/// Capacity and free volume of all stores and the rain (mean, mm) that falls into them. A store of an unknown
-/// shape adds nothing.
-store_totals compute_store_totals(const text_grid& stores, const monthly_values& rain_mm);
 
 }  // namespace kel
