@@ -120,7 +120,7 @@ class block_writer {
             write_row(block[line], row);
             // A line of which nothing was taken leaves the entry row to the next one.
             const bool last = row == target_.grid.row_count() - 1;
-            if (!last || row_holds_something(row)) ++row;
+            if (!last || row_holds_something(row)) row = target_.row_below ? target_.row_below(row) : row + 1;
         }
     }
 

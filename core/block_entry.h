@@ -29,6 +29,8 @@ struct entry_target {
     std::function<const cell_entry*(box_id)> enter;
     /// The year of dates without one, where their part shows none; null or 0: such dates are refused.
     std::function<int()> year{};
+    /// The row that a person sees below this one, where that is not the next of the table.
+    std::function<int(int row)> row_below{};
 };
 
 /// Between two answers that stand in one cell.

@@ -143,6 +143,8 @@ TEST_F(StorageScreen, EveryBoxOfThePlanWritesItsCellAndSaveWritesThemAll) {
                 {2, 1, "Storage_number", "7", "7"},
                 {3, 2, "Storage_percent", "8", "8"}});
     EXPECT_EQ(cell(production, 1, 4), "96.5");
+    production->sort_on(4);
+    EXPECT_EQ(cell(production, 1, 4), "96.5") << "rows of months and totals keep their places";
     press_in_box("storage", production, 3, 2, "Storage_percent", "erase");
     press_in_box("storage", production, 2, 1, "Storage_number", "erase");
     fill_boxes("storage", production, {{2, 0, "Storage_stock", "1 weaner place", "1 weaner place"}});

@@ -159,7 +159,7 @@ TEST_F(Typing, DeleteRunsTheClearCellOfEveryWhiteCellSelected) {
     go_to(land, 0, land_column::buffer);
     keys("2\r");
     press_key(Qt::Key_Down, 1, Qt::ShiftModifier);
-    EXPECT_EQ(land->selected_rows().first, 1) << "a selection begins where Enter has gone";
+    EXPECT_EQ(land->selected_rows().front(), 1) << "a selection begins where Enter has gone";
 }
 
 TEST_F(Typing, AnApplicationOfManureIsTypedDayFirstFromTheFieldToItsAmount) {

@@ -143,20 +143,22 @@ QLayout* frmProfile::main_buttons() {
 void frmProfile::add_entry_boxes() {
     using module = profile_module;
     // The rows of the selection are those of the box; what is pasted is for its own row.
-    const auto rows_of = [this](grid_cell at) {
-        return grid_->locked() ? grid_->selected_rows() : grid_view::row_range{at.row, at.row};
+    const auto in_rows = [this](grid_cell at, const auto& enter) {
+        outcome last;
+        for (const int row : grid_->locked() ? grid_->selected_rows() : std::vector{at.row})
+            last = enter(row);
+        return last;
     };
-    const auto enter_area = [this, rows_of](grid_cell at, const box_entry& typed) {
-        const auto rows = rows_of(at);
-        return module_.enter_area(rows.first, rows.last, at.column, typed.text());
+    const auto enter_area = [this, in_rows](grid_cell at, const box_entry& typed) {
+        return in_rows(at, [&](int row) { return module_.enter_area(row, row, at.column, typed.text()); });
     };
-    const auto enter_soil = [this, rows_of](grid_cell at, const box_entry& typed) {
-        const auto rows = rows_of(at);
-        return module_.enter_soil(rows.first, rows.last, typed.text());
+    const auto enter_soil = [this, in_rows](grid_cell at, const box_entry& typed) {
+        return in_rows(at, [&](int row) { return module_.enter_soil(row, row, typed.text()); });
     };
+    // Its last argument but one only says how many there are.
     const auto click = [this](int row, int column) {
-        const auto rows = grid_->selected_rows();
-        return module_.click(row, row == rows.first ? rows.last : rows.first, column);
+        const int rows = static_cast<int>(grid_->selected_rows().size());
+        return module_.click(row, row + rows - 1, column);
     };
     const std::vector buttons{clear_button(runs(module_, &module::clear_cell)),
                               erase_button(runs(module_, &module::erase_row))};

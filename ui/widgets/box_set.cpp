@@ -49,7 +49,7 @@ entry_box* box_set::box(box_id box) const {
 }
 
 entry_box* box_set::box_over_cell(const opening& shown) {
-    if (shown.column) grid_.setCurrentIndex(grid_.model()->index(grid_.current_row(), *shown.column));
+    if (shown.column) grid_.setCurrentIndex(grid_.currentIndex().siblingAtColumn(*shown.column));
     return box(shown.box);
 }
 

@@ -22,6 +22,8 @@ first_column::first_column(grid_view& grid) : QTableView(&grid), grid_(grid) {
     verticalHeader()->setDefaultSectionSize(grid.verticalHeader()->defaultSectionSize());
     horizontalHeader()->setDefaultAlignment(grid.horizontalHeader()->defaultAlignment());
     horizontalHeader()->setHighlightSections(false);
+    disconnect(horizontalHeader(), SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, &grid_, &grid_view::sort_on);
     for (int c = 1; c < model()->columnCount(); ++c)
         setColumnHidden(c, true);
     for (int row = 0; row < model()->rowCount(); ++row)
@@ -34,7 +36,11 @@ first_column::first_column(grid_view& grid) : QTableView(&grid), grid_(grid) {
 
 void first_column::place() {
     const int heading = grid_.horizontalHeader()->height();
+    const QHeaderView& shown = *grid_.horizontalHeader();
     horizontalHeader()->setFixedHeight(heading);
+    horizontalHeader()->setSectionsClickable(shown.sectionsClickable());
+    horizontalHeader()->setSortIndicatorShown(shown.isSortIndicatorShown());
+    horizontalHeader()->setSortIndicator(shown.sortIndicatorSection(), shown.sortIndicatorOrder());
     setColumnWidth(0, grid_.columnWidth(0));
     setGeometry(grid_.frameWidth(), grid_.frameWidth(), grid_.columnWidth(0),
                 heading + grid_.viewport()->height());
@@ -49,7 +55,7 @@ void first_column::mouseReleaseEvent(QMouseEvent* event) {
     const QModelIndex at = indexAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !at.isValid() || grid_.locked()) return;
     grid_.setFocus();
-    grid_.choose_cell(at.row(), 0);
+    grid_.choose_cell(grid_.stored_row(at.row()), 0);
 }
 
 }  // namespace kel

@@ -26,10 +26,12 @@ bool is_figure(const std::string& text) {
 }  // namespace
 
 grid_model::grid_model(const text_grid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(&grid), shown_rows_(grid.row_count()) {}
+    : QAbstractTableModel(parent), grid_(&grid), order_(grid), shown_rows_(grid.row_count()) {}
 
 void grid_model::refresh() {
     const int rows = grid_->row_count();
+    order_.follow();
+    if (!order_.sorted()) sorted_column_ = -1;  // no row is left
     if (rows > shown_rows_) {
         beginInsertRows({}, shown_rows_, rows - 1);
         shown_rows_ = rows;
@@ -42,6 +44,40 @@ void grid_model::refresh() {
     if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
 }
 
+// Whoever holds a place in the table keeps it on its row.
+template <class Change>
+void grid_model::change_order(Change change) {
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    std::vector<int> stored;
+    for (const QModelIndex& held : before)
+        stored.push_back(order_.stored(held.row()));
+    change();
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after.append(index(order_.shown(stored[static_cast<std::size_t>(i)]), before[i].column()));
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+void grid_model::sort_on(int column) {
+    if (column == sorted_column_ && descending_) return show_as_stored();
+    descending_ = column == sorted_column_;
+    sorted_column_ = column;
+    change_order([this] { order_.sort(sorted_column_, descending_); });
+}
+
+void grid_model::sort_again() {
+    if (sorted_column_ >= 0) change_order([this] { order_.sort(sorted_column_, descending_); });
+}
+
+void grid_model::show_as_stored() {
+    if (sorted_column_ < 0) return;
+    sorted_column_ = -1;
+    change_order([this] { order_.show_as_stored(); });
+}
+
 int grid_model::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : shown_rows_;
 }
@@ -52,31 +88,34 @@ int grid_model::columnCount(const QModelIndex& parent) const {
 
 QVariant grid_model::data(const QModelIndex& index, int role) const {
     // Between a change of the grid and the refresh that shows it a row may be gone.
-    if (!index.isValid() || index.row() >= grid_->row_count()) return {};
+    const int row = order_.stored(index.row());
+    if (!index.isValid() || row >= grid_->row_count()) return {};
     const grid_column& column = grid_->columns()[static_cast<std::size_t>(index.column())];
+    const std::string& text = grid_->cell(row, index.column());
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-            return qt(grid_->cell(index.row(), index.column()));
+            return qt(text);
         case Qt::ToolTipRole:
-            return plain_tip(qt(grid_->cell(index.row(), index.column())).left(longest_tip));
+            return plain_tip(qt(text).left(longest_tip));
         case Qt::TextAlignmentRole: {
-            const std::string& text = grid_->cell(index.row(), index.column());
             const bool figures_column = index.column() > 0 && is_figure(text);
             return QVariant(Qt::AlignVCenter | (figures_column ? Qt::AlignRight : Qt::AlignLeft));
         }
         case Qt::BackgroundRole:
             return column.kind == column_kind::calculated ? QVariant(calculated_ground()) : QVariant();
         case Qt::AccessibleTextRole:
-            return qt(column.heading) + ": " + qt(grid_->cell(index.row(), index.column()));
+            return qt(column.heading) + ": " + qt(text);
         default:
             return {};
     }
 }
 
 QVariant grid_model::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    return qt(grid_->columns()[static_cast<std::size_t>(section)].heading);
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::DisplayRole) return qt(grid_->columns()[static_cast<std::size_t>(section)].heading);
+    if (role != Qt::AccessibleDescriptionRole || section != sorted_column_) return {};
+    return descending_ ? tr("Sorted, largest first") : tr("Sorted, smallest first");
 }
 
 }  // namespace kel

@@ -38,6 +38,7 @@ grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_padding_px);
     lay_out_columns();
+    make_sortable();
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { keep_first_column(); });
 }
 
@@ -131,36 +132,77 @@ void grid_view::scrollTo(const QModelIndex& index, ScrollHint hint) {
     if (hidden > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
 }
 
-grid_view::row_range grid_view::selected_rows() const {
-    row_range range{current_row(), current_row()};
+std::vector<int> grid_view::selected_rows() const {
+    int first = currentIndex().row();
+    int last = first;
     for (const QItemSelectionRange& part : selectionModel()->selection()) {
-        range.first = std::min(range.first, part.top());
-        range.last = std::max(range.last, part.bottom());
+        first = std::min(first, part.top());
+        last = std::max(last, part.bottom());
     }
-    return range;
+    std::vector<int> rows;
+    for (int row = first; row <= last; ++row)
+        rows.push_back(stored_row(row));
+    return rows;
 }
 
 std::vector<grid_cell> grid_view::selected_white_cells() const {
     std::vector<grid_cell> cells;
     for (const QItemSelectionRange& part : selectionModel()->selection())
-        for (int row = part.top(); row <= part.bottom(); ++row)
-            for (int column = part.left(); column <= part.right(); ++column)
+        for (int shown = part.top(); shown <= part.bottom(); ++shown)
+            for (int column = part.left(); column <= part.right(); ++column) {
+                const int row = stored_row(shown);
                 if (!isColumnHidden(column) && is_white(column) && !model_->grid().cell(row, column).empty())
                     cells.push_back({row, column});
+            }
     return cells;
 }
 
-void grid_view::refresh() {
+// The toolkit selects the column at a press on its heading; here that would lose the current cell.
+void grid_view::make_sortable() {
+    QHeaderView* header = horizontalHeader();
+    disconnect(header, SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
+    disconnect(header, SIGNAL(sectionEntered(int)), this, nullptr);
+    connect(header, &QHeaderView::sectionClicked, this, &grid_view::sort_on);
+}
+
+void grid_view::sort_on(int column) {
+    if (locked_ || !sortable_ || column < 0) return;
     const int row = current_row();
+    const int current = current_column();
+    model_->sort_on(column);
+    horizontalHeader()->setSortIndicatorShown(model_->sorted_column() >= 0);
+    horizontalHeader()->setSortIndicator(model_->sorted_column(),
+                                         model_->descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
+    lay_out_rows();
+    if (row >= 0) go_to(row, current);
+}
+
+void grid_view::show_as_stored() {
+    model_->show_as_stored();
+    horizontalHeader()->setSortIndicatorShown(false);
+    lay_out_rows();
+}
+
+void grid_view::keep_stored_order() {
+    show_as_stored();
+    sortable_ = false;
+    horizontalHeader()->setSectionsClickable(false);
+}
+
+// What takes no entries is worked out anew, and stands as its heading says.
+void grid_view::refresh() {
+    const int row = currentIndex().row();
     const int column = std::max(0, current_column());
     model_->refresh();
+    if (!takes_entries_) model_->sort_again();
+    horizontalHeader()->setSortIndicatorShown(model_->sorted_column() >= 0);
     lay_out_rows();
     if (row >= 0 && model_->rowCount() > 0 && !currentIndex().isValid())
         setCurrentIndex(model_->index(std::min(row, model_->rowCount() - 1), column));
 }
 
 void grid_view::choose_cell(int row, int column) {
-    setCurrentIndex(model_->index(row, column));
+    setCurrentIndex(model_->index(shown_row(row), column));
     emit cell_chosen(row, column);
 }
 
@@ -169,8 +211,12 @@ bool grid_view::is_white(int column) const {
     return columns[static_cast<std::size_t>(column)].kind == column_kind::entered;
 }
 
-// The view selects from the cell to which an arrow key has come last, so an arrow key does the last step.
 void grid_view::go_to(int row, int column) {
+    go_to_shown(shown_row(row), column);
+}
+
+// The view selects from the cell to which an arrow key has come last, so an arrow key does the last step.
+void grid_view::go_to_shown(int row, int column) {
     const int before = row > 0 ? row - 1 : row + 1;
     if (before < model_->rowCount()) {
         setCurrentIndex(model_->index(before, column));
@@ -184,7 +230,7 @@ void grid_view::step(cell_step step) {
     if (step == cell_step::none || !currentIndex().isValid()) return;
     const int on = step == cell_step::left ? -1 : 1;
     const int columns = model_->columnCount();
-    int row = current_row();
+    int row = currentIndex().row();
     int column = current_column();
     if (step == cell_step::down) {
         ++row;
@@ -197,7 +243,7 @@ void grid_view::step(cell_step step) {
             }
         } while (isColumnHidden(column));
     }
-    if (row >= 0 && row < model_->rowCount()) go_to(row, column);
+    if (row >= 0 && row < model_->rowCount()) go_to_shown(row, column);
 }
 
 void grid_view::set_locked(bool locked) {
@@ -214,12 +260,33 @@ bool grid_view::leaves_by_tab(const QKeyEvent* event) const {
             --c;
         return c;
     };
-    if (event->key() == Qt::Key_Backtab) return current_row() == 0 && current_column() == 0;
-    return current_row() == model_->rowCount() - 1 && current_column() == last_shown();
+    if (event->key() == Qt::Key_Backtab) return currentIndex().row() == 0 && current_column() == 0;
+    return currentIndex().row() == model_->rowCount() - 1 && current_column() == last_shown();
 }
 
 bool grid_view::begins_entry(const QKeyEvent& event) const {
     return takes_entries_ && types_character(event) && currentIndex().isValid() && is_white(current_column());
+}
+
+bool grid_view::take_command(const QKeyEvent& event) {
+    const auto with_control = [&](Qt::Key key, Qt::KeyboardModifiers more = {}) {
+        return event.key() == key && event.modifiers() == (Qt::ControlModifier | more);
+    };
+    if (event.matches(QKeySequence::Copy))
+        copy_selection();
+    else if (with_control(Qt::Key_L, Qt::ShiftModifier))
+        sort_on(current_column());
+    else if (!takes_entries_)
+        return false;
+    else if (event.key() == Qt::Key_Delete)
+        emit clear_wanted();
+    else if (event.matches(QKeySequence::Paste))
+        emit paste_wanted();
+    else if (with_control(Qt::Key_D))
+        emit fill_wanted();
+    else
+        return false;
+    return true;
 }
 
 void grid_view::keyPressEvent(QKeyEvent* event) {
@@ -229,18 +296,12 @@ void grid_view::keyPressEvent(QKeyEvent* event) {
     const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
     if (tab && (event->modifiers() & Qt::ControlModifier)) {
         event->ignore();  // switches the pages around the grid
-    } else if (event->matches(QKeySequence::Copy)) {
-        copy_selection();
     } else if (chooses && currentIndex().isValid()) {
         emit cell_chosen(current_row(), current_column());
     } else if (begins_entry(*event)) {
         emit cell_typed(current_row(), current_column(), *event);
-    } else if (takes_entries_ && event->key() == Qt::Key_Delete) {
-        emit clear_wanted();
-    } else if (takes_entries_ && event->matches(QKeySequence::Paste)) {
-        emit paste_wanted();
-    } else if (takes_entries_ && event->key() == Qt::Key_D && event->modifiers() == Qt::ControlModifier) {
-        emit fill_wanted();
+    } else if (take_command(*event)) {
+        event->accept();
     } else if (tab && leaves_by_tab(event)) {
         event->ignore();  // the window then moves the focus on
     } else {
@@ -267,7 +328,8 @@ void grid_view::mouseReleaseEvent(QMouseEvent* event) {
 
 std::optional<grid_view::cell_range> grid_view::selected_cells() const {
     if (!currentIndex().isValid()) return std::nullopt;
-    cell_range range{{current_row(), current_column()}, {current_row(), current_column()}};
+    const grid_cell current{currentIndex().row(), current_column()};
+    cell_range range{current, current};
     for (const QItemSelectionRange& part : selectionModel()->selection()) {
         range.first.row = std::min(range.first.row, part.top());
         range.first.column = std::min(range.first.column, part.left());
@@ -282,7 +344,7 @@ cell_block grid_view::texts_of(const cell_range& range) const {
     for (int row = range.first.row; row <= range.last.row; ++row) {
         std::vector<std::string>& cells = block.emplace_back();
         for (int c = range.first.column; c <= range.last.column; ++c)
-            if (!isColumnHidden(c)) cells.push_back(model_->grid().cell(row, c));
+            if (!isColumnHidden(c)) cells.push_back(model_->grid().cell(stored_row(row), c));
     }
     return block;
 }

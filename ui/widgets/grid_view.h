@@ -1,7 +1,8 @@
 // The grid of every module: arrow keys and Tab move, Enter, F2 or a click chooses a cell, a character typed
 // on a white cell begins an entry, Delete clears, ranges can be selected, copied and pasted as tab-separated
 // text. The first column stays in view while the others are scrolled. While an entry box is open the grid
-// keeps its selection and takes no input.
+// keeps its selection and takes no input. A click on a heading sorts what is shown. Rows here and in the
+// signals are those of the table behind the grid, unless they are called shown rows; the model's are shown.
 #pragma once
 
 #include <QTableView>
@@ -29,16 +30,14 @@ class grid_view : public QTableView {
   public:
     grid_view(const text_grid& grid, const QString& name, QWidget* parent = nullptr);
 
-    struct row_range {
-        int first;
-        int last;
-    };
-    int current_row() const { return currentIndex().row(); }
+    int current_row() const { return stored_row(currentIndex().row()); }
     int current_column() const { return currentIndex().column(); }
-    /// The rows of the selection, at least the current one.
-    row_range selected_rows() const;
+    int stored_row(int shown) const { return model_->order().stored(shown); }
+    int shown_row(int stored) const { return model_->order().shown(stored); }
+    /// The rows of the selection from top to bottom, at least the current one.
+    std::vector<int> selected_rows() const;
 
-    /// The rectangle of the selection; nothing without a current cell.
+    /// The rectangle of the selection, in shown rows; nothing without a current cell.
     struct cell_range {
         grid_cell first;
         grid_cell last;
@@ -49,6 +48,12 @@ class grid_view : public QTableView {
     void copy_selection() const;
     /// The white cells of the selection that hold something.
     std::vector<grid_cell> selected_white_cells() const;
+
+    /// Sorts what is shown by the column, the other way round, or not, in turn; with a box open nothing.
+    void sort_on(int column);
+    void show_as_stored();
+    /// The headings sort nothing: rows have their meaning by their place.
+    void keep_stored_order();
 
     /// Makes the column as narrow as its heading in one line and this text allow.
     void narrow_column(int column, const QString& widest);
@@ -102,10 +107,14 @@ class grid_view : public QTableView {
     int laid_out_width(int column) const;
     void keep_first_column();
     bool begins_entry(const QKeyEvent& event) const;
+    bool take_command(const QKeyEvent& event);
+    void go_to_shown(int row, int column);
+    void make_sortable();
     grid_model* model_;
     first_column* first_ = nullptr;  // made at the first scroll sideways
     bool locked_ = false;
     bool takes_entries_ = false;
+    bool sortable_ = true;
     int wrapped_column_ = -1;  // none
 };
 

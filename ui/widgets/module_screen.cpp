@@ -76,9 +76,11 @@ entry_box* module_screen::add_import_box(QBoxLayout* row, grid_view& grid, const
 void module_screen::add_import(QBoxLayout* row, grid_view& grid, const QString& name,
                                const import_operation& take) {
     entry_box* box = add_import_box(row, grid, name);
-    const auto run = [take](import_mode mode) {
-        return [take, mode](grid_cell, const box_entry&) {
-            return take(mode) ? box_closes() : box_stays(outcome::focus_stays);
+    const auto run = [take, &grid](import_mode mode) {
+        return [take, mode, &grid](grid_cell, const box_entry&) {
+            if (!take(mode)) return box_stays(outcome::focus_stays);
+            if (mode == import_mode::over_write) grid.show_as_stored();
+            return box_closes();
         };
     };
     box->on_enter(run(import_mode::add));
@@ -127,7 +129,8 @@ void module_screen::paste(grid_view& grid, const box_set& boxes, const click_ope
     for (auto* earlier : findChildren<paste_list*>())
         earlier->close();
     const entry_target target{grid.shown(), click, [&](box_id box) { return &boxes.pasted(box); },
-                              boxes.paste_year()};
+                              boxes.paste_year(),
+                              [&](int row) { return grid.stored_row(grid.shown_row(row) + 1); }};
     std::vector<pasted_note> notes;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     // Also after a failure: what was entered until then stands in the table.
@@ -163,7 +166,7 @@ void module_screen::paste_clipboard(grid_view& grid, const box_set& boxes, const
             std::ranges::fill(row, cell);
         leave_out_grey_names(grid, range->first.column, block);
     }
-    paste(grid, boxes, click, block, range->first);
+    paste(grid, boxes, click, block, {grid.stored_row(range->first.row), range->first.column});
 }
 
 void module_screen::fill_down(grid_view& grid, const box_set& boxes, const click_operation& click) {
@@ -173,7 +176,7 @@ void module_screen::fill_down(grid_view& grid, const box_set& boxes, const click
     block.pop_back();
     std::ranges::fill(block, std::vector(block.front()));
     leave_out_grey_names(grid, range->first.column, block);
-    paste(grid, boxes, click, block, {range->first.row + 1, range->first.column});
+    paste(grid, boxes, click, block, {grid.stored_row(range->first.row + 1), range->first.column});
 }
 
 // A cell that holds nothing is not asked about.
@@ -275,6 +278,8 @@ void module_screen::reload_all() {
         box->close_box();
     for (auto* list : findChildren<paste_list*>())
         list->close();
+    for (auto* grid : findChildren<grid_view*>())
+        grid->show_as_stored();
     reload();
 }
 

@@ -15,6 +15,7 @@ constexpr int months = 12;
 month_table::month_table(grid_view& grid, const arrangement& arranged)
     : QStyledItemDelegate(&grid), grid_(grid), arranged_(arranged) {
     grid_.setItemDelegate(this);
+    grid_.keep_stored_order();
     for (int m = 0; m < months; ++m)
         grid_.narrow_column(arranged_.first_month + m, arranged_.widest);
     refresh();

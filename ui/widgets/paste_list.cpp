@@ -54,7 +54,7 @@ paste_list::paste_list(grid_view& grid, std::vector<pasted_note> notes, QWidget*
 QString paste_list::line_of(const pasted_note& note) const {
     const auto column = grid_.shown().columns()[static_cast<std::size_t>(note.cell.column)];
     QString where = tr("Line %1").arg(note.line);
-    if (note.cell.row >= 0) where += tr(", row %1").arg(note.cell.row + 1);
+    if (note.cell.row >= 0) where += tr(", row %1").arg(grid_.shown_row(note.cell.row) + 1);
     return where + ", " + qt(column.heading) + (note.entered ? tr(" (entered)") : QString()) + ": " +
            qt(note.text);
 }
