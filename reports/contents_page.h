@@ -40,8 +40,11 @@ struct optional_report {
     bool first;  // above the nine; else below them
 };
 // clang-format off
-inline constexpr std::array<optional_report, 1> optional_reports{{
+inline constexpr std::array<optional_report, 4> optional_reports{{
     {{"KEL_report_standing.htm",   "Where the farm stands:"}, true},
+    {{"KEL_report_calendar.htm",   "Season calendar:"}, false},
+    {{"KEL_sheet_manure.htm",      "Record sheet for slurry and manure:"}, false},
+    {{"KEL_sheet_fertiliser.htm",  "Record sheet for fertiliser:"}, false},
 }};
 // clang-format on
 
