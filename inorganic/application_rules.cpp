@@ -4,8 +4,13 @@
 
 namespace kel {
 
-float total_n_kg_per_ha(float amount_kg_per_ha, float n_content_percent) {
-    return round_half_even(amount_kg_per_ha * n_content_percent / 100.0F, 1);
+float total_n_kg_per_ha(float amount_kg_per_ha, float n_content_percent, explanation* why) {
+    const float total = round_half_even(amount_kg_per_ha * n_content_percent / 100.0F, 1);
+    if (why)
+        why->step(shortest_text(amount_kg_per_ha) + " kg/ha x " + shortest_text(n_content_percent) +
+                  " / 100 = " + shortest_text(total) +
+                  " kg N/ha, rounded to 1 decimal, halves to the even digit.");
+    return total;
 }
 
 std::optional<std::string_view> content_after_content(std::string_view content) {

@@ -6,11 +6,12 @@
 #include <string_view>
 
 #include "core/dates.h"
+#include "core/explanation.h"
 
 namespace kel {
 
 /// kg N/ha of `amount` kg/ha of a fertiliser with `n_content` % N, to 1 decimal, ties to the even digit.
-float total_n_kg_per_ha(float amount_kg_per_ha, float n_content_percent);
+float total_n_kg_per_ha(float amount_kg_per_ha, float n_content_percent, explanation* why = nullptr);
 
 /// What the content box (%) is set to after a change of its own text, 0 to 100; nothing: it stays.
 std::optional<std::string_view> content_after_content(std::string_view content);

@@ -49,10 +49,13 @@ std::vector<std::string> set_fieldlist(const database& db) {
     return field_names(read_farm_fields(db));
 }
 
+std::string total_n_text(const text_grid& grid, int row, explanation* why) {
+    return shortest_text(total_n_kg_per_ha(grid.number(row, inorganic_column::amount),
+                                           grid.number(row, inorganic_column::content), why));
+}
+
 void recalculate(text_grid& grid, int row) {
-    const float total = total_n_kg_per_ha(grid.number(row, inorganic_column::amount),
-                                          grid.number(row, inorganic_column::content));
-    grid.set_cell(row, inorganic_column::total_n, shortest_text(total));
+    grid.set_cell(row, inorganic_column::total_n, total_n_text(grid, row));
 }
 
 void save(const database& db, const text_grid& grid) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/assessment_store.h"
+#include "core/explanation.h"
 #include "core/text_grid.h"
 
 namespace kel {
@@ -22,7 +23,10 @@ text_grid get_data(const database& db);
 /// The names of the farm's fields, in table order.
 std::vector<std::string> set_fieldlist(const database& db);
 
-/// Total N of the row, kg N/ha under a heading that says kg.
+/// Total N of the row from its amount and content, as its cell shows it: kg N/ha under a heading that says
+/// kg.
+std::string total_n_text(const text_grid& grid, int row, explanation* why = nullptr);
+/// Writes it.
 void recalculate(text_grid& grid, int row);
 
 /// Replaces the rows of [Inorganic N]. Call within a save_transaction.

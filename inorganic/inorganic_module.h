@@ -9,6 +9,7 @@
 #include "core/application_state.h"
 #include "core/dates.h"
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/grid_history.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
@@ -60,9 +61,15 @@ class inorganic_module {
     bool close();
     void report(report_desk& desk);
 
+    /// Why a row has its total, and whether its day is a closed one; nothing for what was entered. Throws
+    /// file_error.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+
   private:
     opening application_of(int row, int focus) const;
     bool in_year_assessed(date day) const;
+    explanation why_total(int row) const;
+    std::optional<explanation> why_closed(int row) const;
 
     application_state& state_;
     prompts& person_;

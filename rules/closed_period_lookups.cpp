@@ -1,5 +1,6 @@
 #include "rules/closed_period_lookups.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "core/numbers.h"
@@ -28,52 +29,79 @@ closed_answer answer_of(bool closed) {
     return closed ? closed_answer::closed : closed_answer::open;
 }
 
+constexpr std::string_view use_not_entered =
+    "The use of the field has not been entered in Step 2, so it is not known when it is closed.";
+
+// Months were closed as the use was entered, and stay so whatever has changed since.
+void tell_month(const land_use& use, int month, bool closed, explanation& why) {
+    const std::string name(month_name(month));
+    why.rule(name + " is " + (closed ? "" : "not ") +
+             "closed to slurry and manures on this field: so Step 2 settled it when the use of the field was "
+             "entered. The whole month counts, whatever the day.");
+    const auto pair = split_crop_pair(use.crop_pair);
+    if (!pair) return;
+    const auto months = closed_months(use.soil, pair->second, &why);
+    if ((std::ranges::find(months, month) != months.end()) != closed)
+        why.rule(
+            "Soil or crop have changed since; the month stays as it is until the use of the field is "
+            "entered again.");
+}
+
 }  // namespace
 
 land_use read_land_use(const recordset& row) {
-    land_use use{row.text("Crop"), {}};
+    land_use use{row.text("Crop"), {}, row.text("Soil")};
     for (int month = 1; month <= 12; ++month)
         use.closed_months.at(static_cast<std::size_t>(month - 1)) =
             row.text(month_name(month)) == closed_month;
     return use;
 }
 
-closed_answer closed_for_inorganic(const std::optional<land_use>& use, date day, int base_year,
-                                   std::string_view zone) {
-    const auto pair = split_crop_pair(use ? use->crop_pair : "");
-    if (!pair) return closed_answer::field_unknown;
-    return answer_of(closed_by_calendar(day, base_year, zone, pair->second));
+std::optional<land_use> read_land_use(const database& file, std::string_view field) {
+    const recordset rows = file.open("Land", "Field Area ID", field);
+    return rows.eof() ? std::nullopt : std::optional(read_land_use(rows));
 }
 
-closed_answer closed_for_manure(const std::optional<land_use>& use, date day) {
+closed_answer closed_for_inorganic(const std::optional<land_use>& use, date day, int base_year,
+                                   std::string_view zone, explanation* why) {
+    const auto pair = split_crop_pair(use ? use->crop_pair : "");
+    if (!pair && why) why->rule(std::string(use_not_entered));
+    if (!pair) return closed_answer::field_unknown;
+    return answer_of(closed_by_calendar(day, base_year, zone, pair->second, why));
+}
+
+closed_answer closed_for_manure(const std::optional<land_use>& use, date day, explanation* why) {
+    if (!use && why) why->rule(std::string(use_not_entered));
     if (!use) return closed_answer::field_unknown;
-    return answer_of(use->closed_months.at(static_cast<std::size_t>(month_of(day) - 1)));
+    const bool closed = use->closed_months.at(static_cast<std::size_t>(month_of(day) - 1));
+    if (why) tell_month(*use, month_of(day), closed, *why);
+    return answer_of(closed);
 }
 
 closed_answer closed_for_inorganic(const database& file, std::string_view field, date day,
-                                   const application_state& state) {
-    const auto pair = split_crop_pair(land_text(file, field, "Crop").value_or(""));
-    if (!pair || !state.kel_year_start) return closed_answer::field_unknown;
-    const auto base_year = base_year_of(file.path(), state);
-    if (!base_year) return closed_answer::open;
-    return answer_of(closed_by_calendar(day, *base_year, state.farm_zone, pair->second));
+                                   const application_state& state, explanation* why) {
+    const auto use = read_land_use(file, field);
+    if (!use || !split_crop_pair(use->crop_pair) || !state.kel_year_start)
+        return closed_for_inorganic(std::nullopt, day, 0, state.farm_zone, why);
+    if (const auto base_year = base_year_of(file.path(), state))
+        return closed_for_inorganic(use, day, *base_year, state.farm_zone, why);
+    if (why) why->rule("The assessment is neither this year's nor last year's, so every day counts as open.");
+    return closed_answer::open;
 }
 
 closed_answer closed_for_inorganic(const std::string& path, std::string_view field, date day,
-                                   const application_state& state) {
+                                   const application_state& state, explanation* why) {
     if (path.empty()) return closed_answer::field_unknown;
-    return closed_for_inorganic(database(path), field, day, state);
+    return closed_for_inorganic(database(path), field, day, state, why);
 }
 
-closed_answer closed_for_manure(const database& file, std::string_view field, date day) {
-    const auto cell = month_cell(file, field, month_of(day));
-    if (!cell) return closed_answer::field_unknown;
-    return answer_of(*cell == closed_month);
+closed_answer closed_for_manure(const database& file, std::string_view field, date day, explanation* why) {
+    return closed_for_manure(read_land_use(file, field), day, why);
 }
 
-closed_answer closed_for_manure(const std::string& path, std::string_view field, date day) {
+closed_answer closed_for_manure(const std::string& path, std::string_view field, date day, explanation* why) {
     if (path.empty()) return closed_answer::field_unknown;
-    return closed_for_manure(database(path), field, day);
+    return closed_for_manure(database(path), field, day, why);
 }
 
 std::string field_crop_pair(const database& file, std::string_view field) {

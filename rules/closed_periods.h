@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "core/dates.h"
+#include "core/explanation.h"
 
 namespace kel {
 
@@ -42,12 +43,14 @@ bool sensitive_soil(std::string_view soil);
 
 /// Months, 1 to 12, closed to slurries and manures by soil and stored second crop type. None on any other
 /// soil.
-std::span<const int> closed_months(std::string_view soil, std::string_view second_crop);
+std::span<const int> closed_months(std::string_view soil, std::string_view second_crop,
+                                   explanation* why = nullptr);
 
 /// Whether the day is closed to inorganic nitrogen: up to and including 15 February (20 February in the Moray
 /// zone) and from 1 September (15 September before grass) of the base year, the year in which the KEL year
 /// ends.
-bool closed_by_calendar(date day, int base_year, std::string_view zone, std::string_view second_crop);
+bool closed_by_calendar(date day, int base_year, std::string_view zone, std::string_view second_crop,
+                        explanation* why = nullptr);
 
 /// Whether a is on or after b, by year, then month, then day.
 bool date_on_or_after(date a, date b);

@@ -197,6 +197,7 @@ QWidget* program::make_location(screen_id /*id*/) {
 
 QWidget* program::connected(screen_id id, module_screen* module) {
     module->set_paste_port(modules_person_);
+    module->share_why_place(why_place_);
     connect(
         module, &module_screen::left, this, [this, id, module] { leave(id, module->closes_to()); },
         Qt::QueuedConnection);

@@ -19,6 +19,7 @@
 #include "shell/assessments_module.h"
 #include "shell/desktop.h"
 #include "shell/years_module.h"
+#include "ui/widgets/why_place.h"
 
 class QWidget;
 
@@ -115,6 +116,7 @@ class program : public QObject, public desktop, public report_viewer {
     profile_module profile_;
     assessments_module front_;
     years_module years_;
+    why_place why_place_;
     std::map<screen_id, standing> screens_;
     std::map<screen_id, QByteArray> sizes_;
     bool ended_ = false;

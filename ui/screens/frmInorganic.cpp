@@ -9,6 +9,7 @@
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -31,6 +32,7 @@ frmInorganic::frmInorganic(application_state& state, prompts& person, report_des
     add_commands(layout);
     add_entry_boxes();
     use_history(module_.history());
+    use_explanations(grid_, explained_by(module_));
     grid_->setFocus();
 }
 

@@ -1,5 +1,6 @@
 #include "ui/widgets/module_screen.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QClipboard>
@@ -20,6 +21,7 @@
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/paste_list.h"
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/why_side.h"
 
 namespace kel {
 
@@ -200,7 +202,8 @@ void module_screen::use_history(grid_history& history) {
     history_ = &history;
     auto* bar = new QMenuBar(this);
     bar->setObjectName("mnuModule");
-    fill_edit_menu(*bar->addMenu(tr("Edit")));
+    edit_menu_ = bar->addMenu(tr("Edit"));
+    fill_edit_menu(*edit_menu_);
     layout()->setMenuBar(bar);
     disable_meanwhile(bar);
 }
@@ -240,7 +243,31 @@ void module_screen::fill_edit_menu(QMenu& menu) {
     });
 }
 
+void module_screen::use_explanations(QWidget* tables, why_source source) {
+    why_ = new why_side(*this, tables, std::move(source));
+    auto* bar = qobject_cast<QMenuBar*>(layout()->menuBar());
+    if (!bar) {
+        bar = new QMenuBar(this);
+        bar->setObjectName("mnuModule");
+        layout()->setMenuBar(bar);
+    }
+    if (edit_menu_) {
+        edit_menu_->addSeparator();
+        edit_menu_->addAction(why_->action());
+    }
+    auto* button = new QPushButton(tr("Wh&y?"), bar);
+    button->setObjectName("cmdModule_why");
+    button->setToolTip(tr("Why the figure of the current cell is what it is (Ctrl+I)"));
+    connect(button, &QPushButton::clicked, why_->action(), &QAction::trigger);
+    bar->setCornerWidget(button);
+}
+
+void module_screen::share_why_place(why_place& place) {
+    if (why_) why_->share(place);
+}
+
 void module_screen::record_changes() {
+    if (why_) why_->refresh_soon();
     if (history_) history_->record();
 }
 

@@ -25,7 +25,10 @@ class grid_history;
 class grid_view;
 class paste_prompts;
 class text_grid;
+class why_side;
 struct box_row;
+struct why_place;
+struct why_source;
 
 class module_screen : public QWidget {
     Q_OBJECT
@@ -39,6 +42,8 @@ class module_screen : public QWidget {
     void reload_all();
     /// Between the module and the person, for pastes.
     void set_paste_port(paste_prompts& port) { paste_port_ = &port; }
+    /// How the panel "Why?" was left, on whatever screen.
+    void share_why_place(why_place& place);
     /// The screen to show when this one closes.
     virtual screen_id closes_to() const { return screen_id::front; }
     /// Asks the module's close question.
@@ -75,6 +80,9 @@ class module_screen : public QWidget {
     box_set* add_boxes(grid_view& grid, const click_operation& click, const std::vector<box_row>& rows);
     /// Gives the screen its Edit menu, which undoes by the module's history. Call it when the layout stands.
     void use_history(grid_history& history);
+    /// Gives the screen the panel "Why?" at the side of `tables`, a widget of its layout, and the button that
+    /// opens it. Call it last, when the layout, its tables and its Edit menu stand.
+    void use_explanations(QWidget* tables, why_source source);
     /// What a person did is done: whatever it changed in the tables is one step of undo.
     void record_changes();
     /// Keeps this control, too, disabled while a box is open.
@@ -99,6 +107,8 @@ class module_screen : public QWidget {
     std::vector<entry_box*> boxes_;
     std::vector<grid_view*> grids_;  // that take entries
     grid_history* history_ = nullptr;
+    QMenu* edit_menu_ = nullptr;  // with a history
+    why_side* why_ = nullptr;     // with explanations
     paste_prompts* paste_port_ = nullptr;
 };
 
