@@ -17,6 +17,18 @@ std::string on_field(const text_grid& table, int row) {
     return text;
 }
 
+std::string told_of(closed_answer answer) {
+    switch (answer) {
+        case closed_answer::closed:
+            return " is a closed day for inorganic nitrogen on this field.";
+        case closed_answer::open:
+            return " is an open day for inorganic nitrogen on this field.";
+        case closed_answer::field_unknown:
+            break;
+    }
+    return " cannot be judged: the field has not been assessed for closed periods.";
+}
+
 }  // namespace
 
 std::optional<explanation> inorganic_module::why(const text_grid& grid, std::size_t row,
@@ -49,10 +61,7 @@ std::optional<explanation> inorganic_module::why_closed(int row) const {
     explanation why("Closed period for inorganic nitrogen" + on_field(applications_, row));
     const closed_answer answer =
         closed_for_inorganic(state_.assess_file, applications_.cell(row, col::field), *day, state_, &why);
-    why.set_result(applications_.cell(row, col::day),
-                   answer == closed_answer::closed ? "is a closed day for inorganic nitrogen on this field"
-                   : answer == closed_answer::open ? "is an open day for inorganic nitrogen on this field"
-                                                   : "cannot be judged: the field has not been assessed");
+    why.set_follows(long_date_text(*day) + told_of(answer));
     return why;
 }
 

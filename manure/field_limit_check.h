@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/dates.h"
+#include "core/explanation.h"
 
 namespace kel {
 
@@ -31,5 +32,10 @@ std::optional<std::vector<float>> rolling_sums(std::span<const dated_rate> table
 /// single application switches the check off.
 std::set<std::string, std::less<>> fields_over_limit(std::span<const dated_rate> table,
                                                      const std::optional<std::vector<dated_rate>>& last_year);
+
+/// Whether the one field to which all of these apply is over the limit. Tells the twelve months of its
+/// highest sum, application by application.
+bool over_field_limit(std::span<const dated_rate> table,
+                      const std::optional<std::vector<dated_rate>>& last_year, explanation& why);
 
 }  // namespace kel

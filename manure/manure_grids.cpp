@@ -5,6 +5,7 @@
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
+#include "core/told_rows.h"
 #include "manure/manure_messages.h"
 
 namespace kel {
@@ -59,6 +60,12 @@ std::string one_decimal(float value) {
     return shortest_text(round_half_even(value, 1));
 }
 
+told_row told_application(const text_grid& table, int row, int column) {
+    return {table.cell(row, col::date) + ", " + table.cell(row, col::manure) + ": " +
+                table.cell(row, column) + " kg N/ha",
+            table.number(row, column)};
+}
+
 constexpr std::string_view stored_table = "Manure_applic";
 
 // A date outside the window is left empty, with the cells that depend on it.
@@ -85,28 +92,59 @@ text_grid empty_manure_results() {
     return text_grid(result_columns);
 }
 
+std::string application_name(const text_grid& table, int row) {
+    const std::string& manure = table.cell(row, col::manure);
+    std::string name = manure.empty() ? "an application" : manure;
+    if (!table.cell(row, col::field).empty()) name += " on " + table.cell(row, col::field);
+    if (const auto day = parse_date(table.cell(row, col::date))) name += ", " + long_date_text(*day);
+    return name;
+}
+
+std::string application_rate_text(const text_grid& table, int row, explanation* why) {
+    const auto rate = application_rate(table.number(row, col::amount), table.number(row, col::area), why);
+    return rate ? shortest_text(*rate) : "";
+}
+
+std::string total_n_text(const text_grid& table, int row, explanation* why) {
+    return default_text(total_n_rate(table.number(row, col::n_content), table.number(row, col::rate), why));
+}
+
+std::string total_n_of_analysis_text(const text_grid& table, int row, explanation* why) {
+    return default_text(total_n_rate_of_analysis(leading_number(table.cell(row, col::n_content)),
+                                                 leading_number(table.cell(row, col::rate)), why));
+}
+
+percentage_result percentage_of_row(const text_grid& table, int row, int working_code, explanation* why) {
+    return available_percentage({.month = table.cell(row, col::month),
+                                 .soil = table.cell(row, col::soil),
+                                 .manure = table.cell(row, col::manure),
+                                 .incorporation = table.cell(row, col::incorporation)},
+                                working_code, why);
+}
+
+std::string available_n_text(const text_grid& table, int row, explanation* why) {
+    return default_text(
+        available_n_rate(table.number(row, col::total_n), table.number(row, col::percentage), why));
+}
+
+std::string available_n_next_text(const text_grid& table, int row, explanation* why) {
+    return default_text(available_n_rate_next(table.number(row, col::total_n), why));
+}
+
 void write_application_rate(text_grid& table, int row) {
-    const auto rate = application_rate(table.number(row, col::amount), table.number(row, col::area));
-    table.set_cell(row, col::rate, rate ? shortest_text(*rate) : "");
+    table.set_cell(row, col::rate, application_rate_text(table, row));
 }
 
 void write_total_n(text_grid& table, int row) {
-    const float total = total_n_rate(table.number(row, col::n_content), table.number(row, col::rate));
-    table.set_cell(row, col::total_n, default_text(total));
+    table.set_cell(row, col::total_n, total_n_text(table, row));
 }
 
 void write_total_n_of_analysis(text_grid& table, int row) {
-    const double total = total_n_rate_of_analysis(leading_number(table.cell(row, col::n_content)),
-                                                  leading_number(table.cell(row, col::rate)));
-    table.set_cell(row, col::total_n, default_text(total));
+    table.set_cell(row, col::total_n, total_n_of_analysis_text(table, row));
 }
 
 percentage_outcome write_percentage(text_grid& table, int row, int& working_code) {
-    const auto result = available_percentage({.month = table.cell(row, col::month),
-                                              .soil = table.cell(row, col::soil),
-                                              .manure = table.cell(row, col::manure),
-                                              .incorporation = table.cell(row, col::incorporation)},
-                                             working_code);
+    const percentage_result result = percentage_of_row(table, row, working_code);
     working_code = result.working_code;
     if (result.outcome == percentage_outcome::found)
         table.set_cell(row, col::percentage, std::to_string(result.percentage));
@@ -114,10 +152,8 @@ percentage_outcome write_percentage(text_grid& table, int row, int& working_code
 }
 
 void write_rates(text_grid& table, int row) {
-    const float total = table.number(row, col::total_n);
-    table.set_cell(row, col::available,
-                   default_text(available_n_rate(total, table.number(row, col::percentage))));
-    table.set_cell(row, col::available_next, default_text(available_n_rate_next(total)));
+    table.set_cell(row, col::available, available_n_text(table, row));
+    table.set_cell(row, col::available_next, available_n_next_text(table, row));
 }
 
 text_grid load_applications(const database& db, const known_fields& fields, const date_window& window,
@@ -146,17 +182,21 @@ bool is_complete(const text_grid& table, int row) {
     return true;
 }
 
-std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table) {
+std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table,
+                                      explanation* why, int told_column) {
     std::unordered_map<std::string_view, nitrogen_sums> sums;
     for (const farm_field& field : fields)
         sums[field.name] = {};
+    std::vector<told_row> told;
     for (int row = 0; row < table.data_row_count(); ++row) {
         const auto found = sums.find(table.cell(row, col::field));
         if (found == sums.end()) continue;
         if (!is_complete(table, row)) return std::nullopt;
         found->second.current_crop += table.number(row, col::available);
         found->second.next_crop += table.number(row, col::available_next);
+        if (why) told.push_back(told_application(table, row, told_column));
     }
+    if (why) tell_rows(*why, told, "applications", "kg N/ha");
     text_grid results = empty_manure_results();
     for (const farm_field& field : fields) {
         const int row = results.add_row();
@@ -168,20 +208,43 @@ std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, con
     return results;
 }
 
-std::vector<dated_rate> dated_rates(const text_grid& table) {
+namespace {
+
+template <class Wanted>
+std::vector<dated_rate> rates_where(const text_grid& table, const Wanted& wanted) {
     std::vector<dated_rate> found;
-    for (int row = 0; row < table.data_row_count(); ++row)
+    for (int row = 0; row < table.data_row_count(); ++row) {
+        if (!wanted(table.cell(row, col::field))) continue;
         if (const auto day = parse_date(table.cell(row, col::date)))
             found.push_back({table.cell(row, col::field), *day, table.number(row, col::total_n)});
+    }
     return found;
 }
 
-std::vector<dated_rate> dated_rates(const database& db) {
+std::vector<dated_rate> rates_of(recordset rows) {
     std::vector<dated_rate> found;
-    for (recordset rows = db.open("Manure_applic"); !rows.eof(); rows.move_next())
+    for (; !rows.eof(); rows.move_next())
         found.push_back({rows.text("Field Area ID"), rows.date_value("Date").value_or(date{}),
                          leading_single(rows.text("Total N Applic Rate"))});
     return found;
+}
+
+}  // namespace
+
+std::vector<dated_rate> dated_rates(const text_grid& table) {
+    return rates_where(table, [](const std::string&) { return true; });
+}
+
+std::vector<dated_rate> dated_rates(const text_grid& table, std::string_view field) {
+    return rates_where(table, [&](const std::string& name) { return name == field; });
+}
+
+std::vector<dated_rate> dated_rates(const database& db) {
+    return rates_of(db.open(stored_table));
+}
+
+std::vector<dated_rate> dated_rates(const database& db, std::string_view field) {
+    return rates_of(db.open(stored_table, "Field Area ID", field));
 }
 
 }  // namespace kel

@@ -4,9 +4,11 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/assessment_store.h"
+#include "core/explanation.h"
 #include "core/farm_fields.h"
 #include "core/grid_rows.h"
 #include "core/prompts.h"
@@ -44,15 +46,28 @@ enum : int { field = 0, current_crop = 1, next_crop = 2, warnings = 3 };
 text_grid empty_manure_grid();
 text_grid empty_manure_results();
 
-// The calculations of a row, each from the cells as they stand.
-/// Amount over area, two decimals; emptied without an area.
-void write_application_rate(text_grid& table, int row);
+/// "Dairy slurry - low dry matter (2%) on Long Rig, 3 March 2025", as far as the row is filled.
+std::string application_name(const text_grid& table, int row);
+
+// The calculations of a row, each from the cells as they stand: what its cell is to show, and why.
+/// Amount over area, two decimals; empty without an area.
+std::string application_rate_text(const text_grid& table, int row, explanation* why = nullptr);
 /// kg N/ha from N content and application rate.
+std::string total_n_text(const text_grid& table, int row, explanation* why = nullptr);
+std::string total_n_of_analysis_text(const text_grid& table, int row, explanation* why = nullptr);
+/// Percentage available to the current crop, where one is found, after the working code of the row before.
+percentage_result percentage_of_row(const text_grid& table, int row, int working_code,
+                                    explanation* why = nullptr);
+/// kg N/ha available to the current and to the next crop.
+std::string available_n_text(const text_grid& table, int row, explanation* why = nullptr);
+std::string available_n_next_text(const text_grid& table, int row, explanation* why = nullptr);
+
+// The same, written into their cells.
+void write_application_rate(text_grid& table, int row);
 void write_total_n(text_grid& table, int row);
 void write_total_n_of_analysis(text_grid& table, int row);
-/// Percentage available to the current crop, where one is found. The row's manure becomes the working code.
+/// The row's manure becomes the working code.
 percentage_outcome write_percentage(text_grid& table, int row, int& working_code);
-/// kg N/ha available to the current and to the next crop.
 void write_rates(text_grid& table, int row);
 
 /// The days that the table takes, the first and the last included, and what is said of any other.
@@ -77,12 +92,17 @@ void save_applications(const database& db, const text_grid& table);
 bool is_complete(const text_grid& table, int row);
 
 /// One row per field of the profile with the sums of its applications in kg N/ha, one decimal, and "No" for
-/// warnings. Nothing if an application to one of the fields has an empty cell.
-std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table);
+/// warnings. Nothing if an application to one of the fields has an empty cell. What is told of a single field
+/// is the sum of `told_column`.
+std::optional<text_grid> sum_by_field(const std::vector<farm_field>& fields, const text_grid& table,
+                                      explanation* why = nullptr, int told_column = manure_column::available);
 
-/// The applications that name a day, with their total N, in row order.
+/// The applications that name a day, or those of them to one field, with their total N, in row order.
 std::vector<dated_rate> dated_rates(const text_grid& table);
-/// The applications of a file in stored order. Throws file_error for a date that is none.
+std::vector<dated_rate> dated_rates(const text_grid& table, std::string_view field);
+/// The applications of a file, or those to one field, in stored order. Throws file_error for a date that is
+/// none.
 std::vector<dated_rate> dated_rates(const database& db);
+std::vector<dated_rate> dated_rates(const database& db, std::string_view field);
 
 }  // namespace kel

@@ -11,6 +11,7 @@
 
 #include "core/application_state.h"
 #include "core/entry.h"
+#include "core/explanation.h"
 #include "core/grid_history.h"
 #include "core/module_save.h"
 #include "core/prompts.h"
@@ -74,6 +75,13 @@ class manure_module {
     /// Shows the report of the results; does nothing while the table is in view.
     void report(report_desk& desk);
 
+    /// Why a cell of the applications or of the results is what it is; of a date, whether its month is
+    /// closed. Nothing for what else was entered. Throws file_error.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+    /// The same of the field limit ("lblReductions_instruction") and of the closed periods
+    /// ("txtReductions_warnings") that the results tell of.
+    std::optional<explanation> why(std::string_view result) const;
+
   private:
     opening list_box(manure_box box, int row) const;
     opening number_box(manure_box box, int row) const;
@@ -91,6 +99,15 @@ class manure_module {
     std::optional<save_target> save_file();
     void mark_over_limit(const std::optional<std::vector<dated_rate>>& last_year);
     void fm_closed_rep(const std::vector<int>& closed_rows);
+    std::optional<explanation> why_cell(int row, int column) const;
+    std::optional<explanation> why_result(int row, int column) const;
+    explanation why_percentage(int row) const;
+    explanation why_total_n(int row) const;
+    explanation why_closed(int row) const;
+    explanation why_marked(int row) const;
+    explanation why_over_limit() const;
+    explanation why_closed_periods() const;
+    bool tell_limit(const std::string& field, explanation& why) const;
 
     application_state& state_;
     prompts& person_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "core/numbers.h"
 #include "rules/manure_catalogue.h"
@@ -121,40 +122,111 @@ bool in_table(int code) {
     return code >= 1 && code <= static_cast<int>(available_nitrogen.size());
 }
 
+std::string season_text(const month_row& months) {
+    return std::string(months.months.front()) + " to " + std::string(months.months.back());
+}
+
+std::string soil_text(const month_row& months, bool light) {
+    if (!months.soil_matters) return "any soil";
+    return light ? "light soils" : "other soils";
+}
+
+void tell_inputs(const application_texts& row, explanation& why) {
+    why.input("Manure", row.manure, "", "Step 3, Manure Type");
+    why.input("Worked in", row.incorporation, "", "Step 3, Incorporation Time");
+    why.input("Month", row.month, "", "Step 3, Date Applied");
+}
+
+void tell_soil(const month_row& months, std::string_view soil, bool light, explanation& why) {
+    if (!months.soil_matters) return why.rule("From " + season_text(months) + " the soil plays no part.");
+    why.input("Soil", soil, "", "farm profile, Soil");
+    why.rule("\"" + std::string(soil) + "\" counts as " + (light ? "a light soil." : "an other soil."));
+}
+
+void tell_row(int code, int own_code, const month_row& months, bool light, int percentage, explanation& why) {
+    if (code != own_code)
+        why.rule(
+            "This manure with this incorporation time has no line in the table, so the line of the "
+            "manure handled last counts.");
+    why.source("Table of available nitrogen, line \"" + name_of_code(code) + "\", " + season_text(months) +
+               ", " + soil_text(months, light) + ": " + std::to_string(percentage) +
+               " % of the total nitrogen.");
+}
+
+constexpr float next_crop_part = 10.0F;  // one part in so many
+
 }  // namespace
 
-percentage_result available_percentage(const application_texts& row, int working_code) {
+percentage_result available_percentage(const application_texts& row, int working_code, explanation* why) {
+    if (why) tell_inputs(row, *why);
     if (row.month.empty()) return {percentage_outcome::unchanged, 0, working_code};
     const month_row* months = group_of_month(row.month);
     if (!months) return {percentage_outcome::invalid_month, 0, working_code};
     const int code = resolve_code(row.manure, row.incorporation, working_code);
     const auto soil = find_soil(row.soil);
+    const bool light = soil && soil->light;
+    if (why) tell_soil(*months, row.soil, light, *why);
     if (months->soil_matters && !soil) return {percentage_outcome::invalid_soil, 0, code};
     if (!in_table(code)) return {percentage_outcome::unchanged, 0, code};
     const availability_row& found = available_nitrogen[static_cast<std::size_t>(code - 1)];
-    return {percentage_outcome::found, percentage_of(found, months->group, soil && soil->light), code};
+    const int percentage = percentage_of(found, months->group, light);
+    if (why)
+        tell_row(code, resolve_code(row.manure, row.incorporation, no_manure_code), *months, light,
+                 percentage, *why);
+    return {percentage_outcome::found, percentage, code};
 }
 
-std::optional<float> application_rate(float amount, float area_ha) {
+std::optional<float> application_rate(float amount, float area_ha, explanation* why) {
     if (area_ha == 0.0F) return std::nullopt;
-    return round_half_even(amount / area_ha, 2);
+    const float rate = round_half_even(amount / area_ha, 2);
+    if (why)
+        why->step(shortest_text(amount) + " / " + shortest_text(area_ha) + " ha = " + shortest_text(rate) +
+                  " per ha, rounded to 2 decimals, halves to the even digit.");
+    return rate;
 }
 
-float total_n_rate(float n_content, float rate) {
-    return n_content * rate;
+namespace {
+
+template <class Number>
+void tell_product(Number n_content, Number rate, Number total, std::string_view digits, explanation* why) {
+    if (why)
+        why->step(shortest_text(n_content) + " kg x " + shortest_text(rate) + " per ha = " +
+                  default_text(total) + " kg N/ha, kept to " + std::string(digits) + " figures.");
 }
 
-double total_n_rate_of_analysis(double n_content, double rate) {
-    return n_content * rate;
+}  // namespace
+
+float total_n_rate(float n_content, float rate, explanation* why) {
+    const float total = n_content * rate;
+    tell_product(n_content, rate, total, "7", why);
+    return total;
 }
 
-float available_n_rate(float total_n_kg_per_ha, float percentage) {
-    return total_n_kg_per_ha * percentage / 100.0F;
+double total_n_rate_of_analysis(double n_content, double rate, explanation* why) {
+    const double total = n_content * rate;
+    tell_product(n_content, rate, total, "15", why);
+    return total;
 }
 
-float available_n_rate_next(float total_n_kg_per_ha) {
+float available_n_rate(float total_n_kg_per_ha, float percentage, explanation* why) {
+    const float available = total_n_kg_per_ha * percentage / 100.0F;
+    if (why)
+        why->step(default_text(total_n_kg_per_ha) + " kg N/ha x " + shortest_text(percentage) +
+                  " % = " + default_text(available) + " kg N/ha, kept to 7 figures.");
+    return available;
+}
+
+float available_n_rate_next(float total_n_kg_per_ha, explanation* why) {
     // Divided, since 0.1 has no exact single: 7 kg leave 0.7, not 0.70000005.
-    return total_n_kg_per_ha / 10.0F;
+    const float left = total_n_kg_per_ha / next_crop_part;
+    if (why) {
+        why->step(default_text(total_n_kg_per_ha) + " kg N/ha / " + shortest_text(next_crop_part) + " = " +
+                  default_text(left) + " kg N/ha, kept to 7 figures.");
+        why->source("One part in " + shortest_text(next_crop_part) +
+                    " of the total nitrogen is left to the next crop, of every manure, in every month, on "
+                    "every soil.");
+    }
+    return left;
 }
 
 }  // namespace kel

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string_view>
 
+#include "core/explanation.h"
+
 namespace kel {
 
 /// What decides the percentage of one application, as texts of its row.
@@ -32,17 +34,18 @@ struct percentage_result {
 
 /// Percentage of total N available to the current crop. `working_code` is the code of the row handled before,
 /// which also counts for a row whose manure and incorporation name none.
-percentage_result available_percentage(const application_texts& row, int working_code);
+percentage_result available_percentage(const application_texts& row, int working_code,
+                                       explanation* why = nullptr);
 
 /// Amount (t or cubic m) over area (ha), two decimals, half to even; nothing without an area.
-std::optional<float> application_rate(float amount, float area_ha);
+std::optional<float> application_rate(float amount, float area_ha, explanation* why = nullptr);
 /// kg N/ha from N content (kg per t or cubic m) and application rate (t or cubic m per ha), unrounded.
-float total_n_rate(float n_content, float rate);
+float total_n_rate(float n_content, float rate, explanation* why = nullptr);
 /// The same for an N content typed in from an analysis, in double precision.
-double total_n_rate_of_analysis(double n_content, double rate);
+double total_n_rate_of_analysis(double n_content, double rate, explanation* why = nullptr);
 /// kg N/ha available to the current crop; an empty percentage counts as 0.
-float available_n_rate(float total_n_kg_per_ha, float percentage);
+float available_n_rate(float total_n_kg_per_ha, float percentage, explanation* why = nullptr);
 /// kg N/ha available to the next crop: a tenth of the total for every manure.
-float available_n_rate_next(float total_n_kg_per_ha);
+float available_n_rate_next(float total_n_kg_per_ha, explanation* why = nullptr);
 
 }  // namespace kel

@@ -103,13 +103,14 @@ std::string day_and_month(date day) {
     return std::to_string(day_of(day)) + ' ' + std::string(month_name(month_of(day)));
 }
 
-void tell_calendar(date day, date spring, date autumn, explanation& why) {
+void tell_calendar(date day, date spring, bool until_spring, date autumn, bool from_autumn,
+                   explanation& why) {
     why.rule("Inorganic nitrogen is closed by the calendar, whatever the soil: up to and including " +
              long_date_text(spring) + " in this zone, and from " + long_date_text(autumn) +
              " on before this second crop.");
-    if (day <= spring)
+    if (until_spring)
         why.step(long_date_text(day) + " is not after " + long_date_text(spring) + ": closed.");
-    else if (day >= autumn)
+    else if (from_autumn)
         why.step(long_date_text(day) + " is not before " + long_date_text(autumn) + ": closed.");
     else
         why.step(long_date_text(day) + " lies between the two: open.");
@@ -170,13 +171,15 @@ bool closed_by_calendar(date day, int base_year, std::string_view zone, std::str
                         explanation* why) {
     const date spring = last_closed_in_spring(base_year, zone);
     const date autumn = first_closed_in_autumn(base_year, second_crop);
+    const bool until_spring = date_on_or_after(spring, day);
+    const bool from_autumn = date_on_or_after(day, autumn);
     if (why) {
         why->input("Zone", zone, "", "farm profile, location");
         why->input("Second crop", shown_crop_type(second_crop).value_or(second_crop), "",
                    "Step 2, use of the field");
-        tell_calendar(day, spring, autumn, *why);
+        tell_calendar(day, spring, until_spring, autumn, from_autumn, *why);
     }
-    return date_on_or_after(spring, day) || date_on_or_after(day, autumn);
+    return until_spring || from_autumn;
 }
 
 bool date_on_or_after(date a, date b) {

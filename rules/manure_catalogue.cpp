@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 
 namespace kel {
 
@@ -86,6 +87,18 @@ int resolve_code(std::string_view manure, std::string_view incorporation, int wo
     if (incorporation == row->incorporation.early) return row->code_early;
     if (incorporation == row->incorporation.late) return row->code_late;
     return working_code;
+}
+
+std::string name_of_code(int manure_code) {
+    for (const manure_type& row : catalogue) {
+        if (row.code_early != manure_code && row.code_late != manure_code) continue;
+        const bool early = row.code_early == manure_code;
+        std::string time(early ? row.incorporation.early : row.incorporation.late);
+        if (row.incorporation == no_choice) time = surface_or_rapid_incorporation;
+        time.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(time.front())));
+        return std::string(row.name) + ", " + time;
+    }
+    return {};
 }
 
 std::optional<std::string_view> default_n_content(int manure_code) {

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace kel {
@@ -46,6 +47,9 @@ std::optional<manure_type> find_manure(std::string_view name);
 /// Code, 1 to 43, of a manure with an incorporation time. An unknown manure, or a time that the manure does
 /// not offer, keeps `working_code`, the code of the row handled before.
 int resolve_code(std::string_view manure, std::string_view incorporation, int working_code);
+
+/// "Pig slurry - low dry matter (2%), within 6 hours"; empty for no code.
+std::string name_of_code(int manure_code);
 
 /// Default nitrogen content of the manure of a code (kg N per tonne or cubic metre), as text; nothing for no
 /// code.

@@ -53,7 +53,7 @@ TEST_F(WhyPanel, FollowsTheCellAndChangesNothing) {
     EXPECT_TRUE(panel()->isVisible());
     EXPECT_EQ(focus(), table);
     EXPECT_EQ(screen(tag)->width(), width_px);
-    expect_told("Nitrogen of <b>N & S</b> on Long Rig, 3 March 2025");  // a farm's text is no markup
+    expect_told("Nitrogen of <b>N & S</b> on Long Rig, 03 March 2025");  // a farm's text is no markup
     expect_told("33 kg/ha x 27 / 100 = 8.9 kg N/ha, rounded to 1 decimal");
     go_to(0, 2);
     expect_told("Entered here.");
@@ -115,12 +115,12 @@ TEST_F(WhyPanel, IsReadCopiedAndClosedByKeyboard) {
 TEST_F(WhyPanel, TellsWhichDaysAreClosedOnceTheUseIsKnown) {
     go_to(0, 1);
     press_key(Qt::Key_I, 1, Qt::ControlModifier);
-    expect_told("03/03/2025 cannot be judged");
+    expect_told("03 March 2025 cannot be judged");
     add_row(state.assess_file, "Land", {{"Field Area ID", "Long Rig"}, {"Crop", "Grass / Grass"}});
     go_to(0, 2);
     go_to(0, 1);
-    expect_told("3 March 2025 lies between the two: open.");
-    expect_told("03/03/2025 is an open day");
+    expect_told("03 March 2025 lies between the two: open.");
+    expect_told("03 March 2025 is an open day");
 }
 
 TEST_F(WhyPanel, StaysOpenOnTheNextScreen) {

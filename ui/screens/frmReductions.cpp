@@ -11,6 +11,7 @@
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -46,6 +47,8 @@ frmReductions::frmReductions(application_state& state, prompts& person, report_d
     layout->addWidget(views_, 1);
     add_entry_boxes();
     use_history(module_.history());
+    use_explanations(views_, explained_by(module_, {{"lblReductions_instruction", "250 kg field limit"},
+                                                    {"txtReductions_warnings", "Closed periods"}}));
     show_view();
 }
 
