@@ -255,7 +255,7 @@ void module_screen::use_explanations(QWidget* tables, why_source source) {
         edit_menu_->addSeparator();
         edit_menu_->addAction(why_->action());
     }
-    auto* button = new QPushButton(tr("Wh&y?"), bar);
+    auto* button = new QPushButton(tr("Why?"), bar);
     button->setObjectName("cmdModule_why");
     button->setToolTip(tr("Why the figure of the current cell is what it is (Ctrl+I)"));
     connect(button, &QPushButton::clicked, why_->action(), &QAction::trigger);

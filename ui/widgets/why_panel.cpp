@@ -23,12 +23,13 @@ namespace {
 
 constexpr int fewest_characters = 26;
 
-std::string text_of(const QWidget* control) {
+// Nothing for a control that shows no text, as a bar of a chart.
+std::optional<std::string> text_of(const QWidget* control) {
     if (const auto* label = qobject_cast<const QLabel*>(control)) return from_qt(label->text());
     if (const auto* line = qobject_cast<const QLineEdit*>(control)) return from_qt(line->text());
     if (const auto* passage = qobject_cast<const QPlainTextEdit*>(control))
         return from_qt(passage->toPlainText());
-    return {};
+    return std::nullopt;
 }
 
 std::string name_of_cell(const text_grid& grid, int row, int column) {
@@ -171,7 +172,7 @@ QString why_panel::page_of_cell() const {
 
 QString why_panel::page_of_result(const QString& name) const {
     const auto why = source_.result ? source_.result(from_qt(name)) : std::nullopt;
-    if (why) return why_page(*why, text_of(screen_.findChild<QWidget*>(name)));
+    if (why) return why_page(*why, text_of(screen_.findChild<QWidget*>(name)).value_or(why->result()));
     return why_page(from_qt(choice_->currentText()), tr("Nothing has been worked out here yet."));
 }
 

@@ -19,7 +19,7 @@ why_side::why_side(QWidget& screen, QWidget* tables, why_source source)
     : screen_(screen),
       tables_(tables),
       panel_(new why_panel(std::move(source), screen)),
-      action_(new QAction(tr("Wh&y?"), this)) {
+      action_(new QAction(tr("&Why?"), this)) {
     setObjectName("splWhy");
     setChildrenCollapsible(false);
     const std::unique_ptr<QLayoutItem> replaced(
