@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/explanation.h"
 #include "record/record_rows.h"
 
 namespace kel {
@@ -34,12 +35,19 @@ struct excess_nitrogen {
     std::string applied;
     std::string required;
 };
-/// Nothing without a requirement, too.
+/// Nothing without a requirement, too; then nothing is told.
 std::optional<excess_nitrogen> nitrogen_above_requirement(const std::vector<record_row>& rows,
-                                                          const std::optional<std::string>& required);
+                                                          const std::optional<std::string>& required,
+                                                          explanation* why = nullptr);
+
+/// Who is told why there is the warning at this place.
+struct warning_account {
+    explanation* why = nullptr;
+    std::size_t place = 0;
+};
 
 /// In the order in which they are shown.
 std::vector<record_warning> analysis(const field_record& record, const field_history& field,
-                                     const record_year& year);
+                                     const record_year& year, const warning_account& account = {});
 
 }  // namespace kel

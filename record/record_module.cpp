@@ -33,18 +33,18 @@ bool is_assessment(const std::string& path, const application_state& state) {
 }  // namespace
 
 record_module::record_module(application_state& state, prompts& person)
-    : state_(state), person_(person), shown_{{}, empty_record_grid(), empty_warnings_grid()} {}
+    : state_(state), person_(person), shown_{{}, empty_record_grid(), empty_warnings_grid(), {}} {}
 
 record_module::view record_module::view_of(const std::string& field, const field_history& history) const {
     const record_year year = record_year_of(state_);
     const field_record record = get_record(history, year);
-    return {field, record_grid(record.rows), warnings_grid(analysis(record, history, year))};
+    return {field, record_grid(record.rows), warnings_grid(analysis(record, history, year)), history};
 }
 
 void record_module::record_load_stuff() {
     std::vector<std::string> names = set_fieldlist(state_.assess_file);
     if (names.empty())
-        shown_ = {{}, empty_record_grid(), empty_warnings_grid()};
+        shown_ = {{}, empty_record_grid(), empty_warnings_grid(), {}};
     else
         select_field(std::find(names.begin(), names.end(), field()) == names.end() ? names.front() : field());
     field_names_ = std::move(names);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/explanation.h"
 #include "core/prompts.h"
 #include "core/text_grid.h"
 #include "record/field_history.h"
@@ -23,6 +24,10 @@ class record_module {
     const std::string& field() const { return shown_.field; }
     const text_grid& record() const { return shown_.record; }
     const text_grid& warnings() const { return shown_.warnings; }
+
+    /// Why a cell of the record, or a warning, is what it is; from what was read of the files for the field
+    /// shown.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
 
     /// Fills the list of fields and shows the one that was shown before, where it still exists, else the
     /// first. Throws file_error and leaves everything as it was when a file cannot be read.
@@ -43,7 +48,10 @@ class record_module {
         std::string field;
         text_grid record;
         text_grid warnings;
+        field_history history{};
     };
+    explanation why_record(std::size_t row, int column) const;
+    explanation why_warning(std::size_t row, int column) const;
     view view_of(const std::string& field, const field_history& history) const;
     page_lines all_sections();
 

@@ -66,16 +66,39 @@ crop_facts facts_of(const field_history& field, const record_year& year, bool no
     return facts;
 }
 
+std::string day_or_none(const bound& day) {
+    return day ? short_date_text(*day) : "";
+}
+
+void tell_bounds(const crop_facts& facts, explanation& why) {
+    constexpr std::string_view where = "Crops or grassland module";
+    why.input("Crop grown", facts.current_crop, "", where);
+    why.input("End of the crop or season before", day_or_none(facts.lower), "", where);
+    why.input("End of the crop or season", day_or_none(facts.upper), "", where);
+}
+
 // On the lower bound itself the crop is left open.
-void name_crop(record_row& row, const crop_facts& facts) {
+void name_crop(record_row& row, const crop_facts& facts, explanation* why = nullptr) {
     const bound day = row.day;
+    const auto tell = [&](std::string_view rule) {
+        if (why) why->rule(std::string(rule));
+    };
+    if (why) tell_bounds(facts, *why);
     if (day > facts.lower && day < facts.upper) {
         row.crop = facts.current_crop;
         row.date_planted = facts.sowing_day;
+        tell("Applied between the two, so it went to the crop grown.");
     } else if (day < facts.lower) {
         row.crop = facts.other_crop;
+        tell("Applied before the end of the crop before, so it went to that one.");
     } else if (day >= facts.upper) {
         row.crop = facts.next_crop;
+        tell(
+            "Applied on or after the end of the crop grown, or that is not known: it goes to the crop that "
+            "Step 2 "
+            "has behind it, if the field's use is entered there.");
+    } else {
+        tell("Applied on the day on which the crop before ended, so the crop is left open.");
     }
 }
 
@@ -153,9 +176,25 @@ last_year_facts last_year_facts_of(const field_history& field, const record_year
     return facts;
 }
 
+void name_last_years(record_row& row, const last_year_facts& facts, explanation* why = nullptr) {
+    row.crop = facts.crop;
+    row.last_year = true;
+    if (!why) return;
+    why->input("Crop grown", facts.crop, "", "Crops or grassland module");
+    why->input("End of the crop or season before", day_or_none(facts.harvest), "",
+               "Crops or grassland module");
+    why->rule("Last year's applications since that day were made for the crop that is grown this year.");
+}
+
+// Whether Step 2 still has to settle when the field is closed.
+bool is_not_assessed(const field_history& field) {
+    const auto& land = field.current.land;
+    return asks_for_closed_periods(field.current) && (!land || land->crop_pair.empty());
+}
+
 void get_record_previous(const field_history& field, const record_year& year, field_record& record) {
     const last_year_facts facts = last_year_facts_of(field, year);
-    const auto name = [&](record_row& row) { row.crop = facts.crop; };
+    const auto name = [&](record_row& row) { name_last_years(row, facts); };
     if (facts.with_manures) place_all(field.previous.manures, facts.harvest, name, record);
     place_all(field.previous.inorganics, facts.harvest, name, record);
 }
@@ -163,15 +202,23 @@ void get_record_previous(const field_history& field, const record_year& year, fi
 }  // namespace
 
 field_record get_record(const field_history& field, const record_year& year) {
-    const auto& land = field.current.land;
     field_record record;
-    record.not_assessed = asks_for_closed_periods(field.current) && (!land || land->crop_pair.empty());
+    record.not_assessed = is_not_assessed(field);
     const crop_facts facts = facts_of(field, year, record.not_assessed);
     const auto name = [&](record_row& row) { name_crop(row, facts); };
     place_all(field.current.manures, {}, name, record);
     place_all(field.current.inorganics, {}, name, record);
     get_record_previous(field, year, record);
     return record;
+}
+
+void name_crop(record_row& row, const field_history& field, const record_year& year, explanation* why) {
+    row.crop.clear();
+    row.date_planted.clear();
+    if (row.last_year)
+        name_last_years(row, last_year_facts_of(field, year), why);
+    else
+        name_crop(row, facts_of(field, year, is_not_assessed(field)), why);
 }
 
 }  // namespace kel

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/dates.h"
+#include "core/explanation.h"
 #include "record/field_history.h"
 
 namespace kel {
@@ -24,6 +25,7 @@ struct record_row {
     std::string rate;
     std::string manure_n;
     std::string comments;
+    bool last_year = false;  // of last year's file
 
     bool is_manure() const { return !manure.empty(); }
     bool operator==(const record_row&) const = default;
@@ -40,5 +42,8 @@ struct field_record {
 /// Of two rows of one day the one placed later comes first: this year's manures are placed before its
 /// inorganic nitrogen, both before last year's.
 field_record get_record(const field_history& field, const record_year& year);
+
+/// Names the crop of a row of the record once more and tells why it is that one.
+void name_crop(record_row& row, const field_history& field, const record_year& year, explanation* why);
 
 }  // namespace kel

@@ -9,6 +9,7 @@
 #include "rules/crop_lists.h"
 #include "rules/soils.h"
 #include "tests/grass/grass_fixture.h"
+#include "tests/support/compared_cells.h"
 #include "tests/support/dice.h"
 #include "tests/support/sample_chain.h"
 
@@ -16,26 +17,17 @@ namespace kel::test {
 
 namespace {
 
-texts words_of(const std::optional<explanation>& why) {
-    if (!why) return {"nothing is told"};
-    texts words{why->subject()};
-    for (const explanation_line& line : why->lines())
-        words.push_back(line.text);
-    words.push_back(why->last_line());
-    return words;
-}
-
 std::optional<explanation> why(const grass_module& module, const text_grid& grid, int row, int column) {
     return module.why(grid, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
 }
 
-struct compared_cells {
+struct cell_counts {
     int of_entries = 0;
     int calculated = 0;
 };
 
 /// Every cell of the columns that a person does not enter.
-void compare(const grass_module& module, const text_grid& grid, int rows, compared_cells& compared) {
+void compare(const grass_module& module, const text_grid& grid, int rows, cell_counts& compared) {
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < grid.column_count(); ++column) {
             const grid_column& described = grid.columns()[static_cast<std::size_t>(column)];
@@ -53,7 +45,7 @@ void compare(const grass_module& module, const text_grid& grid, int rows, compar
 }
 
 /// The site table with its results, the livestock, the stocking and the silage table.
-void walk(grass_module& module, compared_cells& compared) {
+void walk(grass_module& module, cell_counts& compared) {
     module.calculate();
     ASSERT_EQ(module.page(), grass_page::results);
     compare(module, module.site().table(), module.site().table().data_row_count(), compared);
@@ -114,7 +106,7 @@ class GrassWhySample : public sample_chain_test {
 };
 
 TEST_F(GrassWhySample, EveryCalculatedCellIsWhatItsAccountEndsWith) {
-    compared_cells compared;
+    cell_counts compared;
     int fields = 0;
     int stock = 0;
     for (std::size_t year = 0; year < files.size(); ++year) {
@@ -138,7 +130,7 @@ TEST_F(GrassWhySample, SiteClassAndRecommendationOfAFieldWordForWord) {
     const text_grid& site = module.site().table();
     const int row = site.find(site_column::field, "Den Brae");
     EXPECT_EQ(
-        words_of(why(module, site, row, site_column::site_class)),
+        told(why(module, site, row, site_column::site_class)),
         (texts{"Site class for Den Brae",
                "The site class, 1 (moist) to 5 (dry), follows from the summer rain, the soil and the "
                "altitude.",
@@ -151,7 +143,7 @@ TEST_F(GrassWhySample, SiteClassAndRecommendationOfAFieldWordForWord) {
                "rain: class 4 on low ground, class 5 on high ground",
                "4"}));
     const int steading = site.find(site_column::field, "Steading Park");
-    EXPECT_EQ(words_of(why(module, module.site().results(), steading, grass_result_column::to_be_applied)),
+    EXPECT_EQ(told(why(module, module.site().results(), steading, grass_result_column::to_be_applied)),
               (texts{"Nitrogen to be applied for Steading Park",
                      "The requirement with its adjustment, less what manures supply.",
                      "Requirement table of grassland: clover Low, site class 2, residue group 5: 195 kg "
@@ -164,14 +156,14 @@ TEST_F(GrassWhySample, SiteClassAndRecommendationOfAFieldWordForWord) {
                      "195 + 50 - 74.58 = 170.42 kg/ha",
                      "Rounded to 1 decimal, halves to the even digit: 170.4 kg/ha", "170.4 kg/ha"}));
     EXPECT_EQ(
-        words_of(why(module, site, steading, site_column::adjustment)),
+        told(why(module, site, steading, site_column::adjustment)),
         (texts{"Management adjustment for Steading Park", "Clover content: Low (site table, Clover Content)",
                "Crop use: Silage (asked after the clover content)",
                "Adjustment table of grassland: clover Low, Silage, cuts 3, applications 0: 50 kg N/ha. "
                "Requirements and adjustments are constructed from published figures for this program; they "
                "are not an official table.",
                "50 kg/ha"}));
-    EXPECT_EQ(words_of(module.why("Grass_rain")),
+    EXPECT_EQ(told(module.why("Grass_rain")),
               (texts{"Rain from April to September",
                      "The answer that this assessment has stands before the climate tables.",
                      "350 - 425 mm (14 - 17 in)"}));
@@ -185,13 +177,13 @@ TEST_F(GrassWhySample, StockingFiguresWordForWord) {
     const text_grid& silage = module.silage().table();
     const int grazed = silage.find(silage_column::field, "East Muir");
     const int cut = silage.find(silage_column::field, "Long Rig");
-    EXPECT_EQ(words_of(why(module, module.livestock().table(), 2, livestock_column::units)),
+    EXPECT_EQ(told(why(module, module.livestock().table(), 2, livestock_column::units)),
               (texts{"Livestock units of Other cattle 12-24 months (excl. intensive beef systems)",
                      "Number of animals: 62 (livestock table)",
                      "Part of the year on the farm: 50 % (livestock table)",
                      "Ratio: 0.65 LU per animal (from the stock type)",
                      "50 / 100 x 62 animals x 0.65 LU = 20.15 LU", "20.15 LU"}));
-    EXPECT_EQ(words_of(why(module, silage, grazed, silage_column::lus_fed_by_grazing)),
+    EXPECT_EQ(told(why(module, silage, grazed, silage_column::lus_fed_by_grazing)),
               (texts{"Livestock fed by grazing for East Muir",
                      "What grazes the field, in livestock units (LU): of each group its ratio, its number "
                      "and the part of the year that it is there.",
@@ -200,7 +192,7 @@ TEST_F(GrassWhySample, StockingFiguresWordForWord) {
                      "of the year / 100 = 1.95 LU",
                      "Together 37.95 LU, rounded to 2 decimals, halves away from 0: 37.95 LU", "37.95 LU"}));
     EXPECT_EQ(
-        words_of(why(module, silage, grazed, silage_column::n_kg_per_ha)),
+        told(why(module, silage, grazed, silage_column::n_kg_per_ha)),
         (texts{"Nitrogen for the stocking for East Muir",
                "What the grass needs to carry its stocking, along the line of its use and site class.",
                "Stocking density: 2.55 LU/ha (LUs/ha here)",
@@ -208,7 +200,7 @@ TEST_F(GrassWhySample, StockingFiguresWordForWord) {
                "286.27 x 2.55 - 490.59 = 239.3985 kg N/ha",
                "Rounded to whole kilograms, halves away from 0: 239 kg N/ha", "239 kg/ha"}));
     EXPECT_EQ(
-        words_of(why(module, silage, cut, silage_column::lus_fed_from_silage)),
+        told(why(module, silage, cut, silage_column::lus_fed_from_silage)),
         (texts{"Livestock fed from silage for Long Rig",
                "What the farm's grazing leaves of its livestock units (LU) is fed from silage, spread evenly "
                "over the silage fields.",
@@ -219,7 +211,7 @@ TEST_F(GrassWhySample, StockingFiguresWordForWord) {
                "No silage field with an area lacks a rate, so the rate worked with last stands: 3.76 LU/ha.",
                "Area: 16.3 ha (stocking table)",
                "16.3 ha x 3.76 LU/ha, rounded to 2 decimals, halves away from 0: 61.29 LU", "61.29 LU"}));
-    EXPECT_EQ(words_of(why(module, silage, cut, silage_column::notes)),
+    EXPECT_EQ(told(why(module, silage, cut, silage_column::notes)),
               (texts{"Number of cuts for Long Rig", "The cuts go by the nitrogen that the stocking needs.",
                      "Stocking density: 3.76 LU/ha (LUs/ha here)",
                      "Stocking lines, silage on site class 2: 214.88 x LU/ha - 488.43 kg N/ha, never below 0",
@@ -227,7 +219,7 @@ TEST_F(GrassWhySample, StockingFiguresWordForWord) {
                      "Cuts by requirement: 319.5188 kg N/ha is more than 300 kg N/ha: 3 cuts", "3 cuts"}));
     module.silage().make_alteration("Lade Haugh", "Long Rig");
     module.silage().make_alteration("Lade Haugh", "Long Rig");
-    const texts fed = words_of(why(module, silage, cut, silage_column::lus_fed_from_silage));
+    const texts fed = told(why(module, silage, cut, silage_column::lus_fed_from_silage));
     EXPECT_EQ(texts(fed.end() - 3, fed.end()),
               (texts{"The feed of the field was altered 2 times by 0.1 LU. The last time:",
                      "61.39 + 0.1 = 61.49 LU", "61.49 LU"}));
@@ -275,8 +267,8 @@ class GrassWhy : public grass_test {
 
 TEST_F(GrassWhy, RandomFarmsEndWithTheirCellsAlsoAfterAlterations) {
     constexpr int farms = 12;
-    compared_cells compared;
-    compared_cells altered;
+    cell_counts compared;
+    cell_counts altered;
     int altered_farms = 0;
     for (unsigned seed = 1; seed <= farms; ++seed) {
         dice roll(seed);
@@ -303,12 +295,12 @@ TEST_F(GrassWhy, WhatCannotBeWorkedOutSaysWhatIsMissing) {
     person.expect(grass_messages::no_area("Low Moss"));
     module.silage().fill();
     const text_grid& silage = module.silage().table();
-    EXPECT_EQ(words_of(why(module, silage, 0, silage_column::n_kg_per_ha)),
+    EXPECT_EQ(told(why(module, silage, 0, silage_column::n_kg_per_ha)),
               (texts{"Nitrogen for the stocking for Low Moss",
                      "What the grass needs to carry its stocking, along the line of its use and site class.",
                      "The field \"Low Moss\" has no stocking density, so nothing can be worked out from it.",
                      "The area of the field is missing."}));
-    EXPECT_EQ(words_of(why(module, site().table(), 1, site_column::adjustment)).back(),
+    EXPECT_EQ(told(why(module, site().table(), 1, site_column::adjustment)).back(),
               "The questions on clover, use, cuts and applications have not all been answered.");
     site().enter_clover(0, "High");
     EXPECT_NE(stale_note(*why(module, site().table(), 0, site_column::adjustment),
