@@ -146,15 +146,22 @@ outcome crop_module::enter_manures(int row, int column, const std::string& figur
     return box_closes();
 }
 
-outcome crop_module::transfer(int row, int column) {
+// The figure of the stored applications; nothing without both harvest dates. The bounds stay in `state`.
+std::optional<std::string> crop_module::stored_manures(application_state& state, int row, int column,
+                                                       explanation* why) const {
     const auto previous_harvest = date_in(row, crop_column::previous_harvest);
     const auto harvest = date_in(row, crop_column::harvest);
-    if (!previous_harvest || !harvest) return refuse(person_, text::cannot_transfer);
+    if (!previous_harvest || !harvest) return std::nullopt;
     const std::string& field = crops_.cell(row, crop_column::field);
     const float found = column == crop_column::manures
-                            ? n_for_this_crop(state_, field, previous_harvest, harvest)
-                            : n_from_previous_crop(state_, field, *previous_harvest, harvest);
-    return box_stays(0, {{0, shortest_text(round_shown_half_even(found, 2))}});
+                            ? n_for_this_crop(state, field, previous_harvest, harvest, why)
+                            : n_from_previous_crop(state, field, *previous_harvest, harvest, why);
+    return shortest_text(round_shown_half_even(found, 2));
+}
+
+outcome crop_module::transfer(int row, int column) {
+    const auto found = stored_manures(state_, row, column);
+    return found ? box_stays(0, {{0, *found}}) : refuse(person_, text::cannot_transfer);
 }
 
 outcome crop_module::open_manures(int /*row*/, int column) {

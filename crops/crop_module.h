@@ -102,6 +102,7 @@ class crop_module {
     void save_rec();
     explanation why_soil(int row) const;
     explanation why_residue_group(int row) const;
+    explanation why_manures(int row, int column) const;
     explanation why_result(int row, int column) const;
 
     // The steps and their questions.
@@ -109,6 +110,8 @@ class crop_module {
     opening planned_opening(int row);
     opening previous_opening(int row) const;
     opening manures_opening(int row, int column) const;
+    std::optional<std::string> stored_manures(application_state& state, int row, int column,
+                                              explanation* why = nullptr) const;
     outcome start_questions(int row, const std::string& name);
     outcome next_question() const;
     bool write_code(int row, std::string_view code);

@@ -78,6 +78,21 @@ explanation crop_module::why_residue_group(int row) const {
     return why;
 }
 
+// A person enters or transfers the figure; this tells what the stored applications come to.
+explanation crop_module::why_manures(int row, int column) const {
+    explanation why(of_field(column == crop_column::manures ? "Nitrogen from manures to this crop"
+                                                            : "Nitrogen from manures to the previous crop",
+                             crops_.cell(row, crop_column::field)));
+    application_state asked = state_;  // the look-ups leave their bounds in it
+    const auto found = stored_manures(asked, row, column, &why);
+    why.set_follows(
+        found ? "Entered here. \"Transfer data\" would enter what is stored, rounded to 2 decimals, "
+                "halves to the even digit: " +
+                    *found + " kg/ha"
+              : "Entered here. Without the harvest dates of both crops nothing can be transferred.");
+    return why;
+}
+
 // The rows before are worked out again, since a row may go on from their figures.
 explanation crop_module::why_result(int row, int column) const {
     const std::string& field = results_.cell(row, crop_result_column::field);
@@ -112,6 +127,8 @@ std::optional<explanation> crop_module::why(const text_grid& grid, std::size_t r
     if (&grid == &results_) return why_result(r, c);
     if (&grid == &crops_ && c == crop_column::soil) return why_soil(r);
     if (&grid == &crops_ && c == crop_column::residue_group) return why_residue_group(r);
+    if (&grid == &crops_ && (c == crop_column::manures || c == crop_column::previous_manures))
+        return why_manures(r, c);
     return std::nullopt;
 }
 

@@ -140,14 +140,21 @@ outcome site_page::enter_manure(int row, int column, const std::string& entered)
     return box_closes();
 }
 
-outcome site_page::transfer_manure(int row, int column) {
+// The figure of the stored applications; nothing without an end of season. The bounds stay in `state`.
+std::optional<std::string> site_page::stored_manures(application_state& state, int row, int column,
+                                                     explanation* why) const {
     const auto season_end = parse_date(farm_.site.cell(row, col::season_end));
-    if (!season_end) return refuse(person_, text::season_end_unknown);
+    if (!season_end) return std::nullopt;
     const std::string& field = farm_.site.cell(row, col::field);
     const float n_kg_per_ha = column == col::manure_current
-                                  ? n_for_this_crop(state_, field, season_end, add_years(*season_end, 1))
-                                  : n_from_previous_season(state_, field, *season_end, std::nullopt);
-    return box_stays(0, {{0, default_text(round_shown_half_even(n_kg_per_ha, 2))}});
+                                  ? n_for_this_crop(state, field, season_end, add_years(*season_end, 1), why)
+                                  : n_from_previous_season(state, field, *season_end, std::nullopt, why);
+    return default_text(round_shown_half_even(n_kg_per_ha, 2));
+}
+
+outcome site_page::transfer_manure(int row, int column) {
+    const auto found = stored_manures(state_, row, column);
+    return found ? box_stays(0, {{0, *found}}) : refuse(person_, text::season_end_unknown);
 }
 
 outcome site_page::open_manures(int /*row*/, int column) {

@@ -81,6 +81,9 @@ class site_page {
     explanation why_residue_group(int row) const;
     explanation why_choice(int row, int column) const;
     explanation why_adjustment(int row) const;
+    explanation why_manures(int row, int column) const;
+    std::optional<std::string> stored_manures(application_state& state, int row, int column,
+                                              explanation* why = nullptr) const;
     opening manure_opening(int row, int column, site_box box, std::string_view instruction) const;
     opening previous_opening(int row) const;
     opening choice_opening(int row, int column, site_box box) const;

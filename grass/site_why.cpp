@@ -120,6 +120,21 @@ explanation site_page::why_adjustment(int row) const {
     return why;
 }
 
+// A person enters or transfers the figure; this tells what the stored applications come to.
+explanation site_page::why_manures(int row, int column) const {
+    explanation why(of_field(column == col::manure_current ? "Nitrogen from manures of this season"
+                                                           : "Nitrogen left of manures of the season before",
+                             farm_.site.cell(row, col::field)));
+    application_state asked = state_;  // the look-ups leave their bounds in it
+    const auto found = stored_manures(asked, row, column, &why);
+    why.set_follows(
+        found ? "Entered here. \"Transfer\" would enter what is stored, rounded to 2 decimals, halves to "
+                "the even digit: " +
+                    *found + " kg/ha"
+              : "Entered here. Without the end of the season nothing can be transferred.");
+    return why;
+}
+
 std::optional<explanation> site_page::why(int row, int column) const {
     switch (column) {
         case col::soil:
@@ -134,6 +149,9 @@ std::optional<explanation> site_page::why(int row, int column) const {
             return why_choice(row, column);
         case col::adjustment:
             return why_adjustment(row);
+        case col::manure_current:
+        case col::manure_previous:
+            return why_manures(row, column);
         default:
             return std::nullopt;
     }

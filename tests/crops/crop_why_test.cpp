@@ -148,6 +148,15 @@ TEST_F(CropWhySample, TotalOfAWheatFieldTellsItsAdjustmentsWithTheirSigns) {
                      "The answer that was saved with the crops stands; the climate tables are not asked.",
                      "Less than 450 mm (18 inches)"}));
     EXPECT_FALSE(module.why(module.crops(), place, crop_column::planned_crop));
+    EXPECT_EQ(told(module.why(module.crops(), place, crop_column::previous_manures)),
+              (texts{"Nitrogen from manures to the previous crop for Doocot Field",
+                     "Applications in Step 3, this year's and last year's, before 02/10/2024: what they "
+                     "leave for the next crop. Of two years ago, those after the season's start that last "
+                     "year's assessment has: what they supplied to their own crop.",
+                     "26/03/2024, Dairy slurry - medium dry matter (6%): 9.012 kg N/ha",
+                     "15/11/2023, Layer manure stored uncovered: 19.628 kg N/ha", "Together 28.64 kg N/ha",
+                     "Entered here. \"Transfer data\" would enter what is stored, rounded to 2 decimals, "
+                     "halves to the even digit: 28.64 kg/ha"}));
     EXPECT_FALSE(module.why("anything else"));
 }
 

@@ -32,8 +32,8 @@ void compare(const grass_module& module, const text_grid& grid, int rows, cell_c
         for (int column = 0; column < grid.column_count(); ++column) {
             const grid_column& described = grid.columns()[static_cast<std::size_t>(column)];
             const auto told = why(module, grid, row, column);
-            EXPECT_EQ(told.has_value(), described.kind == column_kind::calculated) << described.heading;
-            if (!told) continue;
+            EXPECT_TRUE(told || described.kind != column_kind::calculated) << described.heading;
+            if (!told || described.kind != column_kind::calculated) continue;
             ++(told->of_entry() ? compared.of_entries : compared.calculated);
             EXPECT_EQ(stale_note(*told, grid.cell(row, column)), "") << told->subject();
             if (!told->of_entry()) {
