@@ -50,7 +50,9 @@ row_values random_crop(dice& roll, const std::string& field, const std::string& 
     while (planned.empty())
         planned = roll.one_of(load_crop_catalogue()).planned_code;
     const std::string previous(roll.one_of(load_crop_catalogue()).previous_code);
-    const std::string code = previous.empty() ? "SB" : previous;
+    const bool in_tables = field != "Field 0";  // the first row goes on from the calculation before
+    if (!in_tables) planned = "SB (low N)";
+    const std::string code = !in_tables ? "PG" : previous.empty() ? "SB" : previous;
     return {{"Field Area ID", field},
             {"Soil Type", soil},
             {"Next Crop", planned},
