@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/prompts.h"
+#include "core/quoted_cell.h"
 #include "record/record_messages.h"
 
 namespace kel {
@@ -37,32 +38,15 @@ constexpr std::array<grid_column, 3> warnings_columns{{
 }};
 // clang-format on
 
-std::string quoted(std::string_view text) {
-    std::string cell = "\"";
-    for (const char c : text) {
-        if (c == '"') cell += '"';
-        cell += c;
-    }
-    return cell + '"';
-}
-
-template <class cell_text>
-void add_line(std::string& table, int columns, char separator, const cell_text& cell) {
-    for (int column = 0; column < columns; ++column) {
-        if (column > 0) table += separator;
-        table += quoted(cell(column));
-    }
-    table += line_break;
-}
-
 // Headings and rows, one to a line.
 std::string table_text(const text_grid& grid, char separator) {
-    std::string table;
-    add_line(table, grid.column_count(), separator,
-             [&](int column) { return grid.columns()[static_cast<std::size_t>(column)].heading; });
+    std::vector<std::string_view> headings;
+    headings.reserve(grid.columns().size());
+    for (const grid_column& column : grid.columns())
+        headings.push_back(column.heading);
+    std::string table = separated_line(headings, separator);
     for (int row = 0; row < grid.row_count(); ++row)
-        add_line(table, grid.column_count(), separator,
-                 [&](int column) -> const std::string& { return grid.cell(row, column); });
+        table += separated_line(grid.row(row), separator);
     return table;
 }
 
@@ -110,7 +94,7 @@ text_grid warnings_grid(const std::vector<record_warning>& warnings) {
 
 std::string copied_text(const std::string& field, const text_grid& record, const text_grid& warnings) {
     const std::string ending(line_break);
-    std::string text = std::string(record_messages::heading) + '\t' + quoted(field) + ending + ending;
+    std::string text = std::string(record_messages::heading) + '\t' + quoted_cell(field) + ending + ending;
     text += table_text(record, '\t');
     if (warnings.row_count() > 0) text += ending + warnings_text(warnings);
     return text;
