@@ -30,13 +30,14 @@ opened_file open_to_read(const std::string& path) {
     return {std::move(file), opened};
 }
 
-// The part of a profile that tells whose file it is.
-loaded_profile read_identity(const database& file) {
+farm_identity read_identity(const database& file) {
+    farm_identity identity;
+    const recordset farm = file.open("FarmProfile");
+    if (!farm.eof()) identity.farm = farm.text("Name");
     loaded_profile profile;
-    const recordset row = file.open("FarmProfile");
-    if (!row.eof()) profile.farm_name = row.text("Name");
     read_year(file, profile);
-    return profile;
+    identity.year_start = profile.kel_year_start;
+    return identity;
 }
 
 // What keeps last year's file from being used, or only has to be said.
@@ -49,10 +50,10 @@ void open_last_year(const farm_paths& files, farm_year& year) {
     if (same_file(files.previous, files.current)) return tell(text::links_to_itself);
     try {
         opened_file last_year = open_to_read(files.previous);
-        const loaded_profile identity = read_identity(last_year.file);
-        if (!is_year_before(identity.kel_year_start, year.profile.kel_year_start))
+        const farm_identity identity = read_identity(last_year.file);
+        if (!is_year_before(identity.year_start, year.profile.kel_year_start))
             return tell(text::not_the_year_before);
-        if (identity.farm_name != year.profile.farm_name) tell(text::of_another_farm(identity.farm_name));
+        if (identity.farm != year.profile.farm_name) tell(text::of_another_farm(identity.farm));
         year.last_year = std::move(last_year);
     } catch (const file_error& failure) {
         tell(text::last_year_unreadable(failure.trouble()));
@@ -70,6 +71,10 @@ void check_year_before_last(const farm_paths& files, farm_year& year) {
 
 farm_paths linked_paths(const application_state& state) {
     return {state.assess_file, state.prev1_file, state.prev2_file};
+}
+
+farm_identity identity_of(const std::string& path) {
+    return read_identity(open_to_read(path).file);
 }
 
 const std::optional<monthly_values>& town_rain::of(const std::string& town) {

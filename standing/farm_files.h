@@ -27,6 +27,14 @@ struct farm_paths {
 /// Of the assessment worked on, by its stored links.
 farm_paths linked_paths(const application_state& state);
 
+/// Whose file it is and of which year; empty where it does not say.
+struct farm_identity {
+    std::string farm{};
+    std::optional<date> year_start{};
+};
+/// Throws file_error.
+farm_identity identity_of(const std::string& path);
+
 /// Mean rainfall by town from the climate tables, each town read once.
 class town_rain {
   public:
