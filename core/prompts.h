@@ -24,7 +24,7 @@ struct message {
 /// One file dialog; the file name box starts empty. A dialog that saves asks before it overwrites.
 struct file_request {
     std::string title;
-    std::string filter;  // "KEL database (*.kel)|*.kel"
+    std::string filter;  // "KEL database (*.kel)|*.kel"; empty: a folder is asked for
     std::string folder;  // where it opens
     bool operator==(const file_request&) const = default;
 };

@@ -17,6 +17,7 @@ enum class screen_id {
     straw,  // composting
     record,
     years,  // the years dialog
+    farms,  // of a folder
     about,
     viewer,
 };

@@ -170,6 +170,10 @@ void assessments_module::print_all_reports() {
     if (!reports.empty()) screens_.print_pages(reports);
 }
 
+void assessments_module::check_farms() {
+    screens_.open(screen_id::farms);
+}
+
 void assessments_module::show_page(std::string_view title, const viewer_request& request, screen_id back) {
     if (!is_there(request.page))
         return person_.tell(text::page_missing(title, file_name_of(request.page), folder_of(request.page)));

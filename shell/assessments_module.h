@@ -48,6 +48,7 @@ class assessments_module {
     void view_reports();
     /// All reports of the open assessment in one print.
     void print_all_reports();
+    void check_farms();
 
     void show_me();
     void guidelines();

@@ -15,6 +15,7 @@
 #include "ui/screens/Scotland.h"
 #include "ui/screens/Year_Picker.h"
 #include "ui/screens/frmCrops_new.h"
+#include "ui/screens/frmFarms.h"
 #include "ui/screens/frmGrass_new.h"
 #include "ui/screens/frmInorganic.h"
 #include "ui/screens/frmKEL_front.h"
@@ -54,7 +55,7 @@ struct program::screen_row {
 // Every screen of the program. A new one is a row here.
 std::span<const program::screen_row> program::screen_table() {
     // clang-format off
-    static constexpr std::array<screen_row, 14> table{{
+    static constexpr std::array<screen_row, 15> table{{
         // identity             text          years dialog              width height  made by
         {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
         {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
@@ -68,6 +69,7 @@ std::span<const program::screen_row> program::screen_table() {
         {screen_id::straw,      "straw",      picker_module::straw,      1100, 680,  &program::make_module<frmStraw>},
         {screen_id::record,     "record",     picker_module::record,     1220, 720,  &program::make_module<Field_Record>},
         {screen_id::years,      "years",      picker_module::front,         0,   0,  &program::make_years},
+        {screen_id::farms,      "farms",      picker_module::front,      1220, 640,  &program::make_farms},
         {screen_id::about,      "splash",     picker_module::front,         0,   0,  &program::make_about},
         {screen_id::viewer,     "viewer",     picker_module::front,      1040, 740,  &program::make_viewer},
     }};
@@ -91,12 +93,16 @@ void program::start(const std::string& assessment) {
     made(screen_id::front);
     front_.start_up();
     show_screen(screen_id::front);
-    if (assessment.empty()) return;
+    if (!assessment.empty()) open_assessment(assessment);
+}
+
+void program::open_assessment(const std::string& path) {
     try {
-        if (!years_.open_from_desktop(assessment)) open(screen_id::years);
+        if (!years_.open_from_desktop(path)) open(screen_id::years);
     } catch (const file_error& failure) {
         person_.tell(stop_box(failure));
     }
+    follow_assessment();
     refresh_front();
 }
 
@@ -228,6 +234,15 @@ QWidget* program::make_years(screen_id /*id*/) {
         refresh_front();
     });
     return years;
+}
+
+QWidget* program::make_farms(screen_id /*id*/) {
+    auto* farms = new frmFarms(state_, person_, desk_.today);
+    connect(
+        farms, &frmFarms::closed, this, [this] { leave(screen_id::farms, std::nullopt); },
+        Qt::QueuedConnection);
+    connect(farms, &frmFarms::farm_wanted, this, &program::open_assessment);
+    return farms;
 }
 
 QWidget* program::make_about(screen_id /*id*/) {

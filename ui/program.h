@@ -84,12 +84,15 @@ class program : public QObject, public desktop, public report_viewer {
     QWidget* make_profile(screen_id id);
     QWidget* make_location(screen_id id);
     QWidget* make_years(screen_id id);
+    QWidget* make_farms(screen_id id);
     QWidget* make_about(screen_id id);
     QWidget* make_viewer(screen_id id);
     template <class Screen>
     QWidget* make_module(screen_id id);
     QWidget* connected(screen_id id, module_screen* module);
 
+    /// Goes the one way to another assessment, as a double click on its file does.
+    void open_assessment(const std::string& path);
     QWidget* made(screen_id id);
     void show_screen(screen_id id);
     /// Shows the screen `back`, if one is named, and does away with this one; its size is kept for the next

@@ -114,6 +114,11 @@ QString shown_folder(const std::string& folder) {
     return QFileInfo(qt(folder)).isDir() ? qt(folder) : QDir::homePath();
 }
 
+std::string path_chosen_in(QFileDialog& dialog) {
+    if (shown_over_active_window(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return from_qt(dialog.selectedFiles().front());
+}
+
 }  // namespace
 
 answer qt_prompts::ask(const message& box) {
@@ -140,14 +145,18 @@ void qt_prompts::show_list(const titled_list& list) {
 
 std::string qt_prompts::chosen_file(const file_request& request, bool save) {
     QFileDialog dialog(nullptr, qt(request.title), shown_folder(request.folder));
+    if (request.filter.empty()) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+        return path_chosen_in(dialog);
+    }
     // "KEL database (*.kel)|*.kel": what is shown, then the pattern.
     const QStringList filter = qt(request.filter).split('|');
     dialog.setNameFilters({filter.front(), "All files (*)"});
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (save) dialog.setDefaultSuffix(filter.back().section('.', -1));
-    if (shown_over_active_window(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    return from_qt(dialog.selectedFiles().front());
+    return path_chosen_in(dialog);
 }
 
 std::string qt_prompts::file_to_open(const file_request& request) {

@@ -46,13 +46,14 @@ constexpr const char* reports_tip =
 constexpr std::nullopt_t none = std::nullopt;
 
 // clang-format off
-constexpr std::array<command, 20> commands{{
+constexpr std::array<command, 21> commands{{
     // name        button caption                                          menu            menu entry                                    needs                 tool tip     action
     {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                none,                 nullptr,     run<&front::new_farm>},
     {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      screen_id::years,     open_tip,    run<&front::open_assessments>},
     {"edit",       "&Edit Farm Profile",                                   "&File",        "&Edit/View Farm Profile",                    none,                 nullptr,     run<&front::edit_profile>},
     {"save_as",    nullptr,                                                "&File",        "&Save Farm Assessment As...",                none,                 nullptr,     run<&front::save_as>},
     {"print_all",  nullptr,                                                "&File",        "&Print all reports...",                      none,                 nullptr,     run<&front::print_all_reports>},
+    {"farms",      nullptr,                                                "&File",        "&Check a folder of farms...",                screen_id::farms,     nullptr,     run<&front::check_farms>},
     {"exit",       "E&xit",                                                "&File",        "E&xit",                                      none,                 nullptr,     run<&front::exit>},
     {"land",       "Step &1. Land available for spreading?",               "&Assessments", "&Land available for spreading?",             screen_id::land,      nullptr,     run<&front::step1>},
     {"storage",    "Step &2. Enough slurry storage && closed periods?",    "&Assessments", "Enough &slurry storage && closed periods?",  screen_id::storage,   nullptr,     run<&front::step2>},
