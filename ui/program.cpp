@@ -241,7 +241,10 @@ QWidget* program::make_farms(screen_id /*id*/) {
     connect(
         farms, &frmFarms::closed, this, [this] { leave(screen_id::farms, std::nullopt); },
         Qt::QueuedConnection);
-    connect(farms, &frmFarms::farm_wanted, this, &program::open_assessment);
+    connect(farms, &frmFarms::farm_wanted, this, [this](const std::string& path) {
+        open_assessment(path);
+        if (!in_view(screen_id::years)) show_screen(screen_id::front);
+    });
     return farms;
 }
 

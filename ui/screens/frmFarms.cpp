@@ -45,7 +45,7 @@ frmFarms::frmFarms(application_state& state, prompts& person, std::function<date
     exit->setObjectName("cmdFarms_exit");
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
     row->addWidget(exit);
-    connect(grid_, &grid_view::cell_chosen, this, [this] { open_farm(); });
+    connect(grid_, &QAbstractItemView::doubleClicked, this, &frmFarms::open_farm);
     pieces_ = new QTimer(this);
     connect(pieces_, &QTimer::timeout, this, &frmFarms::go_on);
     refresh();
