@@ -8,6 +8,7 @@
 #include "inorganic/inorganic_module.h"
 #include "manure/manure_module.h"
 #include "tools/bench/bench_applications.h"
+#include "tools/bench/bench_farm.h"
 #include "tools/bench/groups.h"
 
 namespace kel::bench {
