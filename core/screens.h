@@ -16,8 +16,10 @@ enum class screen_id {
     grass,
     straw,  // composting
     record,
-    years,  // the years dialog
-    farms,  // of a folder
+    calendar,  // of the season
+    sheets,    // blank ones to fill in by hand
+    years,     // the years dialog
+    farms,     // of a folder
     about,
     viewer,
 };

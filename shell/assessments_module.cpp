@@ -155,6 +155,12 @@ void assessments_module::composting() {
 void assessments_module::field_record() {
     open_if_assessment(screen_id::record);
 }
+void assessments_module::season_calendar() {
+    open_if_assessment(screen_id::calendar);
+}
+void assessments_module::blank_sheets() {
+    open_if_assessment(screen_id::sheets);
+}
 
 // This screen stays open behind the viewer; it is the Step 1 screen that is hidden.
 void assessments_module::view_reports() {

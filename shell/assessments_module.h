@@ -44,6 +44,8 @@ class assessments_module {
     void grassland();
     void composting();
     void field_record();
+    void season_calendar();
+    void blank_sheets();
 
     void view_reports();
     /// All reports of the open assessment in one print.

@@ -3,6 +3,7 @@
 // at what was built.
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -21,6 +22,7 @@
 #include "ui/kel_application.h"
 #include "ui/program.h"
 #include "ui/screens/map_view.h"
+#include "ui/screens/season_view.h"
 #include "ui/today.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
@@ -82,6 +84,7 @@ class walk {
     void grassland();
     void composting();
     void field_record();
+    void overview();
     void reports();
     void help();
 
@@ -378,6 +381,26 @@ void walk::field_record() {
     drive::press(record, "cmdRecord_close");
 }
 
+void walk::overview() {
+    screen("front")->findChild<QAction*>("mnuFront_calendar")->trigger();
+    QWidget* calendar = screen("calendar");
+    auto* view = drive::control<season_view>(calendar, "calSeason");
+    view->go_to({9, make_date(15, 10, 2025)});
+    picture("calendar", "season_calendar");
+    drive::press(calendar, "cmdCalendar_table");
+    picture("calendar", "season_table");
+    drive::press(calendar, "cmdCalendar_report");
+    picture("viewer", "report_calendar");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(calendar, "cmdCalendar_close");
+    screen("front")->findChild<QAction*>("mnuFront_sheets")->trigger();
+    picture("sheets", "blank_sheets");
+    drive::press(screen("sheets"), "cmdSheets_manure");
+    picture("viewer", "sheet_manure");
+    drive::press(screen("viewer"), "Command1");
+    drive::press(screen("sheets"), "cmdSheets_close");
+}
+
 void walk::reports() {
     drive::press(screen("front"), "cmdFront_edit");
     drive::press(screen("profile"), "cmdReport");
@@ -415,6 +438,7 @@ void walk::all() {
     grassland();
     composting();
     field_record();
+    overview();
     reports();
     help();
 }

@@ -14,6 +14,7 @@
 #include "ui/screens/FullScreen.h"
 #include "ui/screens/Scotland.h"
 #include "ui/screens/Year_Picker.h"
+#include "ui/screens/frmCalendar.h"
 #include "ui/screens/frmCrops_new.h"
 #include "ui/screens/frmFarms.h"
 #include "ui/screens/frmGrass_new.h"
@@ -23,6 +24,7 @@
 #include "ui/screens/frmLand_new.h"
 #include "ui/screens/frmProfile.h"
 #include "ui/screens/frmReductions.h"
+#include "ui/screens/frmSheets.h"
 #include "ui/screens/frmStorage.h"
 #include "ui/screens/frmStraw.h"
 #include "ui/widgets/module_screen.h"
@@ -55,7 +57,7 @@ struct program::screen_row {
 // Every screen of the program. A new one is a row here.
 std::span<const program::screen_row> program::screen_table() {
     // clang-format off
-    static constexpr std::array<screen_row, 15> table{{
+    static constexpr std::array<screen_row, 17> table{{
         // identity             text          years dialog              width height  made by
         {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
         {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
@@ -68,6 +70,8 @@ std::span<const program::screen_row> program::screen_table() {
         {screen_id::grass,      "grass",      picker_module::grass,      1220, 720,  &program::make_module<frmGrass_new>},
         {screen_id::straw,      "straw",      picker_module::straw,      1100, 680,  &program::make_module<frmStraw>},
         {screen_id::record,     "record",     picker_module::record,     1220, 720,  &program::make_module<Field_Record>},
+        {screen_id::calendar,   "calendar",   picker_module::front,      1220, 720,  &program::make_module<frmCalendar>},
+        {screen_id::sheets,     "sheets",     picker_module::front,       560, 240,  &program::make_module<frmSheets>},
         {screen_id::years,      "years",      picker_module::front,         0,   0,  &program::make_years},
         {screen_id::farms,      "farms",      picker_module::front,      1220, 640,  &program::make_farms},
         {screen_id::about,      "splash",     picker_module::front,         0,   0,  &program::make_about},
@@ -138,6 +142,7 @@ program::rows_key program::rows_behind(screen_id id) const {
             if (!for_previous_year(state_.manure_caller)) break;
             return {state_.assessment, "last year: " + state_.prev1_file};
         case screen_id::record:
+        case screen_id::calendar:
             return {state_.assessment, state_.prev1_file};
         case screen_id::years:
             return {state_.assessment, state_.slot_current};

@@ -68,6 +68,8 @@ TEST_F(Hub, EveryCommandOpensItsOwnScreenAlsoFromTheMenu) {
         {"grassland", "grass", "", {}},
         {"composting", "straw", "", {}},
         {"record", "record", "", {}},
+        {"calendar", "calendar", "", {}},
+        {"sheets", "sheets", "", {}},
         {"show_me", "viewer", "KEL_showme_contents.htm", {}},
         {"whats_this", "viewer", "kel_software_intro.htm", {}},
         {"guidelines", "viewer", "kel_cont.htm", {}},

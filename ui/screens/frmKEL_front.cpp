@@ -46,7 +46,7 @@ constexpr const char* reports_tip =
 constexpr std::nullopt_t none = std::nullopt;
 
 // clang-format off
-constexpr std::array<command, 21> commands{{
+constexpr std::array<command, 23> commands{{
     // name        button caption                                          menu            menu entry                                    needs                 tool tip     action
     {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                none,                 nullptr,     run<&front::new_farm>},
     {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      screen_id::years,     open_tip,    run<&front::open_assessments>},
@@ -63,6 +63,8 @@ constexpr std::array<command, 21> commands{{
     {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    screen_id::grass,     nullptr,     run<&front::grassland>},
     {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", screen_id::straw,     nullptr,     run<&front::composting>},
     {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              screen_id::record,    nullptr,     run<&front::field_record>},
+    {"calendar",   nullptr,                                                "&Overview",    "&Season calendar",                           screen_id::calendar,  nullptr,     run<&front::season_calendar>},
+    {"sheets",     nullptr,                                                "&Overview",    "&Blank sheets...",                           screen_id::sheets,    nullptr,     run<&front::blank_sheets>},
     {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   none,                 nullptr,     run<&front::show_me>},
     {"guidelines", nullptr,                                                "&Help",        "KEL &guidelines",                            none,                 nullptr,     run<&front::guidelines>},
     {"update",     nullptr,                                                "&Help",        "Update facility",                            none,                 nullptr,     run<&front::update>},
