@@ -74,7 +74,8 @@ TEST_F(Farms, IsStoppedAndLeftInTheMiddle) {
     if (control("cmdFarms_stop")->isEnabled()) {
         press("farms", "cmdFarms_stop");
         EXPECT_LT(list()->model()->rowCount(), 203);
-        EXPECT_EQ(shown_text("farms", "lblFarms").find("Stopped"), shown_text("farms", "lblFarms").find('\n') + 1);
+        EXPECT_EQ(shown_text("farms", "lblFarms").find("Stopped"),
+                  shown_text("farms", "lblFarms").find('\n') + 1);
     }
     choose();
     press("farms", "cmdFarms_exit");
