@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <filesystem>
 
+#include "shell/years_messages.h"
 #include "standing/folder_messages.h"
 #include "tests/ui/screen_fixture.h"
 
@@ -49,6 +50,7 @@ TEST_F(Farms, ListsAFolderWorstFirstAndOpensTheFarmChosen) {
     EXPECT_EQ(cell(list(), 1, 1), "Farm a");
     EXPECT_NE(shown_text("farms", "lblFarms").find("3 files of 2 farms"), std::string::npos);
     list()->go_to(2, 0);
+    person.expect(years_messages::nothing_linked, answer::yes);
     press("farms", "cmdFarms_open");
     EXPECT_EQ(run->state().assess_file, path("farms/b.kel"));
     EXPECT_EQ(shown_text("front", "lblFront_farm"), "Farm b");

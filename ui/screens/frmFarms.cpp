@@ -62,6 +62,7 @@ QPushButton* frmFarms::add_command(QLayout* row, const QString& caption, const c
 
 void frmFarms::begin() {
     if (!module_.choose_folder()) return;
+    grid_->refresh();  // the list is empty now
     pieces_->start(0);
     refresh();
 }
