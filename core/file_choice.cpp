@@ -11,8 +11,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
-file_request assessment_request(const application_state& state, std::string_view title) {
-    return {std::string(title), std::string(assessment_filter), dialog_folder(state)};
+file_request assessment_request(std::string_view title, const std::string& folder) {
+    return {std::string(title), std::string(assessment_filter), folder};
+}
+
+bool holds_assessments(const std::string& folder) {
+    std::error_code trouble;
+    for (fs::directory_iterator entry(folder, trouble), end; !trouble && entry != end;
+         entry.increment(trouble))
+        if (entry->path().extension() == ".kel") return true;
+    return false;
+}
+
+// Farms may lie where new ones once went.
+std::string folder_to_open_from(const application_state& state) {
+    const std::string folder = dialog_folder(state);
+    const std::string old = state.places.old_user_files();
+    const bool only_old = state.last_dir.empty() && !holds_assessments(folder) && holds_assessments(old);
+    return only_old ? old : folder;
 }
 
 bool ends_with(std::string_view path, std::string_view extension) {
@@ -44,14 +60,14 @@ std::string with_extension(prompts& person, std::string_view title, std::string 
 }
 
 std::string choose_file_to_open(application_state& state, prompts& person, std::string_view title) {
-    std::string path = person.file_to_open(assessment_request(state, title));
+    std::string path = person.file_to_open(assessment_request(title, folder_to_open_from(state)));
     if (!path.empty()) state.last_dir = folder_of(path);
     return path;
 }
 
 std::string choose_file_to_save(application_state& state, prompts& person, std::string_view title) {
-    std::string path =
-        with_extension(person, title, person.file_to_save(assessment_request(state, title)), ".kel");
+    std::string path = with_extension(
+        person, title, person.file_to_save(assessment_request(title, dialog_folder(state))), ".kel");
     if (!path.empty()) state.last_dir = folder_of(path);
     return path;
 }

@@ -54,7 +54,16 @@ std::string installation::settings_store() const {
     return join_path(written_folder, "kelstore.ini");
 }
 std::string installation::user_files() const {
+    return farm_folder.empty() ? old_user_files() : farm_folder;
+}
+std::string installation::old_user_files() const {
     return join_path(written_folder, "User_files");
+}
+std::string installation::earlier_copies() const {
+    return join_path(written_folder, "Earlier copies");
+}
+std::string installation::recent_list() const {
+    return join_path(written_folder, "recent.txt");
 }
 std::string installation::graphics() const {
     return join_path(program_folder, "graphics");
@@ -63,7 +72,8 @@ std::string installation::report(std::string_view file_name) const {
     return join_path(written_folder, file_name);
 }
 
-installation locate_installation(const std::string& executable, const std::string& user_data_folder) {
+installation locate_installation(const std::string& executable, const std::string& user_data_folder,
+                                 const std::string& documents_folder) {
     const std::string beside = folder_of(executable);
     std::error_code ignored;
     installation places;
@@ -76,14 +86,18 @@ installation locate_installation(const std::string& executable, const std::strin
     }
     const bool portable = places.program_folder == beside && access(beside.c_str(), W_OK) == 0;
     places.written_folder = portable ? beside : user_data_folder;
+    if (!portable && !documents_folder.empty())
+        places.farm_folder = join_path(documents_folder, "KEL Calculator");
     return places;
 }
 
 void prepare_written_folder(const installation& places) {
     if (places.written_folder == places.program_folder) return;
     std::error_code trouble;
-    const bool first_time = !fs::exists(places.user_files(), trouble);
-    fs::create_directories(places.user_files(), trouble);
+    const bool first_time =
+        !fs::exists(places.user_files(), trouble) && !fs::exists(places.old_user_files(), trouble);
+    fs::create_directories(places.written_folder, trouble);
+    if (!trouble) fs::create_directories(places.user_files(), trouble);
     if (trouble) throw file_error(places.user_files(), trouble.message());
     copy_if_missing(join_path(places.program_folder, logo_file), places.report(logo_file));
     if (!first_time) return;

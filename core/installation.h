@@ -22,20 +22,27 @@ std::string join_path(std::string_view folder, std::string_view name);
 struct installation {
     std::string program_folder;  // dbases, graphics, help/viewlets: read only
     std::string install_root;    // scdb, help folders, Viewer: read only
-    std::string written_folder;  // settings store, reports, User_files
+    std::string written_folder;  // settings store, reports, earlier copies
+    std::string farm_folder;     // new assessments; empty: User_files of the written folder
 
     std::string blank_assessment() const;  // dbases/blank.mdb
     std::string grass_tables() const;      // dbases/wren_grass.mdb, from the written folder if it is there
     std::string climate_tables() const;    // scdb/scdb.mdb
     std::string settings_store() const;    // kelstore.ini
-    std::string user_files() const;        // User_files
-    std::string graphics() const;          // graphics
+    /// Where new assessments go, and where they went before an installed program put them under Documents.
+    std::string user_files() const;
+    std::string old_user_files() const;  // User_files
+    std::string earlier_copies() const;  // Earlier copies
+    std::string recent_list() const;     // recent.txt
+    std::string graphics() const;        // graphics
     std::string report(std::string_view file_name) const;
 };
 
 /// Finds the tree of the program at `executable`. A program folder with a dbases folder in it is a portable
-/// tree; without one, or when that folder cannot be written, written files go to `user_data_folder`.
-installation locate_installation(const std::string& executable, const std::string& user_data_folder);
+/// tree; without one, or when that folder cannot be written, written files go to `user_data_folder` and farms
+/// to a folder of the program's in `documents_folder`, if there is one.
+installation locate_installation(const std::string& executable, const std::string& user_data_folder,
+                                 const std::string& documents_folder = {});
 
 /// Makes the written folder ready: the reports' logo and, in a new user's folder, the sample farms. Throws
 /// file_error.

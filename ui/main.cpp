@@ -16,8 +16,10 @@ int main(int argc, char** argv) {
         const auto places = kel::locate_installation(
             kel::from_qt(QCoreApplication::applicationFilePath()),
             kel::from_qt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                         "/kel-calculator"));
+                         "/kel-calculator"),
+            kel::from_qt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
         kel::prepare_written_folder(places);
+        prompts.offer_folders({kel::qt(places.user_files()), kel::qt(places.old_user_files())});
         kel::program program(places, prompts, kel::today);
         QObject::connect(&program, &kel::program::ended, &application, &QCoreApplication::quit,
                          Qt::QueuedConnection);

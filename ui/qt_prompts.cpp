@@ -97,8 +97,13 @@ class list_dialog : public QDialog {
     }
 };
 
-// A window may go while a box over it waits for its answer, and would take the box, which lives on the stack,
-// along. So the box stands over the window and belongs to none.
+// A folder that is gone would leave its last part in the dialog as the name of a file.
+QString shown_folder(const std::string& folder) {
+    return QFileInfo(qt(folder)).isDir() ? qt(folder) : QDir::homePath();
+}
+
+}  // namespace
+
 int shown_over_active_window(QDialog& box) {
     box.setWindowModality(Qt::ApplicationModal);
     if (const QWidget* active = QApplication::activeWindow()) {
@@ -109,10 +114,7 @@ int shown_over_active_window(QDialog& box) {
     return box.exec();
 }
 
-// A folder that is gone would leave its last part in the dialog as the name of a file.
-QString shown_folder(const std::string& folder) {
-    return QFileInfo(qt(folder)).isDir() ? qt(folder) : QDir::homePath();
-}
+namespace {
 
 std::string path_chosen_in(QFileDialog& dialog) {
     if (shown_over_active_window(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
@@ -155,8 +157,15 @@ std::string qt_prompts::chosen_file(const file_request& request, bool save) {
     dialog.setNameFilters({filter.front(), "All files (*)"});
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (!offered_.isEmpty()) dialog.setSidebarUrls(dialog.sidebarUrls() + offered_);
     if (save) dialog.setDefaultSuffix(filter.back().section('.', -1));
     return path_chosen_in(dialog);
+}
+
+void qt_prompts::offer_folders(const QStringList& folders) {
+    offered_.clear();
+    for (const QString& folder : folders)
+        if (QFileInfo(folder).isDir()) offered_.append(QUrl::fromLocalFile(folder));
 }
 
 std::string qt_prompts::file_to_open(const file_request& request) {

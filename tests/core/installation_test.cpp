@@ -2,7 +2,9 @@
 
 #include <filesystem>
 
+#include "core/file_choice.h"
 #include "tests/support/farm_files.h"
+#include "tests/support/scripted_prompts.h"
 
 namespace kel::test {
 namespace {
@@ -40,6 +42,41 @@ TEST_F(Installation, AnInstalledTreeIsReadAndTheUsersFolderWritten) {
     fs::remove(path("user/User_files/Sample.kel"));
     prepare_written_folder(places);
     EXPECT_FALSE(fs::exists(path("user/User_files/Sample.kel"))) << "a sample once deleted stays away";
+}
+
+TEST_F(Installation, NewFarmsOfAnInstalledTreeLieUnderDocumentsAndOldOnesWhereTheyWere) {
+    fs::create_directories(path("usr/share/kel-calculator/kel_calc/User_files"));
+    write_file(path("usr/share/kel-calculator/kel_calc/User_files/Sample.kel"), "sample");
+    const installation places =
+        locate_installation(path("usr/bin/kel-calculator"), path("user"), path("docs"));
+    EXPECT_EQ(places.user_files(), path("docs/KEL Calculator"));
+    prepare_written_folder(places);
+    EXPECT_EQ(file_text(path("docs/KEL Calculator/Sample.kel")), "sample");
+    EXPECT_FALSE(fs::exists(places.old_user_files()));
+
+    // With farms in the old place, the dialogs begin there until there are some in the new one.
+    fs::remove_all(path("docs"));
+    fs::create_directories(places.old_user_files());
+    write_file(places.old_user_files() + "/farm.kel", "");
+    prepare_written_folder(places);
+    EXPECT_TRUE(fs::is_empty(places.user_files()));
+    scripted_prompts person;
+    state.places = places;
+    person.expect_file("Open", "");
+    choose_file_to_open(state, person, "Open");
+    EXPECT_EQ(person.last_folder(), places.old_user_files());
+    person.expect_file("Save", "");
+    choose_file_to_save(state, person, "Save");
+    EXPECT_EQ(person.last_folder(), places.user_files());
+    write_file(places.user_files() + "/farm.kel", "");
+    person.expect_file("Open", "");
+    choose_file_to_open(state, person, "Open");
+    EXPECT_EQ(person.last_folder(), places.user_files());
+
+    fs::create_directories(path("tree/kel_calc/dbases"));
+    EXPECT_EQ(
+        locate_installation(path("tree/kel_calc/kel-calculator"), path("user"), path("docs")).user_files(),
+        path("tree/kel_calc/User_files"));
 }
 
 }  // namespace
