@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/dates.h"
+#include "core/earlier_copies.h"
 #include "core/installation.h"
 #include "core/open_mark.h"
 #include "core/screens.h"
@@ -48,6 +49,7 @@ struct application_state {
     // screen loaded before belongs to the assessment before.
     int assessment = 0;
     std::shared_ptr<open_mark> mark = std::make_shared<open_mark>();  // on assess_file; copies share it
+    std::shared_ptr<earlier_copies> copies = std::make_shared<earlier_copies>();  // shared likewise
 
     // The linked chain, newest first, and which of them is worked on (0 none, 1 to 3).
     std::string slot_current;

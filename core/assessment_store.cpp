@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/earlier_copies.h"
 #include "core/file_stamp.h"
 #include "core/store_connection.h"
 #include "core/strangers_file.h"
@@ -69,6 +70,7 @@ database database::attach(const std::string& path) const {
         statement.bindNoCopy(1, path);
         statement.exec();
         check_layout(shared_->sqlite, schema, path);
+        shared_->attached_files.push_back(path);
     });
     return {shared_, std::move(schema), path};
 }
@@ -157,6 +159,11 @@ save_transaction::save_transaction(const database& db) : db_(db) {
         db.shared_->sqlite.exec("PRAGMA journal_mode = DELETE");
         db.shared_->begin();
     });
+}
+
+save_transaction::save_transaction(const database& db, earlier_copies& copies) : save_transaction(db) {
+    for (const std::string& file : db.shared_->files_of_persons(db.path()))
+        copies.keep_first_of_day(file);
 }
 
 save_transaction::~save_transaction() {

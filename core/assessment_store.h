@@ -15,6 +15,7 @@
 
 namespace kel {
 
+class earlier_copies;
 class recordset;
 class save_transaction;
 struct file_stamp;
@@ -125,6 +126,10 @@ class recordset {
 /// One save. What was written is undone unless commit was reached, also by a crash or a kill.
 class save_transaction {
   public:
+    /// Of a file that a person works on: the first one of a day leaves an earlier copy of each file of the
+    /// transaction. One that is still being made has none.
+    save_transaction(const database& db, earlier_copies& copies);
+    /// Of a file that nobody has worked on yet, or to hold its lock.
     explicit save_transaction(const database& db);
     ~save_transaction();
     save_transaction(const save_transaction&) = delete;

@@ -70,6 +70,11 @@ void fresh_file::let_go() {
     close(std::exchange(held_, -1));
 }
 
+void fresh_file::put_in_place(earlier_copies& copies) {
+    copies.keep(target_);
+    put_in_place();
+}
+
 void fresh_file::put_in_place() {
     std::error_code trouble;
     // A journal left behind by the file that goes would be rolled back into the one that comes.

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/assessment_store.h"
+#include "core/earlier_copies.h"
 
 namespace kel {
 
@@ -23,6 +24,8 @@ class fresh_file {
     database open() const { return {path_, target_}; }
     /// Puts the file, which must not be open, in its place. Throws file_error.
     void put_in_place();
+    /// The same with an earlier copy of what it replaces.
+    void put_in_place(earlier_copies& copies);
 
   private:
     void make(const std::string& from);

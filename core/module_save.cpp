@@ -17,14 +17,9 @@ std::optional<save_target> file_to_save(application_state& state, prompts& perso
     return save_target{chosen, state.places.blank_assessment()};
 }
 
-module_save::module_save(const std::string& path, prompts& person, loaded_rows& rows)
-    : person_(person), rows_(rows) {
-    begin(path);
-}
-
 module_save::module_save(application_state& state, prompts& person, loaded_rows& rows,
                          const save_target& target)
-    : target_(target), state_(&state), person_(person), rows_(rows) {
+    : target_(target), state_(state), person_(person), rows_(rows) {
     if (target.made_from.empty()) {
         begin(target.path);
     } else {
@@ -42,7 +37,7 @@ void module_save::begin(const std::string& path) {
 }
 
 void module_save::lock() {
-    transaction_.emplace(*db_);
+    transaction_.emplace(*db_, *state_.copies);
     at_start_ = db_->stamp();
 }
 
@@ -61,10 +56,10 @@ void module_save::commit() {
 
 void module_save::put_in_place() {
     db_.reset();
-    fresh_->put_in_place();
+    fresh_->put_in_place(*state_.copies);
     db_.emplace(target_.path);
-    state_->*target_.worked_on = target_.path;
-    mark_open_file(*state_, person_);
+    state_.*target_.worked_on = target_.path;
+    mark_open_file(state_, person_);
 }
 
 }  // namespace kel

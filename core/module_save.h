@@ -29,7 +29,6 @@ std::optional<save_target> file_to_save(application_state& state, prompts& perso
 /// there, and only then is it worked on. Throws file_error.
 class module_save {
   public:
-    module_save(const std::string& path, prompts& person, loaded_rows& rows);
     module_save(application_state& state, prompts& person, loaded_rows& rows, const save_target& target);
 
     /// False: the person keeps the rows that the file holds, and there is nothing to save into.
@@ -43,7 +42,7 @@ class module_save {
     void put_in_place();
 
     save_target target_;
-    application_state* state_ = nullptr;
+    application_state& state_;
     prompts& person_;
     loaded_rows& rows_;
     std::optional<fresh_file> fresh_;

@@ -52,8 +52,8 @@ bool open_mark::take() {
     return true;
 }
 
-std::string open_mark::holder() const {
-    std::ifstream mark(mark_beside(path_));
+std::string open_mark::holder_of(const std::string& path) {
+    std::ifstream mark(mark_beside(path));
     std::string process, program, computer;
     std::getline(mark, process);
     std::getline(mark, program);
@@ -66,7 +66,16 @@ std::optional<std::string> open_mark::move_to(const std::string& path) {
     if (!known) let_go();
     path_ = path;
     if (path.empty() || file_ >= 0 || take() || known) return std::nullopt;
-    return holder();
+    return holder_of(path);
+}
+
+std::optional<std::string> open_mark::held_elsewhere(const std::string& path) const {
+    if (path == path_ && file_ >= 0) return std::nullopt;
+    const int file = open(mark_beside(path).c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) return std::nullopt;
+    const bool held = flock(file, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    close(file);
+    return held ? std::optional(holder_of(path)) : std::nullopt;
 }
 
 void open_mark::let_go() {

@@ -21,9 +21,12 @@ class open_mark {
     /// is no trouble. Never throws.
     std::optional<std::string> move_to(const std::string& path);
 
+    /// The computer of another copy of the program that has this file open. Never throws.
+    std::optional<std::string> held_elsewhere(const std::string& path) const;
+
   private:
     bool take();
-    std::string holder() const;
+    static std::string holder_of(const std::string& path);
     void let_go();
 
     std::string path_;

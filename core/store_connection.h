@@ -135,8 +135,16 @@ struct database::connection {
         sqlite.exec(how);
     }
 
+    /// The first file, unless it is made beside its place, and those attached to it.
+    std::vector<std::string> files_of_persons(const std::string& named) const {
+        std::vector<std::string> files = attached_files;
+        if (main_file == named) files.insert(files.begin(), main_file);
+        return files;
+    }
+
     SQLite::Database sqlite;
     std::string main_file;
+    std::vector<std::string> attached_files;
     std::map<std::string, std::unique_ptr<SQLite::Statement>> prepared;
     int attached = 0;
     /// By schema and name. Only within a save, and only as long as nothing but whole rows was added to them.

@@ -140,7 +140,7 @@ void crop_module::save_rec() {
         found.push_back(
             {results_.cell(row, crop_result_column::field), results_.cell(row, crop_result_column::total)});
     const database db(state_.assess_file);
-    save_transaction transaction(db);
+    save_transaction transaction(db, *state_.copies);
     save_recommendations(db, found);
     transaction.commit();
 }

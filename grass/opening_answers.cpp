@@ -39,9 +39,9 @@ void add_stored(const database& db, std::string_view where, opening_answers& ans
 }
 
 // At most one row; it is made when the first answer is kept.
-void store(const std::string& file, std::string_view column, std::string_view answer) {
-    const database db(file);
-    save_transaction transaction(db);
+void store(const application_state& state, std::string_view column, std::string_view answer) {
+    const database db(state.assess_file);
+    save_transaction transaction(db, *state.copies);
     recordset row = db.open(table);
     if (row.eof())
         row.add_new();
@@ -70,11 +70,11 @@ opening_answers answers_in_advance(const database& assessment, const application
 }
 
 void store_rain(const application_state& state, int answer) {
-    store(state.assess_file, rain_column, rain_levels()[static_cast<std::size_t>(answer)].stored);
+    store(state, rain_column, rain_levels()[static_cast<std::size_t>(answer)].stored);
 }
 
 void store_altitude(const application_state& state, int answer) {
-    store(state.assess_file, altitude_column, altitude_levels()[static_cast<std::size_t>(answer)].stored);
+    store(state, altitude_column, altitude_levels()[static_cast<std::size_t>(answer)].stored);
 }
 
 }  // namespace kel

@@ -200,7 +200,7 @@ bool save_prof(const database& db, const farm_details& farm, const text_grid& fi
                const application_state& state) {
     std::vector<farm_file> files;
     if (any_field_known(fields)) files = open_files(db, state);
-    save_transaction save(db);
+    save_transaction save(db, *state.copies);
     const auto stored = stored_names(fields);
     delete_erased(fields, stored, files);
     write_farm(db, farm, state);

@@ -55,6 +55,7 @@ set_profile_result profile_module::set_profile() {
     }
     loaded_.remember(database(state_.assess_file));
     forget_carried_names();
+    saved_farm_ = farm_;
     history_.begin_anew();
     if (areas_changed) person_.tell(messages::areas_changed);
     return set_profile_result::saved;
@@ -69,7 +70,7 @@ bool profile_module::save_new_farm(const std::string& path) {
     chosen.slot_current = chosen.assess_file = path;
     fresh_file fresh(state_.places.blank_assessment(), path);
     const bool areas_changed = save_prof(fresh.open(), farm_, fields_, chosen);
-    fresh.put_in_place();
+    fresh.put_in_place(*state_.copies);
     write_store(chosen);
     state_ = chosen;
     mark_open_file(state_, person_);

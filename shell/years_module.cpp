@@ -67,6 +67,12 @@ void years_module::go_on_with(const application_state& chosen) {
     profile_.show_profile(std::move(fresh));
 }
 
+void years_module::content_changed() {
+    const application_state chosen = state_;
+    go_on_with(chosen);
+    ++state_.assessment;
+}
+
 void years_module::browse_current() {
     const std::string path = choose_file_to_open(state_, person_, text::open_title);
     if (!path.empty()) open_file(path);
@@ -228,7 +234,7 @@ application_state years_module::moved_chain(bool overwrite) const {
 }
 
 void years_module::write_new_year(const database& db) const {
-    save_transaction save(db);
+    save_transaction save(db, *state_.copies);
     write_assessment_year(db, new_date_);
     clear_year_data(db, year_of(new_date_) - year_of(*last_year_), year_data_mode::delete_rows);
     save.commit();
@@ -237,11 +243,12 @@ void years_module::write_new_year(const database& db) const {
 void years_module::make_new_year(bool overwrite) {
     // To write over a linked file means to go on with it as it is; nothing is copied into it.
     if (overwrite) {
+        state_.copies->keep(new_path_);
         write_new_year(database(new_path_));
     } else {
         fresh_file fresh(state_.slot_current, new_path_);
         write_new_year(fresh.open());
-        fresh.put_in_place();
+        fresh.put_in_place(*state_.copies);
     }
     if (same_file(new_path_, state_.assess_file)) ++state_.assessment;  // it has another content now
     // The profile screen may be open underneath: its Set Profile must not write the old year into the new

@@ -50,6 +50,8 @@ class years_module {
     /// of a chain without links, and the store is written whole. Nothing happens for the file worked on; the
     /// newest file of the chain is gone back to with its links.
     void open_file(const std::string& path);
+    /// A file worked on, or linked to, has become another one: everything is loaded anew. Throws file_error.
+    void content_changed();
     /// An assessment handed over by the desktop: as Browse and OK. Whether that is done with; if not, the
     /// person wants to link files first, and the dialog should be shown. Nothing is asked about the file
     /// that is worked on already.

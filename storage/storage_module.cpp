@@ -95,7 +95,7 @@ bool storage_module::storage_cont1() {
 
 bool storage_module::write_first_page() {
     const auto percent_full = get_previous_percent_full(state_);
-    module_save file(state_.assess_file, person_, water_rows_);
+    module_save file(state_, person_, water_rows_, {state_.assess_file, {}});
     if (!file) return false;
     text_grid stores = load_stores(file.db(), percent_full);
     write_store_in(file.db(), rain_mm_, water_.answers());

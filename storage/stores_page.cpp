@@ -104,7 +104,7 @@ bool stores_page::acceptable(const store_form& form) {
 // The file first: when it cannot be written, the table still shows what the file holds.
 bool stores_page::write(const text_grid& stores) {
     if (state_.assess_file.empty()) return true;
-    module_save file(state_.assess_file, person_, loaded_);
+    module_save file(state_, person_, loaded_, {state_.assess_file, {}});
     if (!file) return false;
     save_stores(file.db(), stores);
     file.commit();

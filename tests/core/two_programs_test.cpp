@@ -28,7 +28,7 @@ class ChangedRows : public farm_test {
     }
     /// One Save; whether it was gone through with.
     bool save(const std::string& soil) {
-        module_save saving(file, person, loaded);
+        module_save saving(state, person, loaded, {file, {}});
         if (!saving) return false;
         saving.db().update_rows("Land", {{"Soil", soil}}, "Field Area ID", "Low");
         saving.commit();
@@ -81,7 +81,7 @@ bool is_locked_for_others(const std::string& file) {
 
 TEST_F(ChangedRows, CannotBeChangedByAnotherProgramWhileASaveIsUnderWay) {
     EXPECT_FALSE(is_locked_for_others(file));
-    const module_save saving(file, person, loaded);
+    const module_save saving(state, person, loaded, {file, {}});
     EXPECT_TRUE(is_locked_for_others(file));
 }
 
@@ -97,7 +97,7 @@ TEST_F(ChangedRows, OfOthersAreNoReasonToAsk) {
 
 TEST_F(ChangedRows, AreNotRememberedFromASaveThatFailed) {
     {
-        module_save saving(file, person, loaded);
+        module_save saving(state, person, loaded, {file, {}});
         saving.db().update_rows("Land", {{"Soil", "never reached"}}, "Field Area ID", "Low");
     }
     EXPECT_TRUE(save("mine"));
@@ -106,7 +106,7 @@ TEST_F(ChangedRows, AreNotRememberedFromASaveThatFailed) {
 // What stood in the file when the person agreed is what the next Save compares with.
 TEST_F(ChangedRows, AreAskedAboutAlsoBehindASaveThatHadNothingToWrite) {
     const auto save_nothing = [this] {
-        module_save saving(file, person, loaded);
+        module_save saving(state, person, loaded, {file, {}});
         if (saving) saving.commit();
     };
     save_nothing();
