@@ -147,8 +147,10 @@ bool composting_module::save() {
     return true;
 }
 
-void composting_module::close_panel() {
-    if (save()) leave_panel();
+bool composting_module::close_panel() {
+    if (!save()) return false;
+    leave_panel();
+    return true;
 }
 
 void composting_module::leave_panel() {

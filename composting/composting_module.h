@@ -64,8 +64,8 @@ class composting_module {
     /// or the person keeps what another program wrote there. Throws file_error; the file then holds its old
     /// rows.
     bool save();
-    /// Saves and closes the panel; it stays open when nothing was saved.
-    void close_panel();
+    /// Saves and closes the panel; it stays open when nothing was saved. Whether it was.
+    bool close_panel();
 
     /// Why a quantity or a release of the recorded calculations is what it is; nothing for the other columns.
     std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;

@@ -27,9 +27,9 @@ struct grid_change {
     bool changed = true;  // the table is as it was after the change
 };
 
-class watched_grid : public watched_part {
+class watched_grid : public watched_table {
   public:
-    explicit watched_grid(text_grid& grid) : grid_(grid), known_(grid) {}
+    explicit watched_grid(text_grid& grid) : grid_(grid), known_(grid), saved_(grid) {}
 
     change difference() override {
         if (grid_ == known_) return {};
@@ -45,7 +45,14 @@ class watched_grid : public watched_part {
             known_.replace_rows(found.first, std::max(-more, 0), grid_.rows_from(found.first, found.count));
         return [this, found = std::move(found)]() mutable { swap(found); };
     }
-    void accept() override { known_ = grid_; }
+    void accept() override {
+        if (known_ == saved_) saved_ = grid_;
+        known_ = grid_;
+    }
+    void set_saved() override { saved_ = known_ = grid_; }
+    bool is_saved() const override { return grid_ == saved_; }
+    const text_grid& saved() const override { return saved_; }
+    void set_saved_as(text_grid saved) override { saved_ = std::move(saved); }
     const text_grid* table() const override { return &grid_; }
 
   private:
@@ -120,6 +127,7 @@ class watched_grid : public watched_part {
 
     text_grid& grid_;
     text_grid known_;
+    text_grid saved_;
 };
 
 }  // namespace
@@ -129,6 +137,12 @@ std::unique_ptr<watched_part> watch(text_grid& grid) {
 }
 
 void grid_history::begin_anew() {
+    forget_steps();
+    for (const auto& part : parts_)
+        part->set_saved();
+}
+
+void grid_history::forget_steps() {
     undone_from_.clear();
     redone_from_.clear();
     accept();
@@ -137,6 +151,15 @@ void grid_history::begin_anew() {
 void grid_history::accept() {
     for (const auto& part : parts_)
         part->accept();
+}
+
+bool grid_history::unsaved() const {
+    return !std::ranges::all_of(parts_, [](const auto& part) { return part->is_saved(); });
+}
+
+watched_table& grid_history::watched(const text_grid& table) const {
+    const auto is_it = [&](const auto& part) { return part->table() == &table; };
+    return static_cast<watched_table&>(**std::ranges::find_if(parts_, is_it));
 }
 
 grid_history::step grid_history::difference() {

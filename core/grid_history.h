@@ -22,13 +22,23 @@ class watched_part {
     /// What leads from the present to the state last known, which the present then becomes; nothing if
     /// nothing has changed.
     virtual change difference() = 0;
-    /// The present becomes the state known.
+    /// The present becomes the state known; what was saved then is still taken for saved.
     virtual void accept() = 0;
+    /// The present becomes the state known and the saved one.
+    virtual void set_saved() { accept(); }
+    /// False only for a table that is not as it was saved.
+    virtual bool is_saved() const { return true; }
     /// The table that the part is; null for a working value.
     virtual const text_grid* table() const { return nullptr; }
 };
 
 /// Watches a table.
+class watched_table : public watched_part {
+  public:
+    /// The table as it was loaded or last saved; for a page that saves some of the columns.
+    virtual const text_grid& saved() const = 0;
+    virtual void set_saved_as(text_grid saved) = 0;
+};
 std::unique_ptr<watched_part> watch(text_grid& grid);
 
 template <class Value>
@@ -68,10 +78,18 @@ class grid_history {
     /// Called after each undo and redo: works out anew what follows from the tables and is not watched.
     void on_restored(std::function<void()> restored) { restored_ = std::move(restored); }
 
-    /// Call it after each load and save: from here on nothing can be undone.
+    /// Call it after each load and save: from here on nothing can be undone, and nothing is unsaved.
     void begin_anew();
-    /// Takes the tables as they now are without a step, as after a change that is no person's.
+    /// From here on nothing can be undone; what is not saved stays so.
+    void forget_steps();
+    /// Takes the tables as they now are without a step, as after a change that is no person's: a table that
+    /// was saved before it still counts as saved.
     void accept();
+    /// Whether a table differs from what was loaded or last saved.
+    bool unsaved() const;
+    /// A watched table as it was loaded or last saved, and what it is after a save of some of its columns.
+    const text_grid& saved(const text_grid& table) const { return watched(table).saved(); }
+    void set_saved(const text_grid& table, text_grid saved) { watched(table).set_saved_as(std::move(saved)); }
     /// Makes one step of what has changed in the tables since the last one; false if nothing has. Working
     /// values alone make none.
     bool record();
@@ -92,6 +110,7 @@ class grid_history {
     };
     using step = std::vector<part_change>;
     step difference();
+    watched_table& watched(const text_grid& table) const;
     const text_grid* swap(std::deque<step>& from, std::deque<step>& to);
 
     std::vector<std::unique_ptr<watched_part>> parts_;

@@ -90,7 +90,7 @@ bool grass_module::confirm_altitude(std::optional<int> answer) {
     farm_.altitude_step = altitude_levels()[static_cast<std::size_t>(*answer)].altitude_step;
     page_ = grass_page::site;
     site_.set_site_classes();
-    history_.begin_anew();  // the answer that the classes follow from is stored
+    history_.forget_steps();  // the answer that the classes follow from is stored
     return true;
 }
 
@@ -107,7 +107,7 @@ void grass_module::back() {
             break;
         case grass_page::stock:
             page_ = grass_page::site;
-            history_.begin_anew();  // nothing is undone out of sight
+            history_.forget_steps();  // nothing is undone out of sight
             break;
         case grass_page::silage:
             silage_.finish_alterations();
@@ -131,11 +131,11 @@ void grass_module::calculate() {
 void grass_module::to_stock() {
     stocking_.fill();
     page_ = grass_page::stock;
-    history_.begin_anew();
+    history_.forget_steps();
 }
 
 void grass_module::turn_to(stock_tab tab) {
-    if (std::exchange(tab_, tab) != tab) history_.begin_anew();
+    if (std::exchange(tab_, tab) != tab) history_.forget_steps();
 }
 
 // The types and the units that the stocking of the fields goes by are the stored ones.
@@ -148,22 +148,24 @@ void grass_module::take_saved_livestock() {
             farm_.stock_types.push_back(type);
 }
 
-void grass_module::cmdLU_continue() {
-    if (!cmdLU_save()) return;
+bool grass_module::cmdLU_continue() {
+    if (!cmdLU_save()) return false;
     const text_grid& stocking = farm_.stocking;
-    if (farm_.livestock.data_row_count() == 0 || stocking.row_count() == 0) return;
+    if (farm_.livestock.data_row_count() == 0 || stocking.row_count() == 0) return true;
     const float area_ha = stocking.sum(stocking_column::area, stocking.row_count());
     if (area_ha > 0)
         person_.tell(text::average_stocking_rate(format_shown(farm_.total_lus / area_ha, 1)));
     else
         person_.tell(text::no_average_stocking_rate);
     tab_ = stock_tab::stocking;
+    return true;
 }
 
-void grass_module::cmdSU_continue() {
-    if (!cmdGrass_SU_save()) return;
+bool grass_module::cmdSU_continue() {
+    if (!cmdGrass_SU_save()) return false;
     page_ = grass_page::silage;
     silage_.fill();
+    return true;
 }
 
 bool grass_module::close() {

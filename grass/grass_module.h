@@ -81,10 +81,10 @@ class grass_module {
     bool cmdGrass_rec_save();
 
     /// Saves, tells the average stocking rate and turns to the stocking table; with no livestock or no fields
-    /// it only saves. Throws file_error.
-    void cmdLU_continue();
+    /// it only saves. False: nothing was saved. Throws file_error.
+    bool cmdLU_continue();
     /// Saves and turns to the recommendation of the stocking route. Throws file_error.
-    void cmdSU_continue();
+    bool cmdSU_continue();
 
     /// "Change Database", from the stocking table: what is asked, and what the answer leads to. Nothing
     /// reaches the file before a save.
@@ -102,6 +102,7 @@ class grass_module {
     std::optional<save_target> chosen_target();
     bool save(const std::optional<save_target>& target, const std::function<void(const database&)>& write);
     void take_saved_livestock();
+    void set_site_saved(bool (*own)(int column));
     void leave_results();
     void save_rec(const text_grid& results);
     void take_from(const database& other, bool replace);

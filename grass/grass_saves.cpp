@@ -26,12 +26,46 @@ bool grass_module::save(const std::optional<save_target>& target,
     if (!file) return false;
     write(file.db());
     file.commit();
-    history_.begin_anew();
+    history_.forget_steps();
     return true;
 }
 
+namespace {
+
+// Which columns of the table a page saves. What is not stored is nobody's.
+bool is_of_site_page(int column) {
+    return column <= site_column::area || column == site_column::stocked_field;
+}
+bool is_of_stocking_page(int column) {
+    return column >= site_column::area || column == site_column::soil || column == site_column::site_class ||
+           column == site_column::use;
+}
+
+// The table as it is saved once the columns of its own have been: the others are those of before.
+text_grid with_own_columns(const text_grid& before, const text_grid& now, bool (*own)(int column)) {
+    text_grid saved = now;
+    for (int row = 0; row < now.row_count(); ++row) {
+        const int stood = before.find(site_column::field, now.cell(row, site_column::field));
+        for (int c = 1; c < now.column_count(); ++c) {
+            if (own(c)) continue;
+            std::string text = stood < 0 ? std::string{} : before.cell(stood, c);
+            if (text != now.cell(row, c)) saved.set_cell(row, c, std::move(text));
+        }
+    }
+    return saved;
+}
+
+}  // namespace
+
+void grass_module::set_site_saved(bool (*own)(int column)) {
+    history_.set_saved(farm_.site, with_own_columns(history_.saved(farm_.site), farm_.site, own));
+}
+
 bool grass_module::cmdSite_save() {
-    return save(file_to_save(state_, person_), [this](const database& db) { save_site(db, farm_.site); });
+    const bool saved =
+        save(file_to_save(state_, person_), [this](const database& db) { save_site(db, farm_.site); });
+    if (saved) set_site_saved(is_of_site_page);
+    return saved;
 }
 
 bool grass_module::cmdLU_save() {
@@ -39,12 +73,18 @@ bool grass_module::cmdLU_save() {
         save_livestock(db, farm_.livestock);
         save_stocking(db, farm_.stocking);
     });
-    if (saved) take_saved_livestock();
-    return saved;
+    if (!saved) return false;
+    take_saved_livestock();
+    history_.set_saved(farm_.livestock, farm_.livestock);
+    set_site_saved(is_of_stocking_page);
+    return true;
 }
 
 bool grass_module::cmdGrass_SU_save() {
-    return save(chosen_target(), [this](const database& db) { save_stocking(db, farm_.stocking); });
+    const bool saved =
+        save(chosen_target(), [this](const database& db) { save_stocking(db, farm_.stocking); });
+    if (saved) set_site_saved(is_of_stocking_page);
+    return saved;
 }
 
 bool grass_module::cmdGrass_rec_save() {
@@ -52,7 +92,7 @@ bool grass_module::cmdGrass_rec_save() {
         save(chosen_target(), [this](const database& db) { save_silage_rates(db, silage_.plan()); });
     if (!saved) return false;
     silage_.keep_rates();
-    history_.begin_anew();
+    history_.forget_steps();
     return true;
 }
 
@@ -63,7 +103,7 @@ void grass_module::save_rec(const text_grid& results) {
         found.push_back({results.cell(row, grass_result_column::field),
                          results.cell(row, grass_result_column::to_be_applied)});
     const database db(state_.assess_file);
-    save_transaction transaction(db);
+    save_transaction transaction(db, *state_.copies);
     save_recommendations(db, found);
     transaction.commit();
 }

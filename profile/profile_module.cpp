@@ -56,7 +56,7 @@ loaded_profile profile_module::read_profile(const std::string& path) const {
 
 void profile_module::show_profile(loaded_profile fresh) {
     ++loads_;
-    farm_ = std::move(fresh.farm);
+    saved_farm_ = farm_ = std::move(fresh.farm);
     fields_ = std::move(fresh.fields);
     loaded_ = std::move(fresh.rows);
     history_.begin_anew();
@@ -74,7 +74,7 @@ void profile_module::ass_year() {
 
 void profile_module::new_farm() {
     ++loads_;
-    farm_ = {};
+    saved_farm_ = farm_ = {};
     fields_.clear();
     year_list_enabled_ = true;
     history_.begin_anew();

@@ -41,6 +41,8 @@ class profile_module {
     bool year_list_enabled() const { return year_list_enabled_; }
     /// Undo and redo of its tables since the last load or save.
     grid_history& history() { return history_; }
+    /// Whether fields or entries above them differ from what was loaded or last saved.
+    bool unsaved() const { return history_.unsaved() || farm_ != saved_farm_; }
 
     // What the person types above the grid.
     void set_name(std::string text) { farm_.name = std::move(text); }
@@ -102,6 +104,7 @@ class profile_module {
     prompts& person_;
     loaded_rows loaded_{loaded_profile{}.rows};
     farm_details farm_;
+    farm_details saved_farm_;
     text_grid fields_{field_columns};
     bool year_list_enabled_ = true;
     int loads_ = 0;

@@ -100,6 +100,49 @@ TEST(GridHistory, ALoadOrASaveEndsItAndAnEntryEndsWhatCouldBeRedone) {
     EXPECT_EQ(f.fields.row_count(), 1);
 }
 
+TEST(GridHistory, TablesAreUnsavedUntilASaveOrTheWayBackToIt) {
+    farm f;
+    EXPECT_FALSE(f.history.unsaved());
+    f.enter(0, 1, "5");
+    EXPECT_TRUE(f.history.unsaved());  // at once, not only when the step is recorded
+    f.history.record();
+    f.enter(0, 1, "6");
+    f.history.record();
+    f.history.undo();
+    EXPECT_TRUE(f.history.unsaved());
+    f.history.undo();
+    EXPECT_FALSE(f.history.unsaved());
+    f.history.redo();
+    f.history.begin_anew();
+    EXPECT_FALSE(f.history.unsaved());
+    // Typed and typed back is nothing to be saved; a working value is none either.
+    f.enter(0, 1, "7");
+    EXPECT_TRUE(f.history.unsaved());
+    f.enter(0, 1, "5");
+    f.working_code = 9;
+    EXPECT_FALSE(f.history.unsaved());
+}
+
+TEST(GridHistory, WhatIsNoPersonsDoingLeavesUnsavedAsItWas) {
+    farm f;
+    f.fields.set_cell(0, 2, "worked out anew");
+    f.history.accept();
+    EXPECT_FALSE(f.history.unsaved());
+    f.enter(1, 0, "Long Rig");
+    f.history.record();
+    f.fields.set_cell(0, 2, "and once more");
+    f.history.forget_steps();
+    EXPECT_TRUE(f.history.unsaved());
+    EXPECT_FALSE(f.history.can_undo());
+    // A page has saved one of the columns.
+    text_grid saved = f.history.saved(f.fields);
+    saved.set_cell(0, 2, "and once more");
+    f.history.set_saved(f.fields, saved);
+    EXPECT_TRUE(f.history.unsaved());
+    f.fields.set_cell(1, 0, "");
+    EXPECT_FALSE(f.history.unsaved());
+}
+
 TEST(GridHistory, WorkingValuesGoWithTheTablesAndMakeNoStepAlone) {
     farm f;
     f.working_code = 4;

@@ -129,6 +129,33 @@ TEST_F(GrassScreen, TheManureModuleComesBackToTheBoxThatOpenedIt) {
     EXPECT_EQ(cell(site, 0, 10), "12");
 }
 
+// The page in view saves its own columns; what another page has changed stays marked.
+TEST_F(GrassScreen, CtrlSSavesThePageInViewAndTheRestStaysMarked) {
+    start_farm();
+    answer_opening();
+    const auto marked = [this] { return screen("grass")->isWindowModified(); };
+    const auto ctrl_s = [this] { QTest::keyClick(screen("grass"), Qt::Key_S, Qt::ControlModifier); };
+    EXPECT_FALSE(marked()) << "the classes that follow from the answers";
+    drive::click_cell(table("MSFlexGridSite"), 0, 10);
+    drive::type(screen("grass"), "txtSite_manure", "12");
+    press("grass", "cmdSite_manure_enter");
+    press("grass", "cmdSite_stocking");
+    choose(table("MSFlexGridGrass_LU"), 0, 0, "LU_type", "Horses");
+    expect_save();
+    ctrl_s();
+    EXPECT_TRUE(marked()) << "the manure on the site page";
+    EXPECT_EQ(column_of(state.assess_file, "LU", "Stock Type"), texts{"Horses"});
+    drive::enter_number(screen("grass"), table("MSFlexGridGrass_LU"), 0, 1, "LU_number", "9");
+    press("grass", "cmdLU_back");
+    ctrl_s();
+    EXPECT_TRUE(marked()) << "the number of horses";
+    EXPECT_EQ(column_of(state.assess_file, "Site", "Manure current"), texts{"12"});
+    press("grass", "cmdSite_stocking");
+    expect_save();
+    ctrl_s();
+    EXPECT_FALSE(marked());
+}
+
 TEST_F(GrassScreen, TheStockingRouteForwardAndBack) {
     start_farm();
     answer_opening();

@@ -73,7 +73,7 @@ void frmCrops_new::add_commands(QBoxLayout* layout) {
         add_command(row, tr("&Back"), "cmdCrops_back", [this] { back(); }),
     };
     common_commands_ = {
-        add_command(row, tr("&Save"), "cmdCrops_save", [this] { module_.save(); }),
+        add_save(row, tr("&Save"), "cmdCrops_save", [this] { return module_.save(); }),
         add_command(row, tr("&Open Assessments"), "cmdCrops_open",
                     [this] {
                         state_.picker_caller = picker_module::crops;

@@ -71,6 +71,23 @@ QPushButton* frmGrass_new::add_step(QBoxLayout* row, const QString& caption, con
     return add_command(row, caption, name, [this, run = std::move(action)] { and_show_page(run); });
 }
 
+std::function<bool()> frmGrass_new::showing_page(std::function<bool()> save) {
+    return [this, run = std::move(save)] {
+        bool saved = false;
+        and_show_page([&] { saved = run(); });
+        return saved;
+    };
+}
+
+QPushButton* frmGrass_new::add_save_step(QBoxLayout* row, const QString& name, std::function<bool()> save) {
+    return add_save(row, tr("&Save"), name, showing_page(std::move(save)));
+}
+
+QPushButton* frmGrass_new::add_saving_step(QBoxLayout* row, const QString& name, std::function<bool()> save) {
+    return add_command(row, tr("C&ontinue"), name,
+                       [this, run = showing_page(std::move(save))] { run_save(run); });
+}
+
 // A step that failed may have turned the page, too.
 void frmGrass_new::and_show_page(const std::function<void()>& step) {
     try {

@@ -37,6 +37,10 @@ class frmGrass_new : public module_screen {
     /// A command after which the page that the module has turned to is shown.
     QPushButton* add_step(QBoxLayout* row, const QString& caption, const QString& name,
                           std::function<void()> action);
+    /// A command of the same kind that saves.
+    QPushButton* add_save_step(QBoxLayout* row, const QString& name, std::function<bool()> save);
+    /// Saves on the way to another page.
+    QPushButton* add_saving_step(QBoxLayout* row, const QString& name, std::function<bool()> save);
     void open_assessments();
     void report() { module_.report(desk_); }
     /// Shows the page that the module has turned to.
@@ -51,6 +55,7 @@ class frmGrass_new : public module_screen {
                                 const std::vector<std::string>& choices);
     void add_questions();
     void and_show_page(const std::function<void()>& step);
+    std::function<bool()> showing_page(std::function<bool()> save);
     void confirm_rain();
     void confirm_altitude();
     void focus_page();

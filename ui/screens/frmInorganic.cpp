@@ -38,7 +38,7 @@ frmInorganic::frmInorganic(application_state& state, prompts& person, report_des
 
 void frmInorganic::add_commands(QBoxLayout* layout) {
     auto* row = new QHBoxLayout;
-    add_command(row, tr("&Save the data below"), "cmdInorganic_save", [this] { module_.save(); });
+    add_save(row, tr("&Save the data below"), "cmdInorganic_save", [this] { return module_.save(); });
     add_command(row, tr("&Generate Report"), "cmdInorganic_report", [this] { module_.report(desk_); });
     add_command(row, tr("&Open Assessments"), "cmdInorganic_open", [this] {
         state_.picker_caller = picker_module::inorganic;

@@ -53,7 +53,7 @@ QWidget* frmLand_new::tab_page(const QString& instruction, grid_view* grid, cons
     auto* row = new QHBoxLayout;
     auto* first =
         add_command(row, tr("&Calculate"), QString("cmdLand_continue") + suffix, [this] { calculate(); });
-    add_command(row, tr("&Save"), QString("cmdLand_save") + suffix, [this] { save(); });
+    add_save(row, tr("&Save"), QString("cmdLand_save") + suffix, [this] { return save(); });
     add_command(row, tr("&Open Assessments"), QString("cmdLand_open") + suffix, [this] {
         state_.picker_caller = picker_module::land;
         emit years_wanted();
@@ -151,9 +151,10 @@ void frmLand_new::back() {
     (tabs_->currentIndex() == 0 ? land_ : animals_)->setFocus();
 }
 
-void frmLand_new::save() {
-    module_.save();
+bool frmLand_new::save() {
+    const bool saved = module_.save();
     refresh();
+    return saved;
 }
 
 void frmLand_new::print_result() {

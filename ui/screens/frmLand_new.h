@@ -30,7 +30,7 @@ class frmLand_new : public module_screen {
     void add_entry_boxes();
     void calculate();
     void back();
-    void save();
+    bool save();
     void print_result();
 
     land_module module_;

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "profile/profile_messages.h"
 #include "ui/widgets/box_set.h"
@@ -86,14 +87,21 @@ QWidget* frmProfile::farm_entries() {
     year_layout->addStretch();
     columns->addWidget(year_frame_, 2);
 
-    connect(name_, &QLineEdit::textChanged, this, [this](const QString& t) { module_.set_name(from_qt(t)); });
-    connect(area_, &QLineEdit::textChanged, this,
-            [this](const QString& t) { module_.set_total_area(from_qt(t)); });
-    connect(kel_area_, &QLineEdit::textChanged, this,
-            [this](const QString& t) { module_.set_kel_area(from_qt(t)); });
-    connect(year_, &QComboBox::currentTextChanged, this,
-            [this](const QString& t) { module_.set_year(from_qt(t)); });
+    take_text(name_, &profile_module::set_name);
+    take_text(area_, &profile_module::set_total_area);
+    take_text(kel_area_, &profile_module::set_kel_area);
+    connect(year_, &QComboBox::currentTextChanged, this, [this](const QString& t) {
+        module_.set_year(from_qt(t));
+        mark_unsaved();
+    });
     return panel;
+}
+
+void frmProfile::take_text(QLineEdit* edit, void (profile_module::*set)(std::string)) {
+    connect(edit, &QLineEdit::textChanged, this, [this, set](const QString& text) {
+        std::invoke(set, module_, from_qt(text));
+        mark_unsaved();
+    });
 }
 
 QWidget* frmProfile::field_entries() {
@@ -116,10 +124,9 @@ QWidget* frmProfile::field_entries() {
         and_refresh([&] { module_.paste_names(clipboard()); });
     })->setToolTip(tr("Field names copied from one column of a spreadsheet"));
     disable_meanwhile(count_);
-    connect(count_, &QLineEdit::textChanged, this, [this](const QString& t) {
-        module_.set_field_count(from_qt(t));
-        create_->setText(qt(module_.create_caption()));
-    });
+    take_text(count_, &profile_module::set_field_count);
+    connect(count_, &QLineEdit::textChanged, this,
+            [this] { create_->setText(qt(module_.create_caption())); });
     connect(count_, &QLineEdit::returnPressed, this,
             [this] { and_refresh([this] { module_.create_fields(); }); });
     return panel;
@@ -136,7 +143,7 @@ QLayout* frmProfile::main_buttons() {
                [this](import_mode mode) { return module_.import_records(mode); });
     row->addStretch();
     add_command(row, tr("&Cancel"), "cmdProfile_cancel", [this] { cancel(); });
-    add_command(row, tr("&Set Profile"), "cmdProfile_set", [this] { set_profile(); });
+    add_save(row, tr("&Set Profile"), "cmdProfile_set", [this] { return set_profile(); });
     return row;
 }
 
@@ -196,14 +203,17 @@ void frmProfile::refresh() {
     year_->setCurrentIndex(year_->findText(year));
     year_frame_->setEnabled(module_.year_list_enabled());
     grid_->refresh();
+    mark_unsaved();
 }
 
-void frmProfile::set_profile() {
+bool frmProfile::set_profile() {
     const set_profile_result result = module_.set_profile();
     refresh();
     if (result == set_profile_result::refused_focus_kel_area) kel_area_->setFocus();
     if (result == set_profile_result::refused_focus_farm_area) area_->setFocus();
-    if (result == set_profile_result::saved) emit left();
+    if (result != set_profile_result::saved) return false;
+    emit left();
+    return true;
 }
 
 void frmProfile::cancel() {

@@ -19,6 +19,7 @@ class frmProfile : public module_screen {
 
     /// Shows the working copy, which the opening of an assessment has already filled.
     void reload() override { refresh(); }
+    bool unsaved() const override { return module_.unsaved(); }
 
   signals:
     void location_wanted();
@@ -35,7 +36,9 @@ class frmProfile : public module_screen {
     QWidget* field_entries();
     QLayout* main_buttons();
     void add_entry_boxes();
-    void set_profile();
+    /// What is typed goes to the module at once.
+    void take_text(QLineEdit* edit, void (profile_module::*set)(std::string));
+    bool set_profile();
     void cancel();
     template <class Work>
     void and_refresh(Work work);

@@ -74,8 +74,10 @@ QWidget* frmReductions::table_page() {
         module_.calculate();
         show_view();
     });
-    add_command(row, tr("&Save"), "cmdReductions_save", [this] {
-        if (module_.save()) emit saved();
+    add_save(row, tr("&Save"), "cmdReductions_save", [this] {
+        const bool done = module_.save();
+        if (done) emit saved();
+        return done;
     });
     add_command(row, tr("&Open Assessments"), "cmdReductions_open", [this] {
         state_.picker_caller = picker_module::manure;

@@ -39,8 +39,11 @@ frmStorage::frmStorage(application_state& state, prompts& person, report_desk& d
 QLayout* frmStorage::commands() {
     auto* row = new QHBoxLayout;
     report_ = add_command(row, tr("&Generate Report"), "cmdReport", [this] { report(); });
-    save_ = add_command(row, tr("&Save"), "cmdStorage_save",
-                        [this] { and_refresh([this] { module_.save_storage(); }); });
+    save_ = add_save(row, tr("&Save"), "cmdStorage_save", [this] {
+        bool saved = false;
+        and_refresh([&] { saved = module_.save_storage(); });
+        return saved;
+    });
     add_command(row, tr("&Open Assessments"), "cmdStorage_open", [this] {
         state_.picker_caller = picker_module::storage;
         emit years_wanted();
@@ -63,6 +66,11 @@ void frmStorage::and_refresh(const std::function<void()>& work) {
         refresh();
     else
         show_page();
+}
+
+// The stores are written as they are entered, but for imported ones.
+bool frmStorage::unsaved() const {
+    return module_screen::unsaved() || module_.stores().imported();
 }
 
 void frmStorage::refresh() {

@@ -23,6 +23,7 @@ class frmStorage : public module_screen {
     frmStorage(application_state& state, prompts& person, report_desk& desk);
 
     void reload() override;
+    bool unsaved() const override;
 
     // The pages build their controls with these.
     using module_screen::add_boxes;

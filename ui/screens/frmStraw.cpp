@@ -124,13 +124,13 @@ QWidget* frmStraw::panel() {
         module_.delete_row(grid_->current_row());
         refresh();
     });
-    add_command(row, tr("&Save Database"), "cmdStraw_DB_save", [this] { module_.save(); });
+    add_save(row, tr("&Save Database"), "cmdStraw_DB_save", [this] { return module_.save(); });
     add_import(row, *grid_, "Straw_DB_import",
                [this](import_mode mode) { return module_.import_records(mode); });
     add_command(row, tr("&Generate Report"), "cmdReport", [this] { module_.report(desk_); });
     row->addStretch();
     add_command(row, tr("&Close"), "cmdStraw_DB_close", [this] {
-        module_.close_panel();
+        run_save([this] { return module_.close_panel(); });
         show_view();
     });
     layout->addLayout(row);

@@ -38,7 +38,7 @@ QWidget* grass_silage_page::command_panel(frmGrass_new& screen) {
     row->setContentsMargins(0, 0, 0, 0);
     screen.add_step(row, tr("&Vary Silage Production Rates"), "cmdGrass_vary",
                     [this] { module_.silage().vary(); });
-    screen.add_step(row, tr("&Save"), "cmdGrass_rec_save", [this] { module_.cmdGrass_rec_save(); });
+    screen.add_save_step(row, "cmdGrass_rec_save", [this] { return module_.cmdGrass_rec_save(); });
     screen.add_command(row, tr("&Generate Report"), "cmdGrass_rec_report", [&screen] { screen.report(); });
     screen.add_step(row, tr("&Back"), "cmdGrass_rec_back", [this] { module_.back(); });
     row->addStretch();

@@ -23,7 +23,7 @@ grass_site_page::grass_site_page(frmGrass_new& screen, grass_module& module) : Q
 void grass_site_page::add_commands(frmGrass_new& screen, grass_module& module) {
     auto* row = new QHBoxLayout;
     screen.add_step(row, tr("&Calculate"), "cmdSite_continue", [&module] { module.calculate(); });
-    screen.add_step(row, tr("&Save"), "cmdSite_save", [&module] { module.cmdSite_save(); });
+    screen.add_save_step(row, "cmdSite_save", [&module] { return module.cmdSite_save(); });
     screen.add_step(row, tr("&Livestock and Stocking"), "cmdSite_stocking", [&module] { module.to_stock(); })
         ->setToolTip(tr("The other route: the nitrogen that the fields need to carry the farm's livestock"));
     screen.add_step(row, tr("&Rainfall and Altitude"), "cmdSite_back", [&module] { module.back(); });

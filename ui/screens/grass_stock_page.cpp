@@ -42,8 +42,8 @@ QWidget* grass_stock_page::livestock_tab(frmGrass_new& screen) {
     livestock_->setAccessibleName(qt(text::livestock_tab));
     layout->addWidget(livestock_, 1);
     auto* row = new QHBoxLayout;
-    screen.add_step(row, tr("C&ontinue"), "cmdLU_continue", [this] { module_.cmdLU_continue(); });
-    screen.add_step(row, tr("&Save"), "cmdLU_save", [this] { module_.cmdLU_save(); });
+    screen.add_saving_step(row, "cmdLU_continue", [this] { return module_.cmdLU_continue(); });
+    screen.add_save_step(row, "cmdLU_save", [this] { return module_.cmdLU_save(); });
     screen.add_step(row, tr("&Back to the Site Table"), "cmdLU_back", [this] { module_.back(); });
     row->addStretch();
     screen.add_close(row, "cmdLU_cancel");
@@ -58,8 +58,8 @@ QWidget* grass_stock_page::stocking_tab(frmGrass_new& screen) {
     stocking_->setAccessibleName(qt(text::stocking_tab));
     layout->addWidget(stocking_, 1);
     auto* row = new QHBoxLayout;
-    screen.add_step(row, tr("C&ontinue"), "cmdSU_continue", [this] { module_.cmdSU_continue(); });
-    screen.add_step(row, tr("&Save"), "cmdGrass_SU_save", [this] { module_.cmdGrass_SU_save(); });
+    screen.add_saving_step(row, "cmdSU_continue", [this] { return module_.cmdSU_continue(); });
+    screen.add_save_step(row, "cmdGrass_SU_save", [this] { return module_.cmdGrass_SU_save(); });
     screen.add_command(row, tr("C&hange Database"), "cmdSU_database",
                        [this] { stocking_boxes_->open(module_.change_database()); });
     screen.add_step(row, tr("&Back to the Site Table"), "cmdSU_back", [this] { module_.back(); });

@@ -10,10 +10,12 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QTabWidget>
+#include <QTime>
 #include <algorithm>
 #include <functional>
 
 #include "core/block_entry.h"
+#include "core/file_error.h"
 #include "core/grid_history.h"
 #include "core/record_import.h"
 #include "ui/widgets/box_set.h"
@@ -27,7 +29,7 @@ namespace kel {
 
 module_screen::module_screen(const QString& name, const QString& title) {
     setObjectName(name);
-    setWindowTitle(title);
+    setWindowTitle(title + "[*]");
 }
 
 void module_screen::closeEvent(QCloseEvent* event) {
@@ -57,6 +59,61 @@ QPushButton* module_screen::add_command(QBoxLayout* row, const QString& caption,
     row->addWidget(button);
     main_controls_.push_back(button);
     return button;
+}
+
+QPushButton* module_screen::add_save(QBoxLayout* row, const QString& caption, const QString& name,
+                                     std::function<bool()> save) {
+    auto* button = add_command(row, caption, name, [this, run = std::move(save)] { run_save(run); });
+    button->setToolTip(tr("Ctrl+S"));
+    saves_.push_back(button);
+    return button;
+}
+
+void module_screen::run_save(const std::function<bool()>& save) {
+    try {
+        if (!save()) return;
+    } catch (const file_error& failure) {
+        say(tr("Not saved: %1").arg(qt(failure.trouble())));
+        throw;
+    }
+    const QString note = save_note_ ? save_note_() : QString();
+    say(tr("Saved %1").arg(QTime::currentTime().toString("HH:mm")) + (note.isEmpty() ? "" : ". " + note));
+}
+
+void module_screen::press_save() {
+    const auto in_view = [](const QPushButton* save) { return save->isVisible() && save->isEnabled(); };
+    const auto save = std::ranges::find_if(saves_, in_view);
+    if (save != saves_.end()) (*save)->click();
+}
+
+// A trouble of any length must not widen the window.
+void module_screen::add_foot() {
+    foot_ = new_text("lblModule_saved", this);
+    foot_->setWordWrap(false);
+    foot_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    static_cast<QBoxLayout*>(layout())->addWidget(foot_);
+    auto* save = new QAction(this);
+    save->setShortcut(Qt::CTRL | Qt::Key_S);
+    connect(save, &QAction::triggered, this, &module_screen::press_save);
+    addAction(save);
+}
+
+void module_screen::say(const QString& text) {
+    if (!foot_) return;
+    foot_->setText(text);
+    foot_->setToolTip(text.isEmpty() ? QString() : plain_tip(text));
+}
+
+QString module_screen::save_status() const {
+    return foot_ ? foot_->text() : QString();
+}
+
+bool module_screen::unsaved() const {
+    return history_ && history_->unsaved();
+}
+
+void module_screen::mark_unsaved() {
+    setWindowModified(unsaved());
 }
 
 void module_screen::adopt_box(entry_box* box) {
@@ -206,6 +263,7 @@ void module_screen::use_history(grid_history& history) {
     fill_edit_menu(*edit_menu_);
     layout()->setMenuBar(bar);
     disable_meanwhile(bar);
+    add_foot();
 }
 
 void module_screen::fill_edit_menu(QMenu& menu) {
@@ -269,6 +327,7 @@ void module_screen::share_why_place(why_place& place) {
 void module_screen::record_changes() {
     if (why_) why_->refresh_soon();
     if (history_) history_->record();
+    mark_unsaved();
 }
 
 bool module_screen::box_is_open() const {
@@ -285,6 +344,7 @@ void module_screen::go_back(const text_grid* (grid_history::*way)()) {
     if (box_is_open() || !front_grid()) return;
     const text_grid* changed = std::invoke(way, *history_);
     if (!changed) return;
+    mark_unsaved();
     refresh();
     show_table(*changed);
 }
@@ -308,6 +368,8 @@ void module_screen::reload_all() {
     for (auto* grid : findChildren<grid_view*>())
         grid->show_as_stored();
     reload();
+    say({});
+    mark_unsaved();
 }
 
 }  // namespace kel

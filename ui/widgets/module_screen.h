@@ -48,6 +48,12 @@ class module_screen : public QWidget {
     virtual screen_id closes_to() const { return screen_id::front; }
     /// Asks the module's close question.
     virtual bool may_close() = 0;
+    /// Whether anything in view would be lost with the screen.
+    virtual bool unsaved() const;
+    /// What stands at the foot: when it was last saved, or why it was not.
+    QString save_status() const;
+    /// What is to be said beside the time of a save; empty: nothing.
+    void set_save_note(std::function<QString()> note) { save_note_ = std::move(note); }
 
   signals:
     /// The module was closed.
@@ -68,6 +74,13 @@ class module_screen : public QWidget {
     /// A button at the end of the row; with an entry box open it is disabled.
     QPushButton* add_command(QBoxLayout* row, const QString& caption, const QString& name,
                              std::function<void()> action);
+    /// A command that saves, with whether it has. Ctrl+S presses the one in view.
+    QPushButton* add_save(QBoxLayout* row, const QString& caption, const QString& name,
+                          std::function<bool()> save);
+    /// Runs the save and says at the foot what has become of it.
+    void run_save(const std::function<bool()>& save);
+    /// Marks the title as long as something is not saved.
+    void mark_unsaved();
     using import_operation = std::function<bool(import_mode)>;  // true: the box closes
     /// The command that takes records over from another file, and the box of its choice over the grid. `name`
     /// stands behind cmd and fra, as in cmdStraw_DB_import.
@@ -78,7 +91,8 @@ class module_screen : public QWidget {
     using click_operation = std::function<opening(int row, int column)>;
     /// The boxes that a click in the grid opens; the screen is refreshed as one closes.
     box_set* add_boxes(grid_view& grid, const click_operation& click, const std::vector<box_row>& rows);
-    /// Gives the screen its Edit menu, which undoes by the module's history. Call it when the layout stands.
+    /// Gives the screen its Edit menu, which undoes by the module's history, its foot, and Ctrl+S. Call it
+    /// when the layout stands.
     void use_history(grid_history& history);
     /// Gives the screen the panel "Why?" at the side of `tables`, a widget of its layout, and the button that
     /// opens it. Call it last, when the layout, its tables and its Edit menu stand.
@@ -90,6 +104,9 @@ class module_screen : public QWidget {
 
   private:
     void adopt_box(entry_box* box);
+    void add_foot();
+    void say(const QString& text);
+    void press_save();
     void paste(grid_view& grid, const box_set& boxes, const click_operation& click, const cell_block& block,
                grid_cell at);
     void paste_clipboard(grid_view& grid, const box_set& boxes, const click_operation& click);
@@ -104,6 +121,9 @@ class module_screen : public QWidget {
     void show_table(const text_grid& table);
 
     std::vector<QWidget*> main_controls_;
+    std::vector<QPushButton*> saves_;
+    QLabel* foot_ = nullptr;
+    std::function<QString()> save_note_;
     std::vector<entry_box*> boxes_;
     std::vector<grid_view*> grids_;  // that take entries
     grid_history* history_ = nullptr;
