@@ -1,7 +1,10 @@
 #include "ui/program.h"
 
 #include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QProcess>
+#include <QUrl>
 #include <QWidget>
 #include <algorithm>
 #include <array>
@@ -10,11 +13,13 @@
 
 #include "core/file_error.h"
 #include "ui/kel_application.h"
+#include "ui/qt_prompts.h"
 #include "ui/screens/Field_Record.h"
 #include "ui/screens/FullScreen.h"
 #include "ui/screens/Scotland.h"
 #include "ui/screens/Year_Picker.h"
 #include "ui/screens/frmCalendar.h"
+#include "ui/screens/copies_dialog.h"
 #include "ui/screens/frmCrops_new.h"
 #include "ui/screens/frmFarms.h"
 #include "ui/screens/frmGrass_new.h"
@@ -87,8 +92,10 @@ program::program(const installation& places, prompts& person, std::function<date
       desk_{state_, *this, std::move(today), KEL_DEVELOPER_NAME},
       profile_(state_, modules_person_),
       front_(state_, person_, profile_, *this, desk_),
-      years_(state_, person_, profile_, [this](picker_module caller) { reload(caller); }) {
+      years_(state_, person_, profile_, [this](picker_module caller) { reload(caller); }),
+      files_(state_, person_, years_, *this) {
     state_.places = places;
+    state_.copies->keep_in(places.earlier_copies());
 }
 
 program::~program() = default;
@@ -184,7 +191,11 @@ void program::load_anew(screen_id id) {
 }
 
 QWidget* program::make_front(screen_id /*id*/) {
-    auto* front = new frmKEL_front(front_, state_, *this);
+    auto* front = new frmKEL_front(front_, files_, state_, *this);
+    connect(front, &frmKEL_front::files_changed, this, [this] {
+        follow_assessment();
+        refresh_front();
+    });
     connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
     return front;
 }
@@ -209,6 +220,7 @@ QWidget* program::make_location(screen_id /*id*/) {
 QWidget* program::connected(screen_id id, module_screen* module) {
     module->set_paste_port(modules_person_);
     module->share_why_place(why_place_);
+    module->set_save_note([this] { return qt(state_.copies->take_trouble()); });
     connect(
         module, &module_screen::left, this, [this, id, module] { leave(id, module->closes_to()); },
         Qt::QueuedConnection);
@@ -301,6 +313,7 @@ void program::leave(screen_id id, std::optional<screen_id> back) {
     const auto found = screens_.find(id);
     if (found != screens_.end()) {
         sizes_[id] = found->second.widget->saveGeometry();
+        if (module_of(id)) say_at_front(module_of(id)->save_status());
         found->second.widget.release()->deleteLater();
         screens_.erase(found);
     }
@@ -308,6 +321,11 @@ void program::leave(screen_id id, std::optional<screen_id> back) {
     follow_assessment();
     refresh_front();
     end_without_windows();
+}
+
+// What was saved last is known as long as the screen that saved it, which mostly goes with it.
+void program::say_at_front(const QString& status) {
+    if (auto* front = static_cast<frmKEL_front*>(screen(screen_id::front))) front->say(status);
 }
 
 void program::open(screen_id id) {
@@ -363,6 +381,23 @@ bool program::start_updater(const std::string& path) {
 
 void program::print_pages(const std::vector<std::string>& pages) {
     print_with_dialog(pages_of_files(pages), desk_.today(), QApplication::activeWindow());
+}
+
+bool program::open_folder(const std::string& folder) {
+    return QFileInfo(qt(folder)).isDir() && QDesktopServices::openUrl(QUrl::fromLocalFile(qt(folder)));
+}
+
+std::optional<std::size_t> program::choose_copy(const std::vector<earlier_copy>& copies) {
+    copies_dialog list(copies);
+    const bool chosen = shown_over_active_window(list) == QDialog::Accepted;
+    return chosen ? list.chosen() : std::nullopt;
+}
+
+bool program::has_unsaved() const {
+    return std::ranges::any_of(screen_table(), [this](const screen_row& row) {
+        const auto* module = module_of(row.id);
+        return module && module->unsaved();
+    });
 }
 
 void program::end() {

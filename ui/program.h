@@ -18,6 +18,7 @@
 #include "reports/report_viewer.h"
 #include "shell/assessments_module.h"
 #include "shell/desktop.h"
+#include "shell/farm_files_module.h"
 #include "shell/years_module.h"
 #include "ui/widgets/why_place.h"
 
@@ -50,6 +51,9 @@ class program : public QObject, public desktop, public report_viewer {
     bool in_view(screen_id id) const override;
     bool start_updater(const std::string& path) override;
     void print_pages(const std::vector<std::string>& pages) override;
+    bool open_folder(const std::string& folder) override;
+    std::optional<std::size_t> choose_copy(const std::vector<earlier_copy>& copies) override;
+    bool has_unsaved() const override;
     void end() override;
 
     void wait_cursor(bool on) override;
@@ -111,6 +115,7 @@ class program : public QObject, public desktop, public report_viewer {
     void end_without_windows();
     void reload(picker_module caller);
     void refresh_front();
+    void say_at_front(const QString& status);
 
     application_state state_;
     prompts& person_;
@@ -120,6 +125,7 @@ class program : public QObject, public desktop, public report_viewer {
     assessments_module front_;
     years_module years_;
     why_place why_place_;
+    farm_files_module files_;
     std::map<screen_id, standing> screens_;
     std::map<screen_id, QByteArray> sizes_;
     bool ended_ = false;

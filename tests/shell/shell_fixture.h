@@ -37,6 +37,14 @@ struct recording_screens : desktop, report_viewer {
     void print_pages(const std::vector<std::string>& pages) override {
         told.push_back({"print"}), printed = pages;
     }
+    bool open_folder(const std::string& folder) override {
+        return told.push_back({"folder " + folder}), true;
+    }
+    std::optional<std::size_t> choose_copy(const std::vector<earlier_copy>& copies) override {
+        offered = copies;
+        return chosen_copy;
+    }
+    bool has_unsaved() const override { return unsaved; }
     void end() override { told.push_back({"end"}); }
     void wait_cursor(bool on) override { told.push_back({on ? "wait" : "ready"}); }
     void hide_screen(screen_id id) override { told.push_back({"hide", id}); }
@@ -46,6 +54,9 @@ struct recording_screens : desktop, report_viewer {
     viewer_request shown;
     std::vector<std::string> printed;
     bool updater_starts = true;
+    std::vector<earlier_copy> offered;
+    std::optional<std::size_t> chosen_copy;
+    bool unsaved = false;
 };
 
 class shell_test : public farm_test {

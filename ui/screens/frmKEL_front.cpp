@@ -6,9 +6,11 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -90,8 +92,9 @@ constexpr int button_height_px = 40;
 
 }  // namespace
 
-frmKEL_front::frmKEL_front(assessments_module& module, const application_state& state, const screens& built)
-    : module_(module), state_(state), built_(built) {
+frmKEL_front::frmKEL_front(assessments_module& module, farm_files_module& files,
+                           const application_state& state, const screens& built)
+    : module_(module), files_(files), state_(state), built_(built) {
     setObjectName("frmKEL_front");
     add_menus();
     auto* centre = new QWidget(this);
@@ -174,7 +177,7 @@ void frmKEL_front::add_menus() {
     for (const command& c : commands) {
         if (!c.entry) continue;
         if (!menu || menu->title() != c.menu) menu = menuBar()->addMenu(c.menu);
-        if (std::string_view(c.name) == "exit") menu->addSeparator();
+        if (std::string_view(c.name) == "exit") add_farm_files(*menu);
         QAction* action = menu->addAction(c.entry);
         action->setObjectName(QString("mnuFront_") + c.name);
         action->setEnabled(!c.needs || built_.exists(*c.needs));
@@ -185,7 +188,43 @@ void frmKEL_front::add_menus() {
     }
 }
 
+void frmKEL_front::add_farm_files(QMenu& menu) {
+    menu.addSeparator();
+    recent_ = menu.addMenu(tr("&Recent assessments"));
+    recent_->setObjectName("mnuFront_recent");
+    connect(&menu, &QMenu::aboutToShow, this, &frmKEL_front::list_recent);
+    const auto add = [&](const QString& entry, const char* name, void (farm_files_module::*act)()) {
+        QAction* action = menu.addAction(entry, this, [this, act] {
+            std::invoke(act, files_);
+            emit files_changed();
+        });
+        action->setObjectName(name);
+    };
+    add(tr("Open the &folder"), "mnuFront_folder", &farm_files_module::open_folder);
+    menu.addSeparator();
+    add(tr("Res&tore an earlier copy..."), "mnuFront_restore", &farm_files_module::restore);
+    add(tr("Open the folder of earlier &copies"), "mnuFront_copies", &farm_files_module::open_copies_folder);
+    menu.addSeparator();
+}
+
+void frmKEL_front::list_recent() {
+    recent_->clear();
+    for (const recent_assessment& one : files_.recent()) {
+        const QString year =
+            one.year_start ? tr(", KEL year from %1").arg(qt(short_date_text(*one.year_start))) : QString();
+        QString entry = qt(one.farm) + year + "   " + qt(one.path);
+        const int longest = recent_->fontMetrics().averageCharWidth() * 110;
+        entry = recent_->fontMetrics().elidedText(entry.simplified(), Qt::ElideMiddle, longest);
+        recent_->addAction(entry.replace('&', "&&"), this, [this, path = one.path] {
+            files_.open_recent(path);
+            emit files_changed();
+        });
+    }
+    recent_->setEnabled(!recent_->isEmpty());
+}
+
 void frmKEL_front::refresh() {
+    files_.note_open();
     setWindowTitle(qt(module_.title()));
     const bool open = !state_.assess_file.empty();
     const QString farm = qt(module_.farm_name());
@@ -201,6 +240,10 @@ void frmKEL_front::refresh() {
         told += qt(state_.assess_file);
     }
     file_->setText(told);
+}
+
+void frmKEL_front::say(const QString& text) {
+    statusBar()->showMessage(text);
 }
 
 void frmKEL_front::showEvent(QShowEvent* event) {

@@ -7,8 +7,10 @@
 #include "core/application_state.h"
 #include "core/screens.h"
 #include "shell/assessments_module.h"
+#include "shell/farm_files_module.h"
 
 class QLabel;
+class QMenu;
 class QPushButton;
 
 namespace kel {
@@ -17,14 +19,19 @@ class frmKEL_front : public QMainWindow {
     Q_OBJECT
 
   public:
-    frmKEL_front(assessments_module& module, const application_state& state, const screens& built);
+    frmKEL_front(assessments_module& module, farm_files_module& files, const application_state& state,
+                 const screens& built);
 
     /// Shows the title and the open assessment as they now are.
     void refresh();
+    /// At the foot, as after the save of a module that was left.
+    void say(const QString& text);
 
   signals:
     /// The close box was pressed; the program decides.
     void close_pressed();
+    /// Another assessment, or another content, may have come to stand behind the screens.
+    void files_changed();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -35,12 +42,16 @@ class frmKEL_front : public QMainWindow {
     QWidget* buttons();
     QPushButton* button(const char* name);
     void add_menus();
+    void add_farm_files(QMenu& menu);
+    void list_recent();
 
     assessments_module& module_;
+    farm_files_module& files_;
     const application_state& state_;
     const screens& built_;
     QLabel* farm_ = nullptr;
     QLabel* file_ = nullptr;
+    QMenu* recent_ = nullptr;
 };
 
 }  // namespace kel
