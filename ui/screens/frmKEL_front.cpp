@@ -203,7 +203,7 @@ void frmKEL_front::add_farm_files(QMenu& menu) {
     add(tr("Open the &folder"), "mnuFront_folder", &farm_files_module::open_folder);
     menu.addSeparator();
     add(tr("Res&tore an earlier copy..."), "mnuFront_restore", &farm_files_module::restore);
-    add(tr("Open the folder of earlier &copies"), "mnuFront_copies", &farm_files_module::open_copies_folder);
+    add(tr("Open the folder of ear&lier copies"), "mnuFront_copies", &farm_files_module::open_copies_folder);
     menu.addSeparator();
 }
 
