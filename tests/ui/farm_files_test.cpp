@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QMenu>
 #include <QTableWidget>
+#include <QTextBrowser>
 #include <QTimer>
 #include <filesystem>
 
@@ -15,17 +16,17 @@ namespace kel::test {
 namespace says = farm_files_messages;
 namespace fs = std::filesystem;
 
-// Stands for the desktop.
-class opened_folders : public QObject {
-    Q_OBJECT
-
+// Stands for the desktop, which hands a folder to whoever takes addresses.
+class opened_folders : public QTextBrowser {
   public:
-    opened_folders() { QDesktopServices::setUrlHandler("file", this, "take"); }
+    opened_folders() { QDesktopServices::setUrlHandler("file", this, "setSource"); }
     ~opened_folders() override { QDesktopServices::unsetUrlHandler("file"); }
-    std::vector<std::string> taken;
+    texts taken;
 
-  public slots:
-    void take(const QUrl& url) { taken.push_back(from_qt(url.toLocalFile())); }
+  protected:
+    void doSetSource(const QUrl& url, QTextDocument::ResourceType) override {
+        taken.push_back(from_qt(url.toLocalFile()));
+    }
 };
 
 class FileMenu : public screen_test {
@@ -132,5 +133,3 @@ TEST_F(FileMenu, TheFoldersAreOpenedByTheDesktop) {
 }
 
 }  // namespace kel::test
-
-#include "farm_files_test.moc"
