@@ -3,7 +3,6 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <string_view>
 #include <system_error>
 
 #include "core/whole_file.h"

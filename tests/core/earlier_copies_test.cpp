@@ -43,8 +43,10 @@ class EarlierCopies : public farm_test {
     }
     /// The stored fields of each copy, the newest copy first.
     std::vector<texts> kept_fields() const {
+        const std::vector<earlier_copy> copies = state.copies->list();
         std::vector<texts> fields;
-        for (const earlier_copy& copy : state.copies->list())
+        fields.reserve(copies.size());
+        for (const earlier_copy& copy : copies)
             fields.push_back(column_of(copy.file, "Land", "Field Area ID"));
         return fields;
     }
@@ -178,6 +180,7 @@ TEST_F(EarlierCopies, AJournalLeftHotIsPartOfWhatTheFileWas) {
 
 TEST_F(EarlierCopies, NamesOfAnyCharactersGetFoldersOfTheirOwn) {
     texts names;
+    names.reserve(10);
     for (const char* farm : {"", "..", "A/B", "A_B", "A\nB", "CON:", "Srath Ghàidhealach", "a\\..\\b"})
         names.push_back(name_for_files(farm));
     names.push_back(name_for_files(std::string(59, 'x') + "à"));

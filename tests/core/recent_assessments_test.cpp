@@ -8,8 +8,10 @@ namespace {
 class RecentAssessments : public farm_test {
   protected:
     std::vector<std::string> paths() const {
+        const std::vector<recent_assessment> recent = read_recent(list);
         std::vector<std::string> found;
-        for (const recent_assessment& one : read_recent(list))
+        found.reserve(recent.size());
+        for (const recent_assessment& one : recent)
             found.push_back(one.path);
         return found;
     }

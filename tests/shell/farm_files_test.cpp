@@ -77,6 +77,7 @@ TEST_F(FarmFiles, CopiesOfTheOpenFarmStandFirstAndEachGroupNewestFirst) {
     shown.chosen_copy.reset();
     files.restore();
     texts offered;
+    offered.reserve(shown.offered.size());
     for (const earlier_copy& copy : shown.offered)
         offered.push_back(copy.farm + " " + short_date_text(copy.kept.day));
     EXPECT_EQ(offered, (texts{"Test Farm 23/11/2026", "Test Farm 22/11/2026", "Other Farm 24/11/2026"}));
