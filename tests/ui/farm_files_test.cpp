@@ -75,8 +75,8 @@ TEST_F(FileMenu, ACopyChosenByKeyboardComesBackAndTheScreenInViewShowsIt) {
     in_list([](QTableWidget* list) {
         EXPECT_EQ(list->item(0, 1)->text(), "Test Farm");
         EXPECT_EQ(list->item(0, 2)->text(), "19/12/2024");
-        EXPECT_TRUE(list->hasFocus());
-        QTest::keyClick(list->window(), Qt::Key_Return);
+        wait_for([list] { return list->hasFocus(); }, "the list has not the focus");
+        QTest::keyClick(list, Qt::Key_Return);
     });
     entry("mnuFront_restore")->trigger();
     drive::settle();
@@ -86,7 +86,7 @@ TEST_F(FileMenu, ACopyChosenByKeyboardComesBackAndTheScreenInViewShowsIt) {
     EXPECT_FALSE(screen("land")->isWindowModified());
     EXPECT_EQ(run->state().copies->list().size(), 2U);
 
-    in_list([](QTableWidget* list) { QTest::keyClick(list->window(), Qt::Key_Escape); });
+    in_list([](QTableWidget* list) { QTest::keyClick(list, Qt::Key_Escape); });
     entry("mnuFront_restore")->trigger();
     EXPECT_EQ(run->state().copies->list().size(), 2U);
 }
@@ -113,7 +113,8 @@ TEST_F(FileMenu, RecentAssessmentsAreListedAndOpenTheirFarm) {
     start(other);
     const QList<QAction*> entries = recent()->actions();
     ASSERT_EQ(entries.size(), 2);
-    EXPECT_EQ(entries[0]->text(), "Test Farm, KEL year from 19/12/2023   " + qt(path("other && last.kel")));
+    EXPECT_TRUE(entries[0]->text().startsWith("Test Farm, KEL year from 19/12/2023   /"));
+    EXPECT_TRUE(entries[0]->text().endsWith("other && last.kel")) << from_qt(entries[0]->text());
     entries[1]->trigger();
     drive::settle();
     EXPECT_EQ(run->state().assess_file, state.assess_file);

@@ -2,7 +2,7 @@
 #include <QRegularExpression>
 #include <QStatusBar>
 
-#include "core/module_messages.h"
+#include "profile/profile_messages.h"
 #include "tests/ui/screen_fixture.h"
 #include "ui/widgets/module_screen.h"
 
@@ -73,6 +73,7 @@ TEST_F(SavedState, TextTypedAboveTheFieldsIsUnsavedAndSetProfileIsTheSave) {
     drive::type(screen("profile"), "txtName", "Test Farm");
     EXPECT_FALSE(marked("profile"));
     drive::type(screen("profile"), "txtArea", "16");
+    person.expect(profile_messages::kel_area_query, answer::yes);
     ctrl_s("profile");
     EXPECT_FALSE(screen("profile"));
     EXPECT_EQ(column_of(state.assess_file, "FarmProfile", "Area"), texts{"16"});

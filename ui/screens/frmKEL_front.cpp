@@ -212,9 +212,9 @@ void frmKEL_front::list_recent() {
     for (const recent_assessment& one : files_.recent()) {
         const QString year =
             one.year_start ? tr(", KEL year from %1").arg(qt(short_date_text(*one.year_start))) : QString();
-        QString entry = qt(one.farm) + year + "   " + qt(one.path);
+        QString entry = qt(one.farm).simplified() + year + "   " + qt(one.path);
         const int longest = recent_->fontMetrics().averageCharWidth() * 110;
-        entry = recent_->fontMetrics().elidedText(entry.simplified(), Qt::ElideMiddle, longest);
+        entry = recent_->fontMetrics().elidedText(entry, Qt::ElideMiddle, longest);
         recent_->addAction(entry.replace('&', "&&"), this, [this, path = one.path] {
             files_.open_recent(path);
             emit files_changed();
