@@ -4,6 +4,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -17,9 +19,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Not a name that a person gives to a file of his own: those that nobody holds are removed.
-constexpr std::string_view unfinished = ".unfinished";
 constexpr std::string_view unfinished_assessment = ".kel.unfinished";
+
+// In whatever case a person has written the ending of the assessment.
+bool is_unfinished_assessment(const std::string& path) {
+    if (path.size() < unfinished_assessment.size()) return false;
+    return std::equal(
+        unfinished_assessment.rbegin(), unfinished_assessment.rend(), path.rbegin(),
+        [](char a, char b) { return a == static_cast<char>(std::tolower(static_cast<unsigned char>(b))); });
+}
 
 void throw_if(const std::error_code& trouble, const std::string& target) {
     if (trouble) throw file_error(target, "the file could not be written: " + trouble.message() + ".");
@@ -38,7 +46,7 @@ bool lock(int file) {
 }  // namespace
 
 fresh_file::fresh_file(const std::string& from, std::string target)
-    : target_(std::move(target)), path_(target_ + std::string(unfinished)) {
+    : target_(std::move(target)), path_(target_ + std::string(unfinished_ending)) {
     remove_abandoned_files(fs::path(target_).parent_path().string());
     held_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     if (held_ >= 0 && !lock(held_)) {
@@ -89,7 +97,7 @@ void remove_abandoned_files(const std::string& folder) {
     std::error_code trouble;
     for (fs::directory_iterator entry(folder, trouble), end; !trouble && entry != end;
          entry.increment(trouble))
-        if (std::string path = entry->path().string(); path.ends_with(unfinished_assessment)) {
+        if (std::string path = entry->path().string(); is_unfinished_assessment(path)) {
             std::error_code unknown;
             if (entry->is_regular_file(unknown)) found.push_back(std::move(path));
         }

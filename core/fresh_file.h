@@ -4,11 +4,16 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/assessment_store.h"
 #include "core/earlier_copies.h"
 
 namespace kel {
+
+/// What stands behind a file's name as long as it is being written: no name that a person gives to a file of
+/// his own.
+inline constexpr std::string_view unfinished_ending = ".unfinished";
 
 class fresh_file {
   public:

@@ -2,8 +2,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <system_error>
 
+#include "core/assessment_store.h"
 #include "core/file_error.h"
 #include "core/fresh_file.h"
 
@@ -12,7 +14,7 @@ namespace kel {
 namespace fs = std::filesystem;
 
 void write_whole_file(const std::string& path, std::string_view content, std::string_view what) {
-    const std::string fresh = path + ".new";
+    const std::string fresh = path + std::string(unfinished_ending);
     std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
     out.write(content.data(), static_cast<std::streamsize>(content.size()));
     out.close();
@@ -27,6 +29,19 @@ void write_whole_file(const std::string& path, std::string_view content, std::st
 
 void copy_whole_file(const std::string& from, const std::string& to) {
     fresh_file(from, to).put_in_place();
+}
+
+void copy_assessment(const std::string& from, const std::string& to) {
+    std::optional<database> db;
+    std::optional<save_transaction> nobody_saves;
+    try {
+        db.emplace(from);
+        nobody_saves.emplace(*db);
+    } catch (const file_error& failure) {
+        if (failure.in_use()) throw;
+        // Read-only, or none: the copy tells.
+    }
+    copy_whole_file(from, to);
 }
 
 void copy_between(const std::string& from_folder, const std::string& to_folder, const std::string& path) {

@@ -12,7 +12,10 @@ void write_whole_file(const std::string& path, std::string_view content, std::st
 
 /// Plain copy of a whole file that is not open; an existing target is replaced. Throws file_error.
 void copy_whole_file(const std::string& from, const std::string& to);
-/// The same for a path within two folders; one that the second lacks below it is made.
+/// The same for an assessment that others may have open: none of them saves meanwhile, and what a save that
+/// was cut off has left is undone first.
+void copy_assessment(const std::string& from, const std::string& to);
+/// A plain copy for a path within two folders; one that the second lacks below it is made.
 void copy_between(const std::string& from_folder, const std::string& to_folder, const std::string& path);
 
 }  // namespace kel

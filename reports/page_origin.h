@@ -14,6 +14,7 @@ struct page_origin {
     std::string farm;                  // empty: a farm that has no name yet
     std::optional<date> year_start{};  // of the KEL year; none: a farm that has no year yet
     std::optional<date> made{};
+    std::string file{};  // a mark that tells the assessment's file from others; empty: not known
     bool operator==(const page_origin&) const = default;
 };
 
@@ -31,7 +32,8 @@ std::optional<page_origin> read_origin(std::string_view page);
 
 /// "KEL year 19 December 2025 to 18 December 2026"; empty without a year.
 std::string year_text(const page_origin& origin);
-/// Whether both are of one farm in one year, whenever they were made.
+/// Whether both are of one farm in one year, whenever they were made. Two files may hold farms of one name:
+/// they are not the same.
 bool same_farm_and_year(const page_origin& a, const page_origin& b);
 
 }  // namespace kel

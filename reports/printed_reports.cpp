@@ -23,10 +23,12 @@ std::optional<std::string> head_of(const std::string& path) {
     return head;
 }
 
-std::string whose(const std::optional<page_origin>& origin) {
+std::string whose(const std::optional<page_origin>& origin, const page_origin& open) {
     if (!origin) return "farm and year not known";
     const std::string year = year_text(*origin);
-    return origin->farm + (origin->farm.empty() || year.empty() ? "" : ", ") + year;
+    const bool file_only = origin->farm == open.farm && origin->year_start == open.year_start;
+    return origin->farm + (origin->farm.empty() || year.empty() ? "" : ", ") + year +
+           (file_only ? ", in another file" : "");
 }
 
 struct found_reports {
@@ -47,7 +49,7 @@ found_reports find_reports(const application_state& state) {
         if (origin && same_farm_and_year(*origin, open))
             found.own.push_back(path);
         else
-            found.others.push_back(std::string(report.row_text) + " " + whose(origin));
+            found.others.push_back(std::string(report.row_text) + " " + whose(origin, open));
     }
     return found;
 }
@@ -55,7 +57,7 @@ found_reports find_reports(const application_state& state) {
 }  // namespace
 
 message printed_reports_messages::others_too(const std::vector<std::string>& reports) {
-    std::string text = "These reports were last generated for another farm or KEL year:";
+    std::string text = "These reports were last generated for another farm, KEL year or file:";
     text.append(line_break);
     for (const std::string& report : reports)
         text.append(line_break).append(report);

@@ -94,7 +94,7 @@ void assessments_module::copy_to(const std::string& target) {
     write_store(state_);
     if (same_file(target, state_.assess_file)) return;
     state_.copies->keep(target);
-    copy_whole_file(state_.assess_file, target);
+    copy_assessment(state_.assess_file, target);
     go_on_in(state_, person_, target);
 }
 

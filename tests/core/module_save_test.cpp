@@ -77,8 +77,12 @@ TEST_F(NewFile, OfAKilledProcessIsTakenAwayAndOneInTheMakingIsNot) {
     const fresh_file making(template_file, path("making.kel"));
     EXPECT_FALSE(exists(beside)) << "by the next one that is made in the folder";
     write_file(beside, "left again");
+    write_file(path("FARM.KEL.unfinished"), "left");
+    write_file(path("farm.pdf.unfinished"), "no assessment");
     clear_left_behind(other);
     EXPECT_FALSE(exists(beside)) << "by the next opening";
+    EXPECT_FALSE(exists(path("FARM.KEL.unfinished")));
+    EXPECT_TRUE(exists(path("farm.pdf.unfinished")));
     EXPECT_FALSE(exists(beside + "-journal"));
     EXPECT_TRUE(exists(path("making.kel.unfinished")));
     EXPECT_THROW(fresh_file(template_file, path("making.kel")), file_error);

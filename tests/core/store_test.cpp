@@ -281,6 +281,8 @@ TEST_F(Store, AKillInTheMiddleOfASaveLeavesTheOldRowsWhole) {
         save_grid(db, "Misc", items(20000, std::string(300, 'n')), 20000);
         kill(getpid(), SIGKILL);
     });
+    copy_assessment(state.assess_file, path("copy.kel"));
+    EXPECT_EQ(column_of(path("copy.kel"), "Misc", "Value"), (std::vector<std::string>{"old", "old", "old"}));
     EXPECT_EQ(column_of(state.assess_file, "Misc", "Value"), (std::vector<std::string>{"old", "old", "old"}));
 }
 

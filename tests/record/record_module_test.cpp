@@ -202,7 +202,7 @@ TEST_F(FieldRecord, ACsvFileThatCannotBeWrittenLosesNothing) {
     EXPECT_THROW(module.export_csv(""), file_error);
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device here that is always full";
     write_file(path("kept.csv"), "mine");
-    std::filesystem::create_symlink("/dev/full", path("kept.csv.new"));
+    std::filesystem::create_symlink("/dev/full", path("kept.csv.unfinished"));
     person.expect_file("CSV Export", path("kept.csv"));
     EXPECT_THROW(module.export_csv(""), file_error);
     EXPECT_EQ(file_text(path("kept.csv")), "mine");

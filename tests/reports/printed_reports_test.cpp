@@ -32,11 +32,13 @@ class PrintedReports : public test::farm_test, public report_viewer {
 TEST_F(PrintedReports, AReportKeepsWhoseItIsHoweverTheFarmIsCalled) {
     open_farm({});
     state.kel_year_start = make_date(19, 12, 2024);
+    const std::string mark = origin_of(state, {}).file;
+    EXPECT_EQ(mark.find("kel"), std::string::npos) << "a page that goes to others names no folder";
     for (const char* farm :
          {"Mains & Sons", "a --> b <body> c", "&amp;lt; \"x\"; year 2", "two\nlines\r", "Bràigh"}) {
         generate("KEL_report_record.htm", farm);
         EXPECT_EQ(origin("KEL_report_record.htm"),
-                  (page_origin{farm, make_date(19, 12, 2024), make_date(3, 4, 2026)}));
+                  (page_origin{farm, make_date(19, 12, 2024), make_date(3, 4, 2026), mark}));
     }
     // The name that the file has counts, not the one from the last load.
     state.farm_name = "Old Name";
@@ -72,6 +74,19 @@ TEST_F(PrintedReports, OnlyThoseOfTheOpenAssessmentUnlessThePersonWantsTheOthers
     EXPECT_EQ(reports_to_print(state, person),
               (std::vector<std::string>{own[0], path("KEL_report_storage.htm"),
                                         path("KEL_report_compost.htm"), own[1]}));
+    // So is another file with a farm of the same name in the same year.
+    const std::string first = std::exchange(state.assess_file, make_farm("second.kel", {}));
+    person.expect(
+        printed_reports_messages::others_too(
+            {"Farm Profile: Test Farm, KEL year 19 December 2024 to 18 December 2025, in another file",
+             "Slurry storage and closed periods: Other Farm, KEL year 19 December 2024 to 18 "
+             "December 2025",
+             "In Field Composting of Vegetable Crop Residues to Minimise Nitrate Leaching: farm and "
+             "year not known",
+             "Field Record: Test Farm, KEL year 19 December 2024 to 18 December 2025, in another file"}),
+        answer::cancel);
+    EXPECT_TRUE(reports_to_print(state, person).empty());
+    state.assess_file = first;
     // Another year of the same farm is another assessment.
     state.kel_year_start = make_date(19, 12, 2025);
     person

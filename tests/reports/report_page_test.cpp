@@ -63,12 +63,12 @@ TEST_F(ReportPage, WritingReplacesTheWholeOldPageAndAFullDiscLeavesIt) {
     write_file(report, "an older and much longer page\n");
     write_page(report, {"<HTML>", "</html>"});
     EXPECT_EQ("<HTML>\n</html>\n", file_text(report));
-    EXPECT_FALSE(std::filesystem::exists(report + ".new"));
+    EXPECT_FALSE(std::filesystem::exists(report + ".unfinished"));
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device here that is always full";
-    std::filesystem::create_symlink("/dev/full", report + ".new");
+    std::filesystem::create_symlink("/dev/full", report + ".unfinished");
     EXPECT_THROW(write_page(report, {"another"}), file_error);
     EXPECT_EQ("<HTML>\n</html>\n", file_text(report));
-    EXPECT_FALSE(std::filesystem::is_symlink(report + ".new"));
+    EXPECT_FALSE(std::filesystem::is_symlink(report + ".unfinished"));
 }
 
 auto holds(std::string_view piece) {

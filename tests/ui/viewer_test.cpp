@@ -314,7 +314,7 @@ TEST_F(Viewer, AStorageReportIsSavedWithItsChartAndWithoutOneWhenItHasNone) {
         file_error(chart, "the chart could not be written. The folder may be read-only or the disc full.")));
     click(screen("storage"), "cmdReport");
     EXPECT_EQ(file_text(chart), "the chart of before");
-    std::filesystem::remove_all(chart + ".new");
+    std::filesystem::remove_all(chart + ".unfinished");
     person.expect(module_messages::close_module, answer::yes);
     press("storage", "cmdStorage_cancel");
     for (const bool with_stores : {true, false}) {
