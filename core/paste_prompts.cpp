@@ -24,6 +24,13 @@ std::string_view word_of(answer given) {
 
 }  // namespace
 
+message too_much_to_paste(std::size_t cells) {
+    return {"Paste",
+            "These are " + std::to_string(cells) + " cells. At most " + std::to_string(most_pasted_cells) +
+                " can be pasted at once, so nothing has been pasted. Please paste them in parts.",
+            message_kind::information, message_buttons::ok};
+}
+
 message for_all_of_paste(message question) {
     question.text += std::string(line_break) + std::string(line_break) +
                      "The answer is taken for this question in all of this paste.";

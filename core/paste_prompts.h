@@ -2,6 +2,7 @@
 // end, and asks each question once for all of the paste.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,6 +33,10 @@ class paste_prompts : public prompts {
     std::vector<std::string> told_;
     std::vector<std::pair<message, answer>> answered_;
 };
+
+/// More would keep the person waiting for minutes.
+inline constexpr std::size_t most_pasted_cells = 50'000;
+message too_much_to_paste(std::size_t cells);
 
 /// How a question is asked that stands for all of its kind.
 message for_all_of_paste(message question);

@@ -68,6 +68,13 @@ cell_block parse_block(std::string_view text) {
     return block;
 }
 
+std::size_t cells_of(const cell_block& block) {
+    std::size_t cells = 0;
+    for (const auto& row : block)
+        cells += row.size();
+    return cells;
+}
+
 std::string block_text(const cell_block& block) {
     std::string text;
     for (const auto& row : block) {

@@ -166,6 +166,10 @@ TEST_F(Paper, WideTablesLieAcrossWithTheirFiguresWhole) {
         EXPECT_EQ(count(std::to_string(100 + month) + ".1155"), 2);
     print(long_table(3).lines());
     EXPECT_FALSE(job->lies_across(0));
+    report_table applications;
+    applications.add_row(texts(8, "20"));
+    print(applications.lines());
+    EXPECT_TRUE(job->lies_across(0)) << "however short its words are";
 }
 
 TEST_F(Paper, AHeadingStaysWithTheFirstRowOfItsTable) {

@@ -17,6 +17,7 @@
 #include "core/block_entry.h"
 #include "core/file_error.h"
 #include "core/grid_history.h"
+#include "core/paste_prompts.h"
 #include "core/record_import.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/entry_box.h"
@@ -187,6 +188,8 @@ void module_screen::paste(grid_view& grid, const box_set& boxes, const click_ope
     if (!paste_port_ || block.empty()) return;
     for (auto* earlier : findChildren<paste_list*>())
         earlier->close();
+    if (const std::size_t cells = cells_of(block); cells > most_pasted_cells)
+        return paste_port_->tell(too_much_to_paste(cells));
     const entry_target target{grid.shown(), click, [&](box_id box) { return &boxes.pasted(box); },
                               boxes.paste_year(),
                               [&](int row) { return grid.stored_row(grid.shown_row(row) + 1); }};

@@ -1,5 +1,6 @@
 #include "ui/widgets/paper_document.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QPaintDevice>
@@ -7,6 +8,7 @@
 #include <QTextCursor>
 #include <QTextOption>
 #include <QTextTable>
+#include <QTimerEvent>
 #include <algorithm>
 
 #include "ui/widgets/page_address.h"
@@ -71,6 +73,22 @@ QList<int> breaks_of(const QString& text) {
         }
     }
     return breaks;
+}
+
+// The layout goes on in steps that grow, each begun by a timer. One who asks for all of it gets steps of the
+// first size, each of which looks through all tables that are left: the timer's events are sent at once.
+void lay_out_in_growing_steps(QAbstractTextDocumentLayout& layout) {
+    constexpr int most_steps = 1000;  // more than any page takes
+    const auto* events = QAbstractEventDispatcher::instance();
+    bool goes_on = events != nullptr;
+    for (int step = 0; goes_on && step < most_steps; ++step) {
+        const auto timers = events->registeredTimers(&layout);
+        goes_on = !timers.isEmpty();
+        for (const auto& timer : timers) {
+            QTimerEvent now(timer.timerId);
+            QCoreApplication::sendEvent(&layout, &now);
+        }
+    }
 }
 
 }  // namespace
@@ -153,6 +171,7 @@ double paper_document::lay_out(QPaintDevice* device, double width_px) {
     setDefaultFont(QFont(defaultFont(), device));
     documentLayout()->setPaintDevice(device);
     setTextWidth(width_px);
+    lay_out_in_growing_steps(*documentLayout());
     double taken = 0;
     for (const QTextFrame* frame : rootFrame()->childFrames())
         taken = std::max(taken, documentLayout()->frameBoundingRect(const_cast<QTextFrame*>(frame)).width());

@@ -9,7 +9,7 @@ namespace kel {
 namespace {
 
 // From so many columns on a table is wide, however short its words are.
-constexpr int columns_of_wide_table = 9;
+constexpr int columns_of_wide_table = 8;
 // A table of full width is wider than the text by its border.
 constexpr double wider_at_most = 1.01;
 
