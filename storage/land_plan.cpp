@@ -87,18 +87,37 @@ void fill_empty_months(text_grid& land, int row) {
 // The areas are Step 1's, and stand in the file as that saved them, unless they were imported.
 enum class written { what_is_entered, every_column };
 
-// Where it is not empty. A month that is closed in the file is open again when its cell is empty: the field's
-// use has been entered anew.
-void set_filled_cells(recordset& target, const std::vector<int>& stored, const text_grid& grid, int row,
-                      written what) {
-    for (int c = 0; c < grid.column_count(); ++c) {
-        const bool is_entered = grid.columns()[static_cast<std::size_t>(c)].kind == column_kind::entered;
-        if (!is_entered && what == written::what_is_entered) continue;
-        const int into = stored[static_cast<std::size_t>(c)];
-        const std::string& text = grid.cell(row, c);
-        if (!text.empty() || target.text(into) == closed_month) target.set_kept(into, text);
+// One of the plan's tables and the row set that it is written into.
+struct plan_writer {
+    recordset& target;
+    const text_grid& grid;
+    written what;
+    std::vector<int> stored = stored_columns(target, grid);
+
+    // Where a cell is not empty. A month that is closed in the file is open again when its cell is empty: the
+    // field's use has been entered anew.
+    template <class Action>
+    void for_each_written(int row, Action action) const {
+        const auto cells = grid.row(row);
+        for (std::size_t c = 0; c < cells.size(); ++c) {
+            const bool is_entered = grid.columns()[c].kind == column_kind::entered;
+            if (!is_entered && what == written::what_is_entered) continue;
+            const std::string_view there = target.view(stored[c]);
+            if (!cells[c].empty() || there == closed_month) action(stored[c], cells[c], there);
+        }
     }
-}
+    bool changes(int row) const {
+        bool changes = false;
+        for_each_written(row, [&](int, const std::string& text, std::string_view there) {
+            changes = changes || text != there;
+        });
+        return changes;
+    }
+    void set(int row) const {
+        for_each_written(
+            row, [&](int into, const std::string& text, std::string_view) { target.set_kept(into, text); });
+    }
+};
 
 void open_closed_months(text_grid& grid, int row, int january) {
     for (int column = january; column < january + months_in_year; ++column)
@@ -110,17 +129,19 @@ void write_plan(const database& db, const land_plan& plan, written what) {
     for (int row = 0; row < plan.fields(); ++row)
         rows_of_field.emplace(plan.land.cell(row, plan_column::field), row);
     recordset rows = db.open("Land");
-    const std::vector<int> land = stored_columns(rows, plan.land);
-    const std::vector<int> spreading = stored_columns(rows, plan.spreading);
+    const plan_writer land{rows, plan.land, what};
+    const plan_writer spreading{rows, plan.spreading, what};
     for (; !rows.eof(); rows.move_next()) {
-        const std::string name = rows.text(land[plan_column::field]);
+        const std::string_view name = rows.view(land.stored[plan_column::field]);
         const auto found = rows_of_field.lower_bound(name);
         if (found == rows_of_field.end() || found->first != name) continue;
-        rows.edit();
-        set_filled_cells(rows, land, plan.land, found->second, what);
-        set_filled_cells(rows, spreading, plan.spreading, found->second, what);
-        rows.update();
+        const int row = found->second;
         rows_of_field.erase(found);
+        if (!land.changes(row) && !spreading.changes(row)) continue;
+        rows.edit();
+        land.set(row);
+        spreading.set(row);
+        rows.update();
     }
 }
 

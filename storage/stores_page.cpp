@@ -83,7 +83,9 @@ store_form form_of(const text_grid& stores, int row) {
 }  // namespace
 
 stores_page::stores_page(application_state& state, prompts& person)
-    : state_(state), person_(person), stores_(empty_stores()) {}
+    : state_(state), person_(person), stores_(empty_stores()) {
+    history_.on_restored([this] { save(); });
+}
 
 bool stores_page::refuse(const message& reason) {
     person_.tell(reason);
@@ -160,6 +162,7 @@ void stores_page::save_imported(const database& db) const {
 
 void stores_page::set_saved(const database& db) {
     if (std::exchange(imported_, false)) loaded_.remember(db);
+    history_.begin_anew();
 }
 
 bool stores_page::import_records(import_mode mode) {
@@ -173,6 +176,7 @@ bool stores_page::import_records(import_mode mode) {
 void stores_page::take(text_grid stores) {
     stores_ = std::move(stores);
     imported_ = false;
+    history_.begin_anew();
 }
 
 text_grid empty_stores() {

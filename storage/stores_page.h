@@ -9,6 +9,7 @@
 
 #include "core/application_state.h"
 #include "core/assessment_store.h"
+#include "core/grid_history.h"
 #include "core/grid_rows.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
@@ -25,6 +26,10 @@ class stores_page {
     /// stores_table.
     const text_grid& stores() const { return stores_; }
     bool has_stores() const { return stores_.data_row_count() > 0; }
+
+    /// Undo and redo of the stores since they were last read from the file; what is undone there is written
+    /// at once, too.
+    grid_history& history() { return history_; }
 
     /// cmdStores_add, "Add To List". True: the store stands in the table, and the boxes are emptied.
     bool add_store(const store_form& form);
@@ -62,6 +67,7 @@ class stores_page {
     loaded_rows loaded_{{{"Slurry_store"}}};
     text_grid stores_;
     bool imported_ = false;  // rows that the file does not hold yet
+    grid_history history_{stores_, imported_};
 };
 
 /// The empty row only.

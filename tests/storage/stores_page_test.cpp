@@ -64,6 +64,32 @@ TEST_F(StoresPage, EditTakesTheStoreOutAtOnce) {
     EXPECT_EQ(stored("Slurry_store", "Store_name"), (texts{"Pit", "Tank"}));
 }
 
+TEST_F(StoresPage, WhatIsUndoneIsWrittenAtOnceButForImportedStores) {
+    open({{"Home", "10"}});
+    add_store("Tank", "50");
+    add_store("Pit", "20");
+    walk_to_stores();
+    grid_history& history = module.stores().history();
+    EXPECT_FALSE(history.record());
+    ASSERT_TRUE(module.stores().delete_store(0));
+    EXPECT_TRUE(history.record());
+    history.undo();
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), (texts{"Tank", "Pit"}));
+    history.redo();
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Pit"});
+
+    const std::string other = make_farm("other.kel", {});
+    add_row(other, "Slurry_store", {{"Store_name", "Lagoon"}});
+    person.expect_file("Add data from another assessment", other);
+    ASSERT_TRUE(module.stores().import_records(import_mode::add));
+    EXPECT_TRUE(history.record());
+    history.undo();
+    EXPECT_FALSE(module.stores().imported());
+    history.redo();
+    EXPECT_TRUE(module.stores().imported());
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Pit"}) << "they wait for the save of the plan";
+}
+
 TEST_F(StoresPage, EmptyRowIsNeitherEditedNorDeletedAndAFailedWriteLeavesTheTable) {
     open({{"Home", "10"}});
     add_store("Tank", "50");

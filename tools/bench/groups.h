@@ -8,9 +8,9 @@
 
 // The start comes first: it measures the memory of children, and a child counts the memory of the process
 // that it was made from as its own until it has more.
-#define KEL_BENCH_GROUPS(group)                                                                          \
-    group(start) group(land) group(profile) group(land_screen) group(manure) group(storage) group(crops) \
-        group(grass) group(record) group(print) group(why) group(check) group(calendar)
+#define KEL_BENCH_GROUPS(group)                                                                           \
+    group(start) group(land) group(profile) group(land_screen) group(typing) group(manure) group(storage) \
+        group(crops) group(grass) group(record) group(print) group(why) group(check) group(calendar)
 
 namespace kel::bench {
 

@@ -87,6 +87,7 @@ void frmStorage::refresh() {
 
 void frmStorage::show_page() {
     const storage_page page = module_.page();
+    switch_history(page == storage_page::stores ? module_.stores().history() : module_.plan().history());
     for (QPushButton* button : {report_, save_})
         button->setVisible(page == storage_page::plan);
     back_->setVisible(page != storage_page::water);

@@ -32,6 +32,7 @@ class frmStorage : public module_screen {
     using module_screen::add_table_import;
     using module_screen::disable_meanwhile;
     using module_screen::new_text;
+    using module_screen::undo_with;
 
   protected:
     bool may_close() override { return module_.close(); }

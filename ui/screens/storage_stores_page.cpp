@@ -84,6 +84,7 @@ QWidget* storage_stores_page::table(frmStorage& screen) {
     table_ = new grid_view(page_.stores(), "MSFlexGridStores", panel);
     table_->setAccessibleName(tr("Slurry stores"));
     layout->addWidget(table_, 1);
+    screen.undo_with(*table_);
     auto* row = new QHBoxLayout;
     screen.add_command(row, tr("&Edit Row"), "cmdStores_edit", [this] { edit_store(); })
         ->setToolTip(tr("Takes the selected store out of the table and puts it into the boxes"));

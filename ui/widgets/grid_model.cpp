@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <algorithm>
+#include <utility>
 
 #include "ui/widgets/qt_text.h"
 
@@ -26,7 +28,11 @@ bool is_figure(const std::string& text) {
 }  // namespace
 
 grid_model::grid_model(const text_grid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(&grid), order_(grid), shown_rows_(grid.row_count()) {}
+    : QAbstractTableModel(parent),
+      grid_(&grid),
+      order_(grid),
+      shown_rows_(grid.row_count()),
+      shown_(rows_in_order()) {}
 
 void grid_model::refresh() {
     const int rows = grid_->row_count();
@@ -41,7 +47,34 @@ void grid_model::refresh() {
         shown_rows_ = rows;
         endRemoveRows();
     }
-    if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+    announce_changes();
+}
+
+text_grid::shared_rows grid_model::rows_in_order() const {
+    const text_grid::shared_rows stored = grid_->rows_from(0, grid_->row_count());
+    text_grid::shared_rows rows;
+    rows.reserve(stored.size());
+    for (int row = 0; row < grid_->row_count(); ++row)
+        rows.push_back(stored[static_cast<std::size_t>(order_.stored(row))]);
+    return rows;
+}
+
+// A row that nobody has written to is still the same one.
+void grid_model::announce_changes() {
+    const text_grid::shared_rows before = std::exchange(shown_, rows_in_order());
+    const int rows = static_cast<int>(std::min(before.size(), shown_.size()));
+    const auto same = [&](int row) {
+        const auto& was = before[static_cast<std::size_t>(row)];
+        const auto& now = shown_[static_cast<std::size_t>(row)];
+        return was == now || *was == *now;
+    };
+    for (int row = 0; row < rows; ++row) {
+        if (same(row)) continue;
+        const int first = row;
+        while (row + 1 < rows && !same(row + 1))
+            ++row;
+        emit dataChanged(index(first, 0), index(row, columnCount() - 1));
+    }
 }
 
 // Whoever holds a place in the table keeps it on its row.
@@ -57,6 +90,7 @@ void grid_model::change_order(Change change) {
     for (qsizetype i = 0; i < before.size(); ++i)
         after.append(index(order_.shown(stored[static_cast<std::size_t>(i)]), before[i].column()));
     changePersistentIndexList(before, after);
+    shown_ = rows_in_order();
     emit layoutChanged();
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }

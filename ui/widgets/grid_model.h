@@ -17,7 +17,8 @@ class grid_model : public QAbstractTableModel {
     explicit grid_model(const text_grid& grid, QObject* parent = nullptr);
 
     const text_grid& grid() const { return *grid_; }
-    /// Shows the grid as it now is; the current cell stays where it was.
+    /// Shows the grid as it now is, and announces the rows that have changed; the current cell stays where it
+    /// was.
     void refresh();
 
     const shown_rows& order() const { return order_; }
@@ -39,10 +40,13 @@ class grid_model : public QAbstractTableModel {
   private:
     template <class Change>
     void change_order(Change change);
+    text_grid::shared_rows rows_in_order() const;
+    void announce_changes();
 
     const text_grid* grid_;
     shown_rows order_;
-    int shown_rows_;  // how many
+    int shown_rows_;                // how many
+    text_grid::shared_rows shown_;  // as they were announced last
     int sorted_column_ = -1;
     bool descending_ = false;
 };

@@ -97,6 +97,9 @@ class module_screen : public QWidget {
     /// Gives the screen the panel "Why?" at the side of `tables`, a widget of its layout, and the button that
     /// opens it. Call it last, when the layout, its tables and its Edit menu stand.
     void use_explanations(QWidget* tables, why_source source);
+    /// Lets the Edit menu undo by another history, as for another page, and while this grid is in view.
+    void switch_history(grid_history& history) { history_ = &history; }
+    void undo_with(grid_view& grid) { grids_.push_back(&grid); }
     /// What a person did is done: whatever it changed in the tables is one step of undo.
     void record_changes();
     /// Keeps this control, too, disabled while a box is open.
