@@ -107,11 +107,11 @@ struct plan_writer {
         }
     }
     bool changes(int row) const {
-        bool changes = false;
+        bool differs = false;
         for_each_written(row, [&](int, const std::string& text, std::string_view there) {
-            changes = changes || text != there;
+            differs = differs || text != there;
         });
-        return changes;
+        return differs;
     }
     void set(int row) const {
         for_each_written(

@@ -44,6 +44,8 @@ class plan_page {
     const std::optional<storage_balance>& balance() const { return balance_; }
     /// Undo and redo of its tables since the last load or save.
     grid_history& history() { return history_; }
+    /// Whether its tables differ from what was loaded or last saved.
+    bool unsaved() const { return history_.unsaved(); }
 
     plan_tab tab() const { return tab_; }
     /// The tab that is to stand in front when the person turns to `wanted`. Without a capacity the land table

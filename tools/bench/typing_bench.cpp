@@ -44,15 +44,17 @@ class land_table {
     land_table() {
         screen_->resize(1220, 720);
         screen_->show();
-        grid_->go_to(rows / 2, grass_column);
+        screen_->activateWindow();  // for the keys of its menu
         drive::settle();
     }
 
     /// A figure typed on the cell and Enter: from Enter to the painted table, the next row current.
     double typed_ms(int step) {
-        const int row = grid_->current_row();
-        QKeyEvent digit(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier,
-                        QString::fromStdString(area_of(step + row)));
+        constexpr int row = rows / 2;
+        grid_->setFocus();
+        grid_->go_to(row, grass_column);
+        drive::settle();
+        QKeyEvent digit(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, QString::fromStdString(area_of(step)));
         QApplication::sendEvent(grid_, &digit);
         drive::settle();
         QWidget* edit = drive::control(screen_.get(), "txtLand_area");
@@ -75,10 +77,9 @@ class land_table {
 
 /// MB that the steps keep, each an area entered in another row.
 double undo_memory_mb() {
-    const bench_farm farm(rows);
-    application_state state = farm.state;
+    bench_farm farm(rows);
     silent_person person;
-    land_module module(state, person);
+    land_module module(farm.state, person);
     module.load_land_stuff();
     const auto before = mallinfo2().uordblks;
     for (int step = 0; step < undo_steps; ++step) {
@@ -104,8 +105,8 @@ QString applications_text() {
 
 double paste_ms() {
     bench_desktop desktop;
-    const bench_farm farm(pasted_lines);
-    application_state state = farm.state;
+    bench_farm farm(pasted_lines);
+    application_state& state = farm.state;
     state.kel_year_start = read_assessment_year(state.assess_file);
     {
         const database db(state.assess_file);

@@ -70,7 +70,7 @@ void frmStorage::and_refresh(const std::function<void()>& work) {
 
 // The stores are written as they are entered, but for imported ones.
 bool frmStorage::unsaved() const {
-    return module_screen::unsaved() || module_.stores().imported();
+    return module_.plan().unsaved() || module_.stores().imported();
 }
 
 void frmStorage::refresh() {
