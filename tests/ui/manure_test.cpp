@@ -34,6 +34,7 @@ TEST_F(ManureScreen, EveryBoxWritesItsCellAndSaveWritesThemAll) {
     fill_box("reduction", "Reductions_incorporation", "Over 6 hours");
     EXPECT_EQ(cell(table, 0, 2), "Over 6 hours");
     EXPECT_EQ(cell(table, 0, 3), slurry);
+    EXPECT_TRUE(table->fits(3, qt(slurry))) << "slurries of one animal differ at their ends";
     fill_boxes("reduction", table,
                {{0, 4, "Reductions_date", "03/03/2025", "03/03/2025"},
                 {0, 5, "Reductions_area", "10", "10"},

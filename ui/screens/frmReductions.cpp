@@ -130,6 +130,8 @@ void frmReductions::add_entry_boxes() {
 void frmReductions::refresh() {
     table_->refresh();
     results_->refresh();
+    // Manures that begin alike differ at their ends.
+    table_->fit_column(manure_column::manure);
 }
 
 void frmReductions::reload() {

@@ -19,7 +19,6 @@ first_column::first_column(grid_view& grid) : QTableView(&grid), grid_(grid) {
     setAccessibleName(grid.accessibleName());
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(grid.verticalHeader()->defaultSectionSize());
     horizontalHeader()->setDefaultAlignment(grid.horizontalHeader()->defaultAlignment());
     horizontalHeader()->setHighlightSections(false);
     disconnect(horizontalHeader(), SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
@@ -41,10 +40,16 @@ void first_column::place() {
     horizontalHeader()->setSectionsClickable(shown.sectionsClickable());
     horizontalHeader()->setSortIndicatorShown(shown.isSortIndicatorShown());
     horizontalHeader()->setSortIndicator(shown.sortIndicatorSection(), shown.sortIndicatorOrder());
+    verticalHeader()->setDefaultSectionSize(grid_.verticalHeader()->defaultSectionSize());
     setColumnWidth(0, grid_.columnWidth(0));
     setGeometry(grid_.frameWidth(), grid_.frameWidth(), grid_.columnWidth(0),
                 heading + grid_.viewport()->height());
     verticalScrollBar()->setValue(grid_.verticalScrollBar()->value());
+}
+
+void first_column::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    paint_current_cell(*this);
 }
 
 void first_column::mousePressEvent(QMouseEvent* event) {

@@ -2,23 +2,39 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
-#include <unordered_set>
 
+#include "ui/widgets/find_strip.h"
 #include "ui/widgets/first_column.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
 
 namespace {
-constexpr int cell_padding_px = 12;
-constexpr int narrow_padding_px = 8;
-constexpr int row_padding_px = 8;
+
+// Widths are laid out for a view that has its model, and rows of one height.
+QTableView& with_model(QTableView& view, QAbstractItemModel* model) {
+    view.setModel(model);
+    view.verticalHeader()->hide();
+    view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    return view;
+}
+
 }  // namespace
+
+void paint_current_cell(QTableView& table) {
+    const QRect cell = table.visualRect(table.currentIndex());
+    if (cell.isEmpty()) return;
+    constexpr int frame_px = 2;
+    QPainter painter(table.viewport());
+    const QColor ink = table.palette().color(QPalette::Text);
+    painter.setPen(QPen(ink, frame_px, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(cell.adjusted(frame_px / 2, frame_px / 2, -frame_px / 2, -frame_px / 2));
+}
 
 bool types_character(const QKeyEvent& key) {
     constexpr auto command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -27,93 +43,32 @@ bool types_character(const QKeyEvent& key) {
 }
 
 grid_view::grid_view(const text_grid& grid, const QString& name, QWidget* parent)
-    : QTableView(parent), model_(new grid_model(grid, this)) {
+    : QTableView(parent), model_(new grid_model(grid, this)), widths_(with_model(*this, model_), *model_) {
     setObjectName(name);
-    setModel(model_);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
     setHorizontalScrollMode(ScrollPerPixel);
     setWordWrap(false);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_padding_px);
-    lay_out_columns();
     make_sortable();
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { keep_first_column(); });
+    connect(&widths_, &grid_widths::zoomed, this, [this] { keep_first_column(); });
 }
 
-int grid_view::laid_out_width(int column) const {
-    const grid_column& laid = model_->grid().columns()[static_cast<std::size_t>(column)];
-    return laid.width * fontMetrics().averageCharWidth() + cell_padding_px;
-}
-
-void grid_view::lay_out_columns() {
-    QHeaderView* header = horizontalHeader();
-    header->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
-    header->setHighlightSections(false);
-    int height = 0;
-    for (int c = 0; c < model_->columnCount(); ++c) {
-        const grid_column& column = model_->grid().columns()[static_cast<std::size_t>(c)];
-        setColumnHidden(c, column.kind == column_kind::carried);
-        const int width = laid_out_width(c);
-        setColumnWidth(c, width);
-        if (isColumnHidden(c)) continue;
-        const QRect room(0, 0, width - cell_padding_px, 1000);
-        const QString heading = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
-        height = std::max(
-            height,
-            header->fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, heading).height());
-    }
-    header->setFixedHeight(height + cell_padding_px);
-}
-
-void grid_view::narrow_column(int column, const QString& widest) {
-    const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    const int needed = std::max(horizontalHeader()->fontMetrics().horizontalAdvance(heading),
-                                fontMetrics().horizontalAdvance(widest));
-    setColumnWidth(column, needed + narrow_padding_px);
-}
-
-void grid_view::fit_column(int column) {
-    int width = laid_out_width(column);
-    std::unordered_set<std::string_view> measured;  // a column has few texts, many times over
-    for (int row = 0; row < model_->grid().row_count(); ++row) {
-        const std::string& text = model_->grid().cell(row, column);
-        if (measured.insert(text).second)
-            width = std::max(width, fontMetrics().horizontalAdvance(qt(text)) + cell_padding_px);
-    }
-    setColumnWidth(column, width);
-}
-
-bool grid_view::fits(int column, const QString& text) const {
-    return fontMetrics().horizontalAdvance(text) + narrow_padding_px <= columnWidth(column);
-}
-
-void grid_view::wrap_column(int column) {
-    wrapped_column_ = column;
-    setWordWrap(true);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &grid_view::lay_out_rows);
-    lay_out_rows();
-}
-
-// Measured here and not by the table, which leaves out the columns that are not in view.
-void grid_view::lay_out_rows() {
-    if (wrapped_column_ < 0) return;
-    const QRect room(0, 0, columnWidth(wrapped_column_) - narrow_padding_px, QWIDGETSIZE_MAX);
-    for (int row = 0; row < model_->rowCount(); ++row) {
-        const QString text = model_->index(row, wrapped_column_).data().toString();
-        const int text_height = fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height();
-        setRowHeight(row, std::max(fontMetrics().height(), text_height) + row_padding_px);
-    }
-}
-
-// The first column, which holds names, takes the width that the others leave, unless one is wrapped.
 void grid_view::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
-    const int wide = std::max(0, wrapped_column_);
-    const int others = horizontalHeader()->length() - columnWidth(wide);
-    setColumnWidth(wide, std::max(laid_out_width(wide), viewport()->width() - others));
+    widths_.fill_room();
     keep_first_column();
+}
+
+void grid_view::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    paint_current_cell(*this);
+}
+
+void grid_view::find() {
+    if (locked_) return;
+    if (!find_) find_ = new find_strip(*this);
+    find_->open();
 }
 
 // Over half of a narrow grid it would hide more than it tells.
@@ -173,14 +128,14 @@ void grid_view::sort_on(int column) {
     horizontalHeader()->setSortIndicatorShown(model_->sorted_column() >= 0);
     horizontalHeader()->setSortIndicator(model_->sorted_column(),
                                          model_->descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
-    lay_out_rows();
+    widths_.lay_out_rows();
     if (row >= 0) go_to(row, current);
 }
 
 void grid_view::show_as_stored() {
     model_->show_as_stored();
     horizontalHeader()->setSortIndicatorShown(false);
-    lay_out_rows();
+    widths_.lay_out_rows();
 }
 
 void grid_view::keep_stored_order() {
@@ -196,7 +151,7 @@ void grid_view::refresh() {
     model_->refresh();
     if (!takes_entries_) model_->sort_again();
     horizontalHeader()->setSortIndicatorShown(model_->sorted_column() >= 0);
-    lay_out_rows();
+    widths_.lay_out_rows();
     if (row >= 0 && model_->rowCount() > 0 && !currentIndex().isValid())
         setCurrentIndex(model_->index(std::min(row, model_->rowCount() - 1), column));
 }
@@ -276,6 +231,14 @@ bool grid_view::take_command(const QKeyEvent& event) {
         copy_selection();
     else if (with_control(Qt::Key_L, Qt::ShiftModifier))
         sort_on(current_column());
+    else if (event.matches(QKeySequence::Find))
+        find();
+    else if (event.matches(QKeySequence::ZoomIn) || with_control(Qt::Key_Equal))
+        widths_.zoom(1);
+    else if (event.matches(QKeySequence::ZoomOut))
+        widths_.zoom(-1);
+    else if (with_control(Qt::Key_0))
+        widths_.zoom(0);
     else if (!takes_entries_)
         return false;
     else if (event.key() == Qt::Key_Delete)

@@ -13,13 +13,19 @@
 #include "core/entry.h"
 #include "core/pasted_block.h"
 #include "ui/widgets/grid_model.h"
+#include "ui/widgets/grid_widths.h"
 
 namespace kel {
 
+class find_strip;
 class first_column;
 
 /// Where the current cell goes after an entry.
 enum class cell_step { none, down, right, left };
+
+/// A frame round the current cell, in a colour that stands out from the selected cells and from the others,
+/// whether the table has the focus or not.
+void paint_current_cell(QTableView& table);
 
 /// Whether the key types a character, rather than to command something.
 bool types_character(const QKeyEvent& key);
@@ -56,14 +62,18 @@ class grid_view : public QTableView {
     void keep_stored_order();
 
     /// Makes the column as narrow as its heading in one line and this text allow.
-    void narrow_column(int column, const QString& widest);
+    void narrow_column(int column, const QString& widest) { widths_.narrow(column, widest); }
     /// Makes the column as wide as its longest text needs, at least as wide as it was laid out.
-    void fit_column(int column);
+    void fit_column(int column) { widths_.fit(column); }
     /// Whether a cell of the column shows the text in full.
-    bool fits(int column, const QString& text) const;
+    bool fits(int column, const QString& text) const { return widths_.fits(column, text); }
     /// Wraps the texts of this column, which takes the width that the others leave; each row becomes as high
     /// as its text needs.
-    void wrap_column(int column);
+    void wrap_column(int column) { widths_.wrap(column); }
+    grid_widths& widths() { return widths_; }
+    const grid_widths& widths() const { return widths_; }
+    /// Opens the strip in which a row is looked for by part of a name.
+    void find();
 
     /// Shows the grid as it now is and puts the current cell back within it.
     void refresh();
@@ -98,24 +108,23 @@ class grid_view : public QTableView {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void lay_out_columns();
-    void lay_out_rows();
     bool leaves_by_tab(const QKeyEvent* event) const;
-    int laid_out_width(int column) const;
     void keep_first_column();
     bool begins_entry(const QKeyEvent& event) const;
     bool take_command(const QKeyEvent& event);
     void go_to_shown(int row, int column);
     void make_sortable();
     grid_model* model_;
+    grid_widths widths_;
     first_column* first_ = nullptr;  // made at the first scroll sideways
+    find_strip* find_ = nullptr;     // made as it is first asked for
     bool locked_ = false;
     bool takes_entries_ = false;
     bool sortable_ = true;
-    int wrapped_column_ = -1;  // none
 };
 
 }  // namespace kel

@@ -293,6 +293,10 @@ void module_screen::fill_edit_menu(QMenu& menu) {
     add_to_grid(tr("Fill &Down\tCtrl+D"), "mnuModule_fill",
                 [](grid_view* grid) { emit grid->fill_wanted(); });
     add_to_grid(tr("C&lear\tDel"), "mnuModule_clear", [](grid_view* grid) { emit grid->clear_wanted(); });
+    menu.addSeparator();
+    add_to_grid(tr("&Find...\tCtrl+F"), "mnuModule_find", [](grid_view* grid) { grid->find(); });
+    add_to_grid(tr("&Sort by This Column\tCtrl+Shift+L"), "mnuModule_sort",
+                [](grid_view* grid) { grid->sort_on(grid->current_column()); });
     // Grey only as long as they are seen, so that the keys always ask the history itself.
     connect(&menu, &QMenu::aboutToShow, this, [=, this] {
         undo->setEnabled(front_grid() && history_->can_undo());
