@@ -19,6 +19,7 @@
 
 #include "core/assessment_files.h"
 #include "tools/screen_driver.h"
+#include "tools/unseen_screen.h"
 #include "ui/kel_application.h"
 #include "ui/program.h"
 #include "ui/screens/map_view.h"
@@ -446,6 +447,8 @@ void walk::all() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    QTemporaryFile screen;
+    drive::use_unseen_screen(screen, {1920, 1080});
     kel_application application(argc, argv);
     if (argc != 2) {
         std::fputs("usage: kel_walkthrough FOLDER\n", stderr);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QProcess>
 #include <QUrl>
 #include <QWidget>
@@ -12,6 +13,7 @@
 #include <type_traits>
 
 #include "core/file_error.h"
+#include "ui/help_topics.h"
 #include "ui/kel_application.h"
 #include "ui/qt_prompts.h"
 #include "ui/screens/Field_Record.h"
@@ -39,6 +41,9 @@
 namespace kel {
 
 namespace {
+
+// Beside the settings.
+constexpr std::string_view layout_file = "kelwindows.json";
 
 class waiting {
   public:
@@ -93,9 +98,11 @@ program::program(const installation& places, prompts& person, std::function<date
       profile_(state_, modules_person_),
       front_(state_, person_, profile_, *this, desk_),
       years_(state_, person_, profile_, [this](picker_module caller) { reload(caller); }),
-      files_(state_, person_, years_, *this) {
+      files_(state_, person_, years_, *this),
+      layout_(join_path(places.written_folder, layout_file)) {
     state_.places = places;
     state_.copies->keep_in(places.earlier_copies());
+    qApp->installEventFilter(this);
 }
 
 program::~program() = default;
@@ -289,11 +296,7 @@ QWidget* program::made(screen_id id) {
     made.widget.reset((this->*row.make)(id));
     QWidget* widget = made.widget.get();
     screens_[id] = std::move(made);
-    const auto kept = sizes_.find(id);
-    if (kept != sizes_.end())
-        widget->restoreGeometry(kept->second);
-    else if (row.width > 0)
-        widget->resize(row.width, row.height);
+    if (!layout_.put_back(qt(row.text), *widget) && row.width > 0) widget->resize(row.width, row.height);
     return widget;
 }
 
@@ -304,15 +307,20 @@ void program::show_screen(screen_id id) {
     QWidget* widget = made(id);
     screens_[id].seen = true;
     widget->show();
+    keep_on_screen(*widget);
     widget->raise();
     widget->activateWindow();
+}
+
+void program::keep_layout(screen_id id) {
+    if (screens_.at(id).seen) layout_.keep(qt(row_of(id).text), *screen(id));
 }
 
 // The screen goes first: one that cannot load what it leads back to must not stay because of that.
 void program::leave(screen_id id, std::optional<screen_id> back) {
     const auto found = screens_.find(id);
     if (found != screens_.end()) {
-        sizes_[id] = found->second.widget->saveGeometry();
+        keep_layout(id);
         if (module_of(id)) say_at_front(module_of(id)->save_status());
         found->second.widget.release()->deleteLater();
         screens_.erase(found);
@@ -364,6 +372,26 @@ void program::open_in_place_of(screen_id opener, screen_id id) {
     if (screen(opener)) screen(opener)->hide();
 }
 
+bool program::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    return key->key() == Qt::Key_F1 && key->modifiers() == Qt::NoModifier && opens_topic(watched);
+}
+
+// A box that waits for its answer keeps everything else from being read.
+bool program::opens_topic(const QObject* pressed_in) {
+    if (QApplication::activeModalWidget()) return false;
+    for (const QObject* at = pressed_in; at; at = at->parent())
+        for (const auto& [id, screen] : screens_)
+            if (screen.widget.get() == at) {
+                // From a page the way back is the page's own.
+                const screen_id back = id == screen_id::viewer ? state_.viewer_back : id;
+                front_.run_help(6, "TP", help_topic_of(id), back);
+                return true;
+            }
+    return false;
+}
+
 // Nothing is left that could be closed: the program must not run on unseen.
 void program::end_without_windows() {
     const auto visible = [](const auto& entry) { return entry.second.widget->isVisible(); };
@@ -402,6 +430,9 @@ bool program::has_unsaved() const {
 
 void program::end() {
     ended_ = true;
+    for (const auto& [id, screen] : screens_)
+        keep_layout(id);
+    layout_.write();
     for (const auto& [id, screen] : screens_)
         screen.widget->hide();
     emit ended();

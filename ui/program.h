@@ -2,7 +2,6 @@
 // there are and how each is made; everything else is the modules' doing.
 #pragma once
 
-#include <QByteArray>
 #include <QObject>
 #include <map>
 #include <memory>
@@ -20,6 +19,7 @@
 #include "shell/desktop.h"
 #include "shell/farm_files_module.h"
 #include "shell/years_module.h"
+#include "ui/widgets/kept_layout.h"
 #include "ui/widgets/why_place.h"
 
 class QWidget;
@@ -62,6 +62,10 @@ class program : public QObject, public desktop, public report_viewer {
 
   signals:
     void ended();
+
+  protected:
+    /// F1 opens the topic of the screen in which it is pressed, or of the one that a dialog belongs to.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     struct screen_row;
@@ -109,6 +113,8 @@ class program : public QObject, public desktop, public report_viewer {
     void follow_assessment();
     void follow_assessment(screen_id id);
     void load_anew(screen_id id);
+    bool opens_topic(const QObject* pressed_in);
+    void keep_layout(screen_id id);
     void open_years();
     bool gives_way(screen_id id);
     void close_viewer();
@@ -127,7 +133,7 @@ class program : public QObject, public desktop, public report_viewer {
     why_place why_place_;
     farm_files_module files_;
     std::map<screen_id, standing> screens_;
-    std::map<screen_id, QByteArray> sizes_;
+    kept_layout layout_;
     bool ended_ = false;
     std::string report_folder_;  // of the viewer's last save
 };
