@@ -14,18 +14,23 @@
 #include "profile/profile_messages.h"
 #include "ui/screens/map_view.h"
 #include "ui/widgets/choice_list.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
 
 namespace {
 
+// In characters.
+constexpr int side_width = 50;
+constexpr int value_width = 26;
+
 QLabel* value_label(const char* name, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(name);
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
-    label->setMinimumWidth(210);
+    label->setMinimumWidth(characters_px(*label, value_width));
     return label;
 }
 
@@ -66,8 +71,9 @@ Scotland::Scotland(application_state& state, prompts& person, profile_module& pr
 }
 
 QWidget* Scotland::side_panel() {
-    auto* panel = new QWidget(this);
-    panel->setFixedWidth(330);
+    auto* side = new QWidget(this);
+    side->setFixedWidth(characters_px(*side, side_width));
+    auto* panel = new QWidget;
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
     auto* hint =
@@ -108,8 +114,11 @@ QWidget* Scotland::side_panel() {
     column->addWidget(towns_, 1);
     column->addStretch();
 
-    column->addLayout(button_row());
-    return panel;
+    auto* whole = new QVBoxLayout(side);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(new giving_area(panel, "fraScotland_side", side), 1);
+    whole->addLayout(button_row());
+    return side;
 }
 
 QWidget* Scotland::legend_panel(QWidget* parent) const {

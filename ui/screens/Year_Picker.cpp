@@ -8,10 +8,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "profile/farm_profile.h"
 #include "shell/years_messages.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -28,7 +30,12 @@ constexpr std::array<row_text, 3> row_texts{
      {"Previous Year 1:", "Select a previous assessment (1 year ago)"},
      {"Previous Year 2:", "Select a previous assessment (2 years ago)"}}};
 
-constexpr int instruction_px = 720;
+// In characters.
+constexpr int instruction_width = 100;
+constexpr int name_width = 30;
+constexpr int path_width = 78;
+constexpr int new_path_width = 60;
+constexpr int window_edge_px = 40;  // that its frame may take of the screen
 
 QLabel* text_label(const QString& name, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -49,8 +56,9 @@ year_option option_of(int row) {
 }
 
 // A path of any length keeps its beginning and its end in view.
-void show_elided(QLabel* label, const std::string& text, int width_px) {
-    label->setText(label->fontMetrics().elidedText(qt(text), Qt::ElideMiddle, width_px));
+void show_elided(QLabel* label, const std::string& text, int characters) {
+    label->setText(
+        label->fontMetrics().elidedText(qt(text), Qt::ElideMiddle, characters_px(*label, characters)));
     label->setToolTip(text.size() < 1000 ? plain_tip(qt(text)) : QString());
 }
 
@@ -59,7 +67,9 @@ void show_elided(QLabel* label, const std::string& text, int width_px) {
 Year_Picker::Year_Picker(years_module& module) : module_(module) {
     setObjectName("Year_Picker");
     setWindowTitle(tr("Open Assessments / Year Selection"));
-    auto* layout = new QVBoxLayout(this);
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins({});
     layout->setSpacing(12);
     layout->addWidget(rows_panel());
     no_link_ = new QCheckBox(tr("Do not prompt to check for &linked file"), this);
@@ -79,8 +89,10 @@ Year_Picker::Year_Picker(years_module& module) : module_(module) {
     buttons->addWidget(cancel_button);
     layout->addLayout(buttons);
     layout->addWidget(create_panel());
-    // The window follows the creation frame as it opens and closes.
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addStretch();
+    area_ = new giving_area(content, "fraYear", this);
+    auto* whole = new QVBoxLayout(this);
+    whole->addWidget(area_);
     connect(create, &QPushButton::clicked, this, [this] {
         module_.open_create();
         refresh_create();
@@ -105,8 +117,8 @@ QWidget* Year_Picker::rows_panel() {
     }
     for (int row = 0; row < 3; ++row)
         add_row(grid, row);
-    grid->setColumnMinimumWidth(1, 200);
-    grid->setColumnMinimumWidth(2, 200);
+    grid->setColumnMinimumWidth(1, characters_px(*panel, name_width));
+    grid->setColumnMinimumWidth(2, characters_px(*panel, name_width));
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     return panel;
@@ -123,7 +135,6 @@ void Year_Picker::add_row(QGridLayout* layout, int row) {
     w.file = text_label("lblYear_file" + number, this);
     w.year = text_label("lblYear_year" + number, this);
     w.path = text_label("lblYear_path" + number, this);
-    w.path->setEnabled(false);
     auto* browse_button = named_button(tr("Browse ..."), "cmdYear_browse" + number, this);
     browse_button->setToolTip(tr(texts.tip));
     const int line = row * 2 + 1;
@@ -146,7 +157,7 @@ QWidget* Year_Picker::create_panel() {
     auto* layout = new QGridLayout(create_frame_);
     auto* told = new QLabel(qt(years_messages::create_instruction), create_frame_);
     told->setWordWrap(true);
-    told->setFixedWidth(instruction_px);
+    told->setMinimumWidth(characters_px(*told, instruction_width));
     layout->addWidget(told, 0, 0, 1, 4);
     new_date_ = text_label("lblYear_newdate", create_frame_);
     new_year_ = new QComboBox(create_frame_);
@@ -218,10 +229,11 @@ void Year_Picker::refresh() {
         const auto at = static_cast<std::size_t>(i);
         const year_row& shown = module_.rows()[at];
         const row_widgets& w = rows_[at];
-        show_elided(w.farm, shown.farm_name, 220);
-        show_elided(w.file, shown.file_name, 220);
+        show_elided(w.farm, shown.farm_name, name_width);
+        show_elided(w.file, shown.file_name, name_width);
         w.year->setText(qt(shown.year_text));
-        show_elided(w.path, shown.trouble.empty() ? shown.path : shown.path + " - " + shown.trouble, 560);
+        show_elided(w.path, shown.trouble.empty() ? shown.path : shown.path + " - " + shown.trouble,
+                    path_width);
         w.option->setChecked(module_.option() == option_of(i));
     }
     no_link_->setChecked(module_.do_not_check_link);
@@ -231,10 +243,24 @@ void Year_Picker::refresh() {
 
 void Year_Picker::refresh_create() {
     create_frame_->setVisible(module_.creating());
-    if (!module_.creating()) return new_year_->hide();
-    new_date_->setText(qt(module_.new_date_text()));
-    new_year_->setCurrentIndex(new_year_->findText(new_date_->text()));
-    show_elided(new_path_, module_.new_path(), 420);
+    if (module_.creating()) {
+        new_date_->setText(qt(module_.new_date_text()));
+        new_year_->setCurrentIndex(new_year_->findText(new_date_->text()));
+        show_elided(new_path_, module_.new_path(), new_path_width);
+    } else {
+        new_year_->hide();
+    }
+    follow_content();
+}
+
+// The window follows the creation frame as it opens and closes, as far as the screen has room.
+void Year_Picker::follow_content() {
+    ensurePolished();
+    area_->widget()->layout()->activate();
+    area_->updateGeometry();
+    layout()->activate();
+    const QSize room = screen()->availableSize() - QSize(window_edge_px, window_edge_px);
+    resize(sizeHint().boundedTo(room));
 }
 
 void Year_Picker::leave() {
@@ -272,6 +298,11 @@ void Year_Picker::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) return cancel();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return ok();
     QWidget::keyPressEvent(event);
+}
+
+void Year_Picker::showEvent(QShowEvent* event) {
+    follow_content();
+    QWidget::showEvent(event);
 }
 
 // The dialog can be left only by OK or Cancel; the close box cancels.

@@ -16,6 +16,8 @@ class QRadioButton;
 
 namespace kel {
 
+class giving_area;
+
 class Year_Picker : public QWidget {
     Q_OBJECT
 
@@ -33,6 +35,7 @@ class Year_Picker : public QWidget {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -49,11 +52,13 @@ class Year_Picker : public QWidget {
     void browse(int row);
     void refresh();
     void refresh_create();
+    void follow_content();
     void ok();
     void cancel();
     void leave();
 
     years_module& module_;
+    giving_area* area_;
     std::array<row_widgets, 3> rows_{};
     QCheckBox* no_link_;
     QCheckBox* no_related_;

@@ -62,7 +62,7 @@ map_view::map_view(const std::vector<zone_square>& squares, QWidget* parent) : Q
     setObjectName("Picture1");
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setMinimumSize(360, 434);
+    setMinimumSize(240, 290);
     setAccessibleName(tr("Map of Scotland"));
     setToolTip(tr("Click the farm's place, or move the square with the arrow keys and press Enter"));
     land_.setFillRule(Qt::WindingFill);

@@ -9,6 +9,7 @@
 
 #include "ui/screens/frmStorage.h"
 #include "ui/widgets/choice_list.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
@@ -17,7 +18,7 @@ namespace kel {
 
 namespace {
 
-constexpr int form_width_px = 350;
+constexpr int form_width = 50;  // characters
 
 }  // namespace
 
@@ -33,9 +34,8 @@ storage_stores_page::storage_stores_page(frmStorage& screen, stores_page& page)
 }
 
 QWidget* storage_stores_page::form(frmStorage& screen) {
-    auto* frame = new QGroupBox(tr("Slurry store"), this);
+    auto* frame = new QGroupBox(tr("Slurry store"));
     frame->setObjectName("fraStorage3_store");
-    frame->setFixedWidth(form_width_px);
     auto* layout = new QVBoxLayout(frame);
     lines_ = new QFormLayout;
     name_ = add_box(tr("Store &name:"), "txtStorage3_name", &store_form::name, false);
@@ -64,7 +64,9 @@ QWidget* storage_stores_page::form(frmStorage& screen) {
     connect(shape_, &QListWidget::itemSelectionChanged, this, &storage_stores_page::shape_chosen);
     for (QLineEdit* box : {length_, width_, diameter_})
         connect(box, &QLineEdit::textEdited, this, [this] { area_->setText(qt(auto_area(entered()))); });
-    return frame;
+    auto* area = new giving_area(frame, "fraStorage3_form", this);
+    area->setFixedWidth(characters_px(*frame, form_width));
+    return area;
 }
 
 QLineEdit* storage_stores_page::add_box(const QString& caption, const char* name,

@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "ui/screens/frmStorage.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
 
@@ -17,8 +18,9 @@ namespace kel {
 
 namespace {
 
-constexpr int form_width_px = 760;
-constexpr int box_width_px = 140;
+// In characters.
+constexpr int form_width = 108;
+constexpr int box_width = 20;
 
 void show_text(QLineEdit* box, const std::string& text) {
     const QSignalBlocker quiet(box);
@@ -61,7 +63,7 @@ QLayout* storage_water_page::form_choice(frmStorage& screen) {
 QWidget* storage_water_page::form() {
     frame_ = new QGroupBox(this);
     frame_->setObjectName("fraStorage3_dirty_water");
-    frame_->setMaximumWidth(form_width_px);
+    frame_->setMaximumWidth(characters_px(*frame_, form_width));
     auto* layout = new QVBoxLayout(frame_);
     layout->addWidget(told_);
     layout->addSpacing(8);
@@ -79,7 +81,7 @@ QWidget* storage_water_page::form() {
 QLineEdit* storage_water_page::add_box(const QString& caption, const char* name,
                                        void (dirty_water_page::*set)(const std::string&)) {
     QLineEdit* box = new_number_box(name, this);
-    box->setFixedWidth(box_width_px);
+    box->setFixedWidth(characters_px(*box, box_width));
     box->setAccessibleName(QString(caption).remove('&'));
     connect(box, &QLineEdit::textChanged, this,
             [this, set](const QString& text) { std::invoke(set, page_, from_qt(text)); });
