@@ -6,6 +6,7 @@
 #include "storage/production_grid.h"
 #include "storage/storage_messages.h"
 #include "tests/ui/screen_fixture.h"
+#include "ui/screens/storage_chart.h"
 
 namespace kel::test {
 
@@ -160,6 +161,7 @@ TEST_F(StorageScreen, EveryBoxOfThePlanWritesItsCellAndSaveWritesThemAll) {
 
     tabs->setCurrentIndex(1);
     grid_view* land = grid("storage", "MSFlexGridStorage_land");
+    EXPECT_FALSE(drive::control(screen("storage"), "lblStorage_no_land")->isVisible());
     QWidget* use = open_box("storage", "Storage_crop", land, 0, 2);
     drive::choose_in_list(use, "lstStorage_crop_first", "Other");
     drive::choose_in_list(use, "lstStorage_crop_second", "In grass");
@@ -196,6 +198,23 @@ TEST_F(StorageScreen, EveryBoxOfThePlanWritesItsCellAndSaveWritesThemAll) {
     EXPECT_EQ(stored("Misc", "Item").size(), 1U);
     press("storage", "cmdStorage_back");
     EXPECT_TRUE(drive::control(screen("storage"), "fraStores")->isVisible());
+}
+
+TEST(StorageChart, SaysWhenAMonthIsAboveItsTop) {
+    storage_chart chart;
+    monthly_values percents{10, 20, 143.25F, 40, 50, 60, 70, 80, 90, 100, 110, 150};
+    chart.show_percents(percents, {150, 6});
+    EXPECT_EQ(chart.chart()->title(), "");
+    percents[2] = 412.3F;
+    chart.show_percents(percents, {150, 6});
+    EXPECT_EQ(chart.chart()->title(), "Above the top of the chart: Mar with 412.3 %");
+    percents[0] = 151;
+    chart.show_percents(percents, {150, 6});
+    EXPECT_EQ(chart.chart()->title(),
+              "2 months are above the top of the chart, the highest Mar with 412.3 %");
+    EXPECT_TRUE(chart.accessibleDescription().contains(chart.chart()->title()));
+    chart.show_percents(percents, {});
+    EXPECT_EQ(chart.chart()->title(), "") << "an axis that grows has no month above it";
 }
 
 }  // namespace kel::test

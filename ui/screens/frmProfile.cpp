@@ -15,8 +15,10 @@
 
 #include "profile/profile_messages.h"
 #include "ui/widgets/box_set.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/line_editor.h"
+#include "ui/widgets/number_hint.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -45,6 +47,7 @@ frmProfile::frmProfile(profile_module& module, report_desk& desk, application_st
     layout->addWidget(field_entries());
     layout->addWidget(grid_, 1);
     layout->addLayout(main_buttons());
+    setTabOrder(create_, grid_);
     add_entry_boxes();
     use_history(module_.history());
     refresh();
@@ -64,6 +67,7 @@ QWidget* frmProfile::farm_entries() {
     location_->installEventFilter(this);
     area_ = new_number_box("txtArea", panel);
     kel_area_ = named_edit("Text2", panel);
+    new number_hint(*kel_area_);
     auto* left = new QFormLayout;
     left->addRow(tr("Na&me:"), name_);
     left->addRow(tr("Loc&ation:"), location_);
@@ -109,7 +113,7 @@ QWidget* frmProfile::field_entries() {
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(0, 0, 0, 0);
     count_ = new_whole_number_box("Text1", panel);
-    count_->setFixedWidth(90);
+    count_->setFixedWidth(characters_px(*count_, 13));
     auto* caption = new QLabel(tr("Num&ber of fields:"), panel);
     caption->setBuddy(count_);
     row->addWidget(caption);

@@ -120,6 +120,7 @@ void storage_chart::set_colours(const QPalette& palette) {
     const line_colours lines = ground.lightness() > 127 ? on_light : on_dark;
     setBackgroundBrush(ground);
     chart()->setBackgroundBrush(ground);
+    chart()->setTitleBrush(ink);
     for (QAbstractAxis* axis : chart()->axes()) {
         axis->setLabelsBrush(ink);
         axis->setTitleBrush(ink);
@@ -143,11 +144,29 @@ void storage_chart::show_percents(const monthly_values& percents, const percent_
     marks_->replace(points);
     scale_->setTickCount(axis.divisions + 1);
     scale_->setRange(0, axis.maximum ? *axis.maximum : automatic_maximum(percents, axis.divisions));
+    tell_above_top();
     describe();
+}
+
+// The line leaves the drawing there, and would else look as if it ended at the top.
+void storage_chart::tell_above_top() {
+    const double top = std::min<double>(scale_->max(), highest_drawn);
+    const auto highest = std::ranges::max_element(percents_);
+    const auto above = std::ranges::count_if(percents_, [top](float percent) { return percent > top; });
+    QString told;
+    if (above > 0) {
+        const QString figure =
+            tr("%1 with %2 %").arg(month_labels[highest - percents_.begin()]).arg(*highest, 0, 'f', 1);
+        told = above == 1
+                   ? tr("Above the top of the chart: %1").arg(figure)
+                   : tr("%1 months are above the top of the chart, the highest %2").arg(above).arg(figure);
+    }
+    chart()->setTitle(told);
 }
 
 void storage_chart::describe() {
     QStringList figures;
+    if (!chart()->title().isEmpty()) figures << chart()->title();
     for (std::size_t m = 0; m < percents_.size(); ++m)
         figures
             << QString("%1 %2 %").arg(month_labels[static_cast<qsizetype>(m)]).arg(percents_[m], 0, 'f', 1);

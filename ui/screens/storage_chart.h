@@ -32,6 +32,7 @@ class storage_chart : public QChartView {
     void add_lines();
     void add_axes();
     void set_colours(const QPalette& palette);
+    void tell_above_top();
     void describe();
     void tell_point(const QPointF& point, bool entered);
 

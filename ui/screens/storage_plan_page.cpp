@@ -23,6 +23,10 @@ namespace kel {
 
 namespace text = storage_messages;
 
+namespace {
+constexpr int rows_without_field = 2;  // the last ones of the tables of land
+}
+
 storage_plan_page::storage_plan_page(frmStorage& screen, const application_state& state, plan_page& page)
     : QWidget(&screen), state_(state), page_(page) {
     setObjectName("fraStorage_plan");
@@ -56,20 +60,25 @@ QWidget* storage_plan_page::tabs(frmStorage& screen) {
     screen.add_table_import(land_commands, *land_, "Storage_import", "cmdStorage_add_import",
                             [this] { return page_.import_land(); });
     tabs_->addTab(tab(stock_commands, production_), qt(text::production_tab));
-    tabs_->addTab(tab(land_commands, land_), qt(text::land_tab));
+    no_land_ = screen.new_text("lblStorage_no_land", tabs_);
+    no_land_->setText(
+        tr("There are no fields here yet. Step 1, Land available for spreading, comes first: "
+           "its fields and areas are those of this table."));
+    tabs_->addTab(tab(land_commands, land_, no_land_), qt(text::land_tab));
     tabs_->addTab(spreading_tab(screen), qt(text::spreading_tab));
     screen.disable_meanwhile(tabs_->tabBar());
     return tabs_;
 }
 
 // The commands of a table stand above it.
-QWidget* storage_plan_page::tab(QHBoxLayout* commands, grid_view* grid) {
+QWidget* storage_plan_page::tab(QHBoxLayout* commands, grid_view* grid, QLabel* told) {
     auto* page = new QWidget(tabs_);
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 4, 0, 0);
     commands->setContentsMargins(4, 0, 4, 0);
     commands->addStretch();
     layout->addLayout(commands);
+    if (told) layout->addWidget(told);
     layout->addWidget(grid, 1);
     return page;
 }
@@ -158,6 +167,7 @@ void storage_plan_page::refresh() {
         grid->refresh();
     for (month_table* table : tables_)
         table->refresh();
+    no_land_->setVisible(page_.land().row_count() <= rows_without_field);
     show_tab(page_.tab());
     const auto& balance = page_.balance();
     chart_->setVisible(balance.has_value());

@@ -33,7 +33,7 @@ class storage_plan_page : public QWidget {
 
   private:
     QWidget* tabs(frmStorage& screen);
-    QWidget* tab(QHBoxLayout* commands, grid_view* grid);
+    QWidget* tab(QHBoxLayout* commands, grid_view* grid, QLabel* told = nullptr);
     QWidget* spreading_tab(frmStorage& screen);
     QWidget* warning_panel(frmStorage& screen);
     void add_entry_boxes(frmStorage& screen);
@@ -46,6 +46,7 @@ class storage_plan_page : public QWidget {
     QTabWidget* tabs_;
     grid_view* production_;
     grid_view* land_;
+    QLabel* no_land_;
     grid_view* spreading_;
     std::array<month_table*, 3> tables_;
     QWidget* warning_;

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
+#include "ui/widgets/number_hint.h"
 #include "ui/widgets/qt_text.h"
 
 namespace kel {
@@ -15,6 +16,7 @@ namespace {
 QLineEdit* new_filtered_line(const QString& name, const char* pattern, QWidget* parent) {
     QLineEdit* line = new_text_box(name, parent);
     line->setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), line));
+    new number_hint(*line);
     return line;
 }
 
