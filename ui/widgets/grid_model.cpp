@@ -84,6 +84,7 @@ void grid_model::change_order(Change change) {
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     std::vector<int> stored;
+    stored.reserve(static_cast<std::size_t>(before.size()));
     for (const QModelIndex& held : before)
         stored.push_back(order_.stored(held.row()));
     change();

@@ -95,6 +95,7 @@ std::vector<int> grid_view::selected_rows() const {
         last = std::max(last, part.bottom());
     }
     std::vector<int> rows;
+    rows.reserve(static_cast<std::size_t>(last - first + 1));
     for (int row = first; row <= last; ++row)
         rows.push_back(stored_row(row));
     return rows;
