@@ -94,10 +94,13 @@ namespace kel {
 
 struct database::connection {
     static constexpr int busy_timeout_ms = 2000;
+    static constexpr int reading_timeout_ms = 250;  // who only looks does not keep anybody waiting
 
     // One thread has it for itself, so that no cell waits for a lock and each can be read as it lies there.
     connection(const std::string& path, const std::string& named, int mode)
-        : sqlite(path, mode | SQLite::OPEN_NOMUTEX, busy_timeout_ms), main_file(path) {
+        : sqlite(path, mode | SQLite::OPEN_NOMUTEX,
+                 mode == SQLite::OPEN_READONLY ? reading_timeout_ms : busy_timeout_ms),
+          main_file(path) {
         harden(sqlite.getHandle());
         if (mode == SQLite::OPEN_READONLY) store::begin_reading(sqlite, named);
         check_layout(sqlite, "main", named);

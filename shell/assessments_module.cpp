@@ -181,6 +181,10 @@ void assessments_module::check_farms() {
     screens_.open(screen_id::farms);
 }
 
+void assessments_module::show_standing() {
+    if (assessment_is_open()) screens_.show_standing();
+}
+
 void assessments_module::show_page(std::string_view title, const viewer_request& request, screen_id back) {
     if (!is_there(request.page))
         return person_.tell(text::page_missing(title, file_name_of(request.page), folder_of(request.page)));

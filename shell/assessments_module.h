@@ -52,6 +52,9 @@ class assessments_module {
     void print_all_reports();
     void check_farms();
 
+    /// Where the open farm stands.
+    void show_standing();
+
     void show_me();
     void guidelines();
     void whats_this();

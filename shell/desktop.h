@@ -23,6 +23,8 @@ class desktop : public screens {
     virtual std::optional<std::size_t> choose_copy(const std::vector<earlier_copy>& copies) = 0;
     /// Whether a screen holds changes that have not been saved.
     virtual bool has_unsaved() const = 0;
+    /// Shows the page on where the open farm stands.
+    virtual void show_standing() = 0;
     /// Ends the process without any further question.
     virtual void end() = 0;
 };

@@ -46,7 +46,7 @@ std::string with_days(const std::vector<closed_breach>& breaches) {
 }
 
 std::string percent(const store_level& level) {
-    return figure(level.percent, full_percent) + " %";
+    return figure(level.percent, full_percent) + "%";
 }
 
 std::string applications(std::size_t count) {
@@ -87,7 +87,8 @@ std::string fields_without_area(const names& fields) {
 }
 
 std::string profile_entered(std::size_t fields) {
-    return "The farm and its " + counted(fields, "field", "fields") + " are entered.";
+    return "The farm and its " + (fields == 1 ? "one field" : counted(fields, "field", "fields")) +
+           " are entered.";
 }
 
 std::string land_missing(const names& fields) {
@@ -143,7 +144,7 @@ std::string stores_too_small(const store_level& highest, const std::vector<store
     if (over_full.size() == 1) return "Too little storage: the stores are at " + most + ".";
     const std::string months =
         list_of(over_full, [](const store_level& level) { return std::string(month_name(level.month)); });
-    return "Too little storage: the stores are over 100 % in " + months + ", at most " + most + ".";
+    return "Too little storage: the stores are over 100% in " + months + ", at most " + most + ".";
 }
 
 std::string make_room(int month) {

@@ -408,6 +408,9 @@ void walk::reports() {
     picture("viewer", "report_farm_profile_sample");
     drive::press(screen("viewer"), "Command1");
     drive::press(screen("profile"), "cmdProfile_cancel");
+    screen("front")->findChild<QAction*>("mnuFront_standing")->trigger();
+    picture("viewer", "report_standing");
+    drive::press(screen("viewer"), "Command1");
     drive::press(screen("front"), "cmdFront_reports");
     picture("viewer", "first_farm_9");
     drive::press(screen("viewer"), "Command1");

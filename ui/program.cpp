@@ -69,7 +69,7 @@ std::span<const program::screen_row> program::screen_table() {
     // clang-format off
     static constexpr std::array<screen_row, 17> table{{
         // identity             text          years dialog              width height  made by
-        {screen_id::front,      "front",      picker_module::front,       900, 620,  &program::make_front},
+        {screen_id::front,      "front",      picker_module::front,      1200, 620,  &program::make_front},
         {screen_id::profile,    "profile",    picker_module::profile,    1000, 700,  &program::make_profile},
         {screen_id::location,   "location",   picker_module::front,      1000, 760,  &program::make_location},
         {screen_id::land,       "land",       picker_module::land,       1220, 720,  &program::make_module<frmLand_new>},
@@ -98,6 +98,7 @@ program::program(const installation& places, prompts& person, std::function<date
       profile_(state_, modules_person_),
       front_(state_, person_, profile_, *this, desk_),
       years_(state_, person_, profile_, [this](picker_module caller) { reload(caller); }),
+      overview_(state_, desk_),
       files_(state_, person_, years_, *this),
       layout_(join_path(places.written_folder, layout_file)) {
     state_.places = places;
@@ -198,7 +199,7 @@ void program::load_anew(screen_id id) {
 }
 
 QWidget* program::make_front(screen_id /*id*/) {
-    auto* front = new frmKEL_front(front_, files_, state_, *this);
+    auto* front = new frmKEL_front(front_, files_, state_, *this, overview_);
     connect(front, &frmKEL_front::files_changed, this, [this] {
         follow_assessment();
         refresh_front();
@@ -235,7 +236,10 @@ QWidget* program::connected(screen_id id, module_screen* module) {
             [this, id](const std::string& topic) { front_.run_help(6, "TP", topic, id); });
     connect(module, &module_screen::years_wanted, this, [this] { open(screen_id::years); });
     // A save under a new name changes the file behind the rows, not the rows.
-    connect(module, &module_screen::saved, this, [this, id] { screens_.at(id).rows = rows_behind(id); });
+    connect(module, &module_screen::saved, this, [this, id] {
+        screens_.at(id).rows = rows_behind(id);
+        refresh_front();
+    });
     return module;
 }
 
@@ -426,6 +430,11 @@ bool program::has_unsaved() const {
         const auto* module = module_of(row.id);
         return module && module->unsaved();
     });
+}
+
+void program::show_standing() {
+    const waiting busy;
+    overview_.report();
 }
 
 void program::end() {

@@ -19,6 +19,7 @@
 #include "shell/desktop.h"
 #include "shell/farm_files_module.h"
 #include "shell/years_module.h"
+#include "standing/standing_module.h"
 #include "ui/widgets/kept_layout.h"
 #include "ui/widgets/why_place.h"
 
@@ -54,6 +55,7 @@ class program : public QObject, public desktop, public report_viewer {
     bool open_folder(const std::string& folder) override;
     std::optional<std::size_t> choose_copy(const std::vector<earlier_copy>& copies) override;
     bool has_unsaved() const override;
+    void show_standing() override;
     void end() override;
 
     void wait_cursor(bool on) override;
@@ -130,6 +132,7 @@ class program : public QObject, public desktop, public report_viewer {
     profile_module profile_;
     assessments_module front_;
     years_module years_;
+    standing_module overview_;
     why_place why_place_;
     farm_files_module files_;
     std::map<screen_id, standing> screens_;

@@ -45,6 +45,7 @@ struct recording_screens : desktop, report_viewer {
         return chosen_copy;
     }
     bool has_unsaved() const override { return unsaved; }
+    void show_standing() override { told.push_back({"standing"}); }
     void end() override { told.push_back({"end"}); }
     void wait_cursor(bool on) override { told.push_back({on ? "wait" : "ready"}); }
     void hide_screen(screen_id id) override { told.push_back({"hide", id}); }

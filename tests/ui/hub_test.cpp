@@ -75,6 +75,7 @@ TEST_F(Hub, EveryCommandOpensItsOwnScreenAlsoFromTheMenu) {
         {"guidelines", "viewer", "kel_cont.htm", {}},
         {"update", "front", "", {{says::update_question, answer::no}}},
         {"about", "splash", "", {}},
+        {"standing", "viewer", "KEL_report_standing.htm", {}},
         {"reports", "viewer", "KEL_report_contents.htm", {}}};
     const auto expect_screen = [&](const command_case& c) {
         EXPECT_TRUE(in_view(c.tag)) << from_qt(c.command) << " should open " << c.tag;

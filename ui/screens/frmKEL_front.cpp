@@ -11,10 +11,13 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/verdict_label.h"
 
 namespace kel {
 
@@ -48,7 +51,7 @@ constexpr const char* reports_tip =
 constexpr std::nullopt_t none = std::nullopt;
 
 // clang-format off
-constexpr std::array<command, 23> commands{{
+constexpr auto commands = std::to_array<command>({
     // name        button caption                                          menu            menu entry                                    needs                 tool tip     action
     {"new",        "&New Farm",                                            "&File",        "Create &New Farm Assessment",                none,                 nullptr,     run<&front::new_farm>},
     {"open",       "&Open Assessments",                                    "&File",        "&Open Farm Assessment",                      screen_id::years,     open_tip,    run<&front::open_assessments>},
@@ -65,6 +68,7 @@ constexpr std::array<command, 23> commands{{
     {"grassland",  "Nitrogen Requirement of &Grassland",                   "&Assessments", "&Grassland: assessment of N requirement",    screen_id::grass,     nullptr,     run<&front::grassland>},
     {"composting", "In Field Composting of &Vegetable Residues",           "&Assessments", "In field &composting of vegetable residues", screen_id::straw,     nullptr,     run<&front::composting>},
     {"record",     "Field &Record",                                        "&Assessments", "Field &Record",                              screen_id::record,    nullptr,     run<&front::field_record>},
+    {"standing",   nullptr,                                                "&Overview",    "&Where the farm stands",                     none,                 nullptr,     run<&front::show_standing>},
     {"calendar",   nullptr,                                                "&Overview",    "&Season calendar",                           screen_id::calendar,  nullptr,     run<&front::season_calendar>},
     {"sheets",     nullptr,                                                "&Overview",    "&Blank sheets...",                           screen_id::sheets,    nullptr,     run<&front::blank_sheets>},
     {"show_me",    "Show &Me",                                             "&Help",        "&Show Me",                                   none,                 nullptr,     run<&front::show_me>},
@@ -73,8 +77,44 @@ constexpr std::array<command, 23> commands{{
     {"about",      nullptr,                                                "&Help",        "About this software",                        none,                 nullptr,     run<&front::about>},
     {"whats_this", "&What's this?",                                        nullptr,        nullptr,                                      none,                 nullptr,     run<&front::whats_this>},
     {"reports",    "View Re&ports",                                        nullptr,        nullptr,                                      none,                 reports_tip, run<&front::view_reports>},
-}};
+});
 // clang-format on
+
+// The steps whose verdict stands beside their command.
+struct judged_command {
+    std::string_view name;
+    farm_step step;
+};
+constexpr auto judged = std::to_array<judged_command>({
+    {"edit", farm_step::profile},
+    {"land", farm_step::land},
+    {"storage", farm_step::storage},
+    {"manure", farm_step::manure},
+    {"inorganic", farm_step::inorganic},
+    {"crops", farm_step::crops},
+    {"grassland", farm_step::grass},
+    {"composting", farm_step::composting},
+    {"record", farm_step::record},
+});
+
+std::optional<farm_step> step_of(std::string_view name) {
+    const auto found = std::ranges::find(judged, name, &judged_command::name);
+    return found == judged.end() ? std::nullopt : std::optional(found->step);
+}
+
+verdict_label::mark mark_of(const step_standing& step) {
+    switch (step.worst) {
+        case severity::wrong:
+            return verdict_label::mark::wrong;
+        case severity::attention:
+            return verdict_label::mark::look;
+        case severity::not_done:
+            return verdict_label::mark::open;
+        case severity::fine:
+            break;
+    }
+    return step.done ? verdict_label::mark::done : verdict_label::mark::open;
+}
 
 struct button_group {
     const char* title;
@@ -93,8 +133,8 @@ constexpr int button_height_px = 40;
 }  // namespace
 
 frmKEL_front::frmKEL_front(assessments_module& module, farm_files_module& files,
-                           const application_state& state, const screens& built)
-    : module_(module), files_(files), state_(state), built_(built) {
+                           const application_state& state, const screens& built, standing_module& overview)
+    : module_(module), files_(files), state_(state), built_(built), overview_(overview) {
     setObjectName("frmKEL_front");
     add_menus();
     auto* centre = new QWidget(this);
@@ -151,6 +191,18 @@ QPushButton* frmKEL_front::button(const char* name) {
     return made;
 }
 
+// A command without a verdict takes the width of both.
+void frmKEL_front::add_command(QGridLayout& rows, const char* name) {
+    const int row = rows.rowCount();
+    const auto step = step_of(name);
+    rows.addWidget(button(name), row, 0, 1, step ? 1 : 2);
+    if (!step) return;
+    auto* verdict = new verdict_label(this);
+    verdict->setObjectName(QString("lblFront_") + name);
+    rows.addWidget(verdict, row, 1);
+    verdicts_[*step] = verdict;
+}
+
 QWidget* frmKEL_front::buttons() {
     auto* panel = new QWidget(this);
     auto* layout = new QGridLayout(panel);
@@ -159,11 +211,14 @@ QWidget* frmKEL_front::buttons() {
     int place = 0;
     for (const button_group& group : groups) {
         auto* box = new QGroupBox(tr(group.title), panel);
-        auto* column = new QVBoxLayout(box);
-        column->setSpacing(8);
+        auto* rows = new QGridLayout(box);
+        rows->setVerticalSpacing(8);
+        rows->setHorizontalSpacing(12);
+        rows->setColumnStretch(0, 1);
+        rows->setColumnStretch(1, 1);
         for (const char* name : group.names)
-            if (name) column->addWidget(button(name));
-        column->addStretch();
+            if (name) add_command(*rows, name);
+        rows->setRowStretch(rows->rowCount(), 1);
         layout->addWidget(box, place / 2, place % 2);
         ++place;
     }
@@ -240,6 +295,36 @@ void frmKEL_front::refresh() {
         told += qt(state_.assess_file);
     }
     file_->setText(told);
+    verdicts_due_ = true;
+    show_verdicts();
+    update();
+}
+
+// The window comes to view first: a large farm takes its time.
+void frmKEL_front::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (std::exchange(verdicts_due_, false))
+        QMetaObject::invokeMethod(this, &frmKEL_front::bring_verdicts_up_to_date, Qt::QueuedConnection);
+}
+
+void frmKEL_front::bring_verdicts_up_to_date() {
+    overview_.bring_up_to_date();
+    show_verdicts();
+}
+
+// Verdicts on another assessment than the one now open are none.
+void frmKEL_front::show_verdicts() {
+    const auto& farm = overview_.standing();
+    const bool known = farm && farm->files.current == state_.assess_file;
+    for (const auto& [step, label] : verdicts_)
+        label->show_verdict(verdict_label::mark::none, {});
+    if (!known) return;
+    for (const step_standing& step : farm->steps)
+        verdicts_.at(step.step)->show_verdict(mark_of(step), qt(step.verdict), qt(step.next));
+    if (!farm->trouble.empty())
+        verdicts_.at(farm_step::profile)
+            ->show_verdict(verdict_label::mark::wrong,
+                           tr("The assessment cannot be judged: %1").arg(qt(farm->trouble)));
 }
 
 void frmKEL_front::say(const QString& text) {
