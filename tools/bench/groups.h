@@ -10,7 +10,8 @@
 // that it was made from as its own until it has more.
 #define KEL_BENCH_GROUPS(group)                                                                           \
     group(start) group(land) group(profile) group(land_screen) group(typing) group(manure) group(storage) \
-        group(crops) group(grass) group(record) group(print) group(why) group(check) group(calendar)
+        group(crops) group(grass) group(record) group(print) group(why) group(standing) group(check)      \
+            group(calendar)
 
 namespace kel::bench {
 

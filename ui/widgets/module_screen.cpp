@@ -79,6 +79,7 @@ void module_screen::run_save(const std::function<bool()>& save) {
     }
     const QString note = save_note_ ? save_note_() : QString();
     say(tr("Saved %1").arg(QTime::currentTime().toString("HH:mm")) + (note.isEmpty() ? "" : ". " + note));
+    emit saved();
 }
 
 void module_screen::press_save() {
