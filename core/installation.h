@@ -23,7 +23,7 @@ struct installation {
     std::string program_folder;  // dbases, graphics, help/viewlets: read only
     std::string install_root;    // scdb, help folders, Viewer: read only
     std::string written_folder;  // settings store, reports, earlier copies
-    std::string farm_folder{};     // new assessments; empty: User_files of the written folder
+    std::string farm_folder{};   // new assessments; empty: User_files of the written folder
 
     std::string blank_assessment() const;  // dbases/blank.mdb
     std::string grass_tables() const;      // dbases/wren_grass.mdb, from the written folder if it is there
