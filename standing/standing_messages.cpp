@@ -9,7 +9,7 @@ namespace kel::standing_messages {
 
 namespace {
 
-constexpr std::size_t most_listed = 5;
+constexpr std::size_t most_listed = 3;
 
 // A list of one more than is listed is shown whole: its name is not longer than its count.
 template <class Items, class Text>
@@ -132,7 +132,7 @@ std::string level_unknown(const names& lacks) {
 }
 
 std::string stores_hold(const store_level& highest) {
-    return std::string("The stores hold: they are fullest at the end of ")
+    return std::string("The stores hold: fullest at the end of ")
         .append(month_name(highest.month))
         .append(", at ")
         .append(percent(highest))
@@ -210,18 +210,16 @@ std::string requirement_missing(const names& fields) {
 }
 
 std::string requirements_none(std::size_t fields) {
-    return "The nitrogen requirement of " + counted(fields, "field is", "fields is") + " not worked out.";
+    return "Not worked out yet for " + counted(fields, "field", "fields") + ".";
 }
 
 std::string requirements_some(std::size_t done, std::size_t fields) {
-    return "The nitrogen requirement is worked out for " + std::to_string(done) + " of " +
-           counted(fields, "field", "fields") + ".";
+    return "Worked out for " + std::to_string(done) + " of " + counted(fields, "field", "fields") + ".";
 }
 
 std::string requirements_all(std::size_t fields) {
-    return fields == 1
-               ? "The nitrogen requirement of the one field is worked out."
-               : "The nitrogen requirement of all " + std::to_string(fields) + " fields is worked out.";
+    return fields == 1 ? "Worked out for the one field."
+                       : "Worked out for all " + std::to_string(fields) + " fields.";
 }
 
 std::string composting_recorded(std::size_t calculations) {

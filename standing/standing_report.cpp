@@ -23,14 +23,29 @@ std::string verdict_cell(const step_standing& step) {
     return (marked ? strong(std::string(word_of(step.worst)) + ":") : "") + escaped(step.verdict);
 }
 
+// A line of the page has room for so much.
+std::string_view short_title_of(farm_step step) {
+    const std::string_view title = title_of(step);
+    switch (step) {
+        case farm_step::crops:
+            return "Crops";
+        case farm_step::grass:
+            return "Grassland";
+        case farm_step::composting:
+            return "Composting";
+        default:
+            return title.substr(0, title.find(':'));
+    }
+}
+
 page_lines steps_table(const farm_standing& farm) {
     report_table table;
-    table.add_heading_row(std::vector<report_cell>{{.text = "Step", .width = "20%"},
-                                                   {.text = "Done", .width = "8%"},
-                                                   {.text = "Verdict", .width = "42%"},
-                                                   {.text = "Look at next", .width = "30%"}});
+    table.add_heading_row(std::vector<report_cell>{{.text = "Step", .width = "17%"},
+                                                   {.text = "Done", .width = "7%"},
+                                                   {.text = "Verdict", .width = "48%"},
+                                                   {.text = "Look at next", .width = "28%"}});
     for (const step_standing& step : farm.steps)
-        table.add_row(std::vector<report_cell>{{.text = std::string(title_of(step.step))},
+        table.add_row(std::vector<report_cell>{{.text = std::string(short_title_of(step.step))},
                                                {.text = step.done ? "Yes" : "No", .align = "center"},
                                                {.text = verdict_cell(step)},
                                                {.text = escaped(step.next)}});
@@ -56,9 +71,9 @@ field_rows rows_of(const farm_standing& farm) {
         return text::figure(field.n_kg_per_ha, rolling_field_limit_kg_per_ha);
     };
     for (const field_nitrogen& field : farm.over_limit)
-        rows[field.field].manure = strong(sum(field)) + "over the limit";
+        rows[field.field].manure = strong(sum(field)) + "over";
     for (const field_nitrogen& field : farm.near_limit)
-        rows[field.field].manure = sum(field) + " close to it";
+        rows[field.field].manure = sum(field) + " close";
     for (const closed_breach& breach : farm.breaches)
         add_line(rows[breach.field].closed, short_date_text(breach.day) + " " + escaped(breach.applied) +
                                                 (breach.justified ? ", reason given" : ""));
@@ -71,11 +86,10 @@ page_lines fields_table(const farm_standing& farm) {
     const field_rows rows = rows_of(farm);
     if (rows.empty()) return report_paragraph("No field is over a limit or within a tenth of one.");
     report_table table;
-    table.add_heading_row(
-        std::vector<report_cell>{{.text = "Field", .width = "20%"},
-                                 {.text = "Manure N in twelve months, limit 250 (kg/ha)", .width = "24%"},
-                                 {.text = "Applied in a closed period", .width = "32%"},
-                                 {.text = "Inorganic N above the requirement (kg/ha)", .width = "24%"}});
+    table.add_heading_row(std::vector<report_cell>{{.text = "Field", .width = "20%"},
+                                                   {.text = "Manure N, limit 250", .width = "20%"},
+                                                   {.text = "In a closed period", .width = "38%"},
+                                                   {.text = "Inorganic N", .width = "22%"}});
     for (const auto& [field, row] : rows)
         table.add_row({escaped(field), row.manure, row.closed, row.inorganic});
     return std::move(table).lines();
@@ -93,7 +107,7 @@ page_lines missing_list(const farm_standing& farm) {
     std::vector<std::string> points;
     points.reserve(farm.missing.size());
     for (const missing_data& missing : farm.missing)
-        points.push_back(std::string(title_of(missing.step)) + ": " + escaped(missing.text));
+        points.push_back(std::string(short_title_of(missing.step)) + ": " + escaped(missing.text));
     return report_list(points);
 }
 
@@ -107,14 +121,14 @@ page_lines standing_report(const farm_standing& farm) {
     }
     std::string whose = escaped(farm.farm);
     if (farm.year_start) whose += (whose.empty() ? "" : ", ") + year_text({{}, farm.year_start});
-    append(body, report_paragraph(
-                     whose + ". The page goes by what is saved; what a screen holds besides is not in it."));
+    append(body, report_paragraph(whose + ". By what is saved."));
     append(body, steps_table(farm));
-    if (!farm.months_over_full.empty()) append(body, report_paragraph(stores_told(farm)));
-    append(body, report_section("Fields to look at"));
+    if (farm.months_over_full.size() > 1) append(body, report_paragraph(stores_told(farm)));
+    append(body, report_paragraph(strong("Fields to look at.") +
+                                  "Nitrogen in kg/ha, of manures the most in any twelve months."));
     append(body, fields_table(farm));
     if (farm.missing.empty()) return body;
-    append(body, report_section("What is missing"));
+    append(body, report_paragraph(strong("What is missing")));
     append(body, missing_list(farm));
     return body;
 }

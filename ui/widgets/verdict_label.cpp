@@ -11,6 +11,7 @@ namespace {
 
 constexpr int lines_shown = 3;
 constexpr int characters_wide = 38;
+constexpr int fewest_characters_wide = 10;
 constexpr int gap_px = 8;
 constexpr double pen_share = 0.14;  // of the mark's height
 
@@ -36,6 +37,11 @@ QSize verdict_label::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     return {mark_size() + gap_px + metrics.averageCharWidth() * characters_wide,
             metrics.lineSpacing() * lines_shown};
+}
+
+QSize verdict_label::minimumSizeHint() const {
+    const int room = fontMetrics().averageCharWidth() * fewest_characters_wide;
+    return {mark_size() + gap_px + room, sizeHint().height()};
 }
 
 int verdict_label::mark_size() const {

@@ -21,7 +21,8 @@ class verdict_label : public QWidget {
     mark shape() const { return shape_; }
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// A narrow window cuts the sentence, not the buttons.
+    QSize minimumSizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
