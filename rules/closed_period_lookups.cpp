@@ -34,11 +34,12 @@ constexpr std::string_view use_not_entered =
 
 // Months were closed as the use was entered, and stay so whatever has changed since.
 void tell_month(const land_use& use, int month, bool closed, explanation& why) {
+    const auto pair = split_crop_pair(use.crop_pair);
+    if (!pair && !closed) return why.rule(std::string(use_not_entered));
     const std::string name(month_name(month));
     why.rule(name + " is " + (closed ? "" : "not ") +
              "closed to slurry and manures on this field: so Step 2 settled it when the use of the field was "
              "entered. The whole month counts, whatever the day.");
-    const auto pair = split_crop_pair(use.crop_pair);
     if (!pair) return;
     const auto months = closed_months(use.soil, pair->second, &why);
     if ((std::ranges::find(months, month) != months.end()) != closed)

@@ -107,4 +107,31 @@ TEST_F(ClosedPeriodLookups, MonthCellsAsTheyStandAndAsArea) {
     EXPECT_EQ(field_crop_pair(db, "Home"), "Grass / Other");
 }
 
+TEST(ClosedMonthAccount, TellsWhatWasSettledAndWhatHasChangedSince) {
+    const auto told = [](const land_use& use, int month) {
+        explanation why("");
+        closed_for_manure(use, make_date(5, month, 2025), &why);
+        std::string text;
+        for (const explanation_line& line : why.lines())
+            text += line.text + '\n';
+        return text;
+    };
+    land_use use{"Grass / Other", {}, "Sands"};
+    use.closed_months.at(9) = true;
+    const auto has = [&](int month, const char* part) {
+        return told(use, month).find(part) != std::string::npos;
+    };
+    EXPECT_TRUE(has(10, "October is closed to slurry"));
+    EXPECT_FALSE(has(10, "have changed since"));
+    EXPECT_TRUE(has(8, "August is not closed to slurry"));
+    EXPECT_TRUE(has(8, "have changed since"));  // with this soil and crop it would be
+    EXPECT_FALSE(has(7, "have changed since"));
+    use.soil = "Peaty soils";
+    EXPECT_TRUE(has(10, "have changed since"));
+    EXPECT_TRUE(has(10, "here no month is closed"));
+    use.crop_pair.clear();
+    EXPECT_TRUE(has(10, "October is closed to slurry"));
+    EXPECT_TRUE(has(8, "has not been entered in Step 2"));
+}
+
 }  // namespace kel

@@ -166,8 +166,8 @@ QString why_panel::page_of_cell() const {
     if (shown.empty())
         return why_page(name, tr("Nothing is entered here yet. Press Enter on the cell, or click it, to "
                                  "enter it."));
-    return why_page(name + ": " + shown, tr("Entered here. Press Enter on the cell, or click it, to change "
-                                            "it; Delete clears it."));
+    return why_page(name + ": " + shown,
+                    tr("Entered here. Press Enter on the cell, or click it, to change it."));
 }
 
 QString why_panel::page_of_result(const QString& name) const {
