@@ -32,6 +32,18 @@ explanation why_soil(const application_state& state, const text_grid& table, int
     return why;
 }
 
+// Nothing for an analysis.
+std::optional<explanation> why_n_content(const text_grid& table, int row) {
+    const auto manure = find_manure(table.cell(row, col::manure));
+    if (!manure || table.cell(row, col::n_content) != manure->default_n_content) return std::nullopt;
+    explanation why("Total nitrogen content of " + application_name(table, row));
+    why.source("List of manures, \"" + std::string(manure->name) +
+               "\": " + std::string(manure->default_n_content) + " kg of nitrogen per " +
+               std::string(manure->unit_applied) + '.');
+    why.set_follows("It came with the manure. An analysis typed here takes its place.");
+    return why;
+}
+
 explanation why_rate(const text_grid& table, int row) {
     explanation why("Application rate of " + application_name(table, row));
     why.rule("The application rate is the amount over the area on which it was spread.");
@@ -86,6 +98,8 @@ std::optional<explanation> manure_module::why_cell(int row, int column) const {
             return why_soil(state_, applications_, row);
         case col::date:
             return why_closed(row);
+        case col::n_content:
+            return why_n_content(applications_, row);
         case col::rate:
             return why_rate(applications_, row);
         case col::total_n:

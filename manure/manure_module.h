@@ -119,6 +119,7 @@ class manure_module {
     std::string instructions_;
     std::string warnings_;
     std::vector<std::string> over_limit_;      // fields, in the order of the results
+    std::vector<int> closed_rows_;             // applications in closed months
     std::vector<std::string> closed_periods_;  // sentences, in row order
 
     // What the open module remembers from entry to entry.

@@ -115,15 +115,15 @@ explanation manure_module::why_closed_periods() const {
     why.rule(
         "An application is named if its month is closed to slurry and manures on its field. The "
         "farmyard manure of cattle and pigs never is.");
-    const auto rows = state_.assess_file.empty()
-                          ? std::vector<int>{}
-                          : rows_in_closed_months(database(state_.assess_file), applications_);
-    for (std::size_t i = 0; i < std::min(rows.size(), most_told); ++i)
-        why.step("Line " + std::to_string(rows[i] + 1) + ": " + application_name(applications_, rows[i]));
-    if (rows.size() > most_told) why.step("And " + std::to_string(rows.size() - most_told) + " more.");
+    for (std::size_t i = 0; i < std::min(closed_rows_.size(), most_told); ++i)
+        why.step("Line " + std::to_string(closed_rows_[i] + 1) + ": " +
+                 application_name(applications_, closed_rows_[i]));
+    if (closed_rows_.size() > most_told)
+        why.step("And " + std::to_string(closed_rows_.size() - most_told) + " more.");
     why.rule("Choose the date of an application in the table to see why its month is closed.");
-    why.set_follows(rows.empty() ? "No application is in a closed month."
-                                 : "Applications in closed months: " + std::to_string(rows.size()) + '.');
+    why.set_follows(closed_rows_.empty()
+                        ? "No application is in a closed month."
+                        : "Applications in closed months: " + std::to_string(closed_rows_.size()) + '.');
     return why;
 }
 

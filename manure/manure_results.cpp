@@ -65,6 +65,7 @@ void manure_module::mark_over_limit(const std::optional<std::vector<dated_rate>>
 
 // The mark goes to the results row that bears the number of the application's row, if there is one.
 void manure_module::fm_closed_rep(const std::vector<int>& closed_rows) {
+    closed_rows_ = closed_rows;
     closed_periods_.clear();
     for (const int row : closed_rows) {
         closed_periods_.push_back(text::closed_warning(applications_.cell(row, col::manure),

@@ -38,7 +38,7 @@ void tell_month(const land_use& use, int month, bool closed, explanation& why) {
     if (!pair && !closed) return why.rule(std::string(use_not_entered));
     const std::string name(month_name(month));
     why.rule(name + " is " + (closed ? "" : "not ") +
-             "closed to slurry and manures on this field: so Step 2 settled it when the use of the field was "
+             "closed to slurry and manures on this field: Step 2 settled that when the use of the field was "
              "entered. The whole month counts, whatever the day.");
     if (!pair) return;
     const auto months = closed_months(use.soil, pair->second, &why);

@@ -86,13 +86,12 @@ void tell_months(std::string_view soil, std::string_view second_crop, std::span<
     why.input("Soil", soil, "", "farm profile, Soil");
     why.input("Second crop", shown_crop_type(second_crop).value_or(second_crop), "",
               "Step 2, use of the field");
-    if (sensitive_soil(soil))
-        why.rule("On a light soil (" + light_soils() +
-                 ") the second crop decides which months are closed to slurry and manures; here: " +
-                 names_of(months) + ".");
-    else
-        why.rule("Months are closed to slurry and manures on light soils only (" + light_soils() +
-                 "), so here no month is closed, whatever the crop.");
+    if (!sensitive_soil(soil))
+        return why.rule("Months are closed to slurry and manures on light soils only (" + light_soils() +
+                        "), so here no month is closed, whatever the crop.");
+    why.rule("On a light soil (" + light_soils() +
+             ") the second crop decides which months are closed to slurry and manures; here: " +
+             names_of(months) + ".");
     for (const closing_row& row : closing_by_second_crop)
         if (row.second_crop == second_crop)
             why.source("Closed periods for slurry of the KEL rules, light soils, second crop \"" +

@@ -99,7 +99,7 @@ TEST_F(ManureWhy, TellsThePercentageByTheLineOfItsTable) {
     EXPECT_EQ(
         written(why(0, manure_col::date)),
         "Closed period for Dairy slurry - high dry matter (10%) on Long Rig, 03 October 2025\n"
-        "October is closed to slurry and manures on this field: so Step 2 settled it when the use of the "
+        "October is closed to slurry and manures on this field: Step 2 settled that when the use of the "
         "field was entered. The whole month counts, whatever the day.\n"
         "Soil: Sandy loams (farm profile, Soil)\n"
         "Second crop: Other (Step 2, use of the field)\n"
@@ -109,6 +109,14 @@ TEST_F(ManureWhy, TellsThePercentageByTheLineOfItsTable) {
         "and October.\n"
         "The application is in a closed month. The date may stay; the results name it.");
 
+    // What the list of manures put there is not called entered, an analysis is.
+    EXPECT_EQ(written(why(0, manure_col::n_content)),
+              "Total nitrogen content of Dairy slurry - high dry matter (10%) on Long Rig, 03 October 2025\n"
+              "List of manures, \"Dairy slurry - high dry matter (10%)\": 4.0 kg of nitrogen per cubic m.\n"
+              "It came with the manure. An analysis typed here takes its place.");
+    module.enter_n_content(0, "3.9");
+    EXPECT_FALSE(module.why(module.applications(), 0, manure_col::n_content));
+
     // A new time of working in counts from the next entry on, and the account tells that the cell is older.
     module.enter_incorporation(0, "Within 6 hours");
     module.enter_date(0, make_date(3, 6, 2025));
@@ -116,6 +124,27 @@ TEST_F(ManureWhy, TellsThePercentageByTheLineOfItsTable) {
     module.enter_incorporation(0, "Over 6 hours");
     EXPECT_EQ(why(0, manure_col::percentage).result(), "5");
     EXPECT_NE(stale_note(why(0, manure_col::percentage), cell(0, manure_col::percentage)), "");
+}
+
+// Without a time of working in, the manure that was handled last decides.
+TEST_F(ManureWhy, TellsOfALineThatIsNotTheManuresOwn) {
+    open({{"Long Rig", "15"}});
+    add_land("Long Rig");
+    module.enter_field(0, "Long Rig");
+    module.enter_manure(0, strainer);
+    module.enter_date(0, make_date(3, 3, 2025));
+    module.enter_field(1, "Long Rig");
+    module.enter_manure(1, dairy);
+    module.enter_incorporation(1, "");
+    module.enter_date(1, make_date(3, 3, 2025));
+    module.enter_field(0, "Long Rig");
+    module.enter_field(1, "Long Rig");
+    EXPECT_EQ(cell(1, manure_col::percentage), "40");
+    EXPECT_EQ(why(1, manure_col::percentage).result(), "40");
+    const std::string account = written(why(1, manure_col::percentage));
+    EXPECT_NE(account.find("so the line of the manure handled last counts"), std::string::npos) << account;
+    EXPECT_NE(account.find("line \"" + strainer + ", surface or rapid incorporation\""), std::string::npos)
+        << account;
 }
 
 TEST_F(ManureWhy, ListsTheTwelveMonthsOfAFieldOverTheLimit) {

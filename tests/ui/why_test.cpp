@@ -53,6 +53,7 @@ TEST_F(WhyPanel, FollowsTheCellAndChangesNothing) {
     EXPECT_TRUE(panel()->isVisible());
     EXPECT_EQ(focus(), table);
     EXPECT_EQ(screen(tag)->width(), width_px);
+    EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->currentIndex())));
     expect_told("Nitrogen of <b>N & S</b> on Long Rig, 03 March 2025");  // a farm's text is no markup
     expect_told("33 kg/ha x 27 / 100 = 8.9 kg N/ha, rounded to 1 decimal");
     go_to(0, 2);

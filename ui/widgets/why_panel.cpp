@@ -149,6 +149,11 @@ grid_view* why_panel::table_in_use() const {
     return nullptr;
 }
 
+void why_panel::keep_cell_in_view() const {
+    grid_view* table = table_in_use();
+    if (table && !table->locked() && table->currentIndex().isValid()) table->scrollTo(table->currentIndex());
+}
+
 QString why_panel::page_of_cell() const {
     const grid_view* view = table_in_use();
     const int row = view ? view->current_row() : -1;

@@ -59,6 +59,8 @@ class why_panel : public QFrame {
     void follow(grid_view* grid);
     /// The result of that name in place of the cell. False: it is none of the list.
     bool choose_result(const QString& name);
+    /// The current cell, where the panel has taken its place; not from under an open box.
+    void keep_cell_in_view() const;
     /// Works the account out anew in the next turn of the event loop, if the panel is in view.
     void refresh_soon();
     /// Gives its text the focus, or gives it back to the table.

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLayout>
 #include <QShowEvent>
+#include <QTimer>
 #include <algorithm>
 #include <memory>
 
@@ -84,6 +85,7 @@ void why_side::open() {
         place_->width_px > 0 ? place_->width_px : fontMetrics().averageCharWidth() * usual_characters;
     const int width_px = std::min(wanted, width() / 2);
     setSizes({width() - width_px, width_px});
+    QTimer::singleShot(0, panel_, &why_panel::keep_cell_in_view);  // once the table has its new width
 }
 
 // Tables that claim more than what is left would widen the window beyond its screen.
