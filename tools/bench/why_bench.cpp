@@ -5,8 +5,12 @@
 #include <stdexcept>
 
 #include "core/assessment_files.h"
+#include "core/farm_fields.h"
+#include "crops/crop_module.h"
+#include "grass/grass_module.h"
 #include "inorganic/inorganic_module.h"
 #include "manure/manure_module.h"
+#include "record/record_module.h"
 #include "tools/bench/bench_applications.h"
 #include "tools/bench/bench_farm.h"
 #include "tools/bench/groups.h"
@@ -72,6 +76,85 @@ void add_manure(large_farm& farm, std::vector<bench_line>& lines) {
     lines.push_back(line("Why?, the closed periods", result_ms(module, "txtReductions_warnings")));
 }
 
+// A row of the table for each field, the same in all.
+void write_rows(const std::string& file, const char* table,
+                const std::vector<std::pair<const char*, std::string>>& values) {
+    const database db(file);
+    const auto names = read_farm_fields(db);
+    save_transaction save(db);
+    db.delete_rows(table);
+    recordset rows = db.open(table);
+    for (const farm_field& field : names) {
+        rows.add_new();
+        rows.set("Field Area ID", field.name);
+        for (const auto& [column, text] : values)
+            rows.set(column, text);
+        rows.update();
+    }
+    save.commit();
+}
+
+class no_screens : public screens {
+  public:
+    void open(screen_id) override {}
+    void open_in_place_of(screen_id, screen_id) override {}
+    bool exists(screen_id) const override { return true; }
+    bool in_view(screen_id) const override { return false; }
+};
+
+void add_crops(large_farm& farm, std::vector<bench_line>& lines) {
+    write_rows(farm.state().assess_file, "Crops",
+               {{"Soil Type", "Sands"},
+                {"Next Crop", "WW"},
+                {"Previous or Current Crop", "WPOT"},
+                {"N Residue Group", "4"},
+                {"Take-all Adjustment (kg/ha)", "20"},
+                {"Manures Adjustment (kg/ha)", "24.34"},
+                {"Spring Rainfall Status", "High"},
+                {"Hdate p_crop", "2024-08-20"},
+                {"Hdate c_crop", "2025-08-20"}});
+    no_screens others;
+    crop_module module(farm.state(), farm.person, others);
+    module.open();
+    module.enter_winter_rain(0);
+    lines.push_back(line("Why?, a cell of the crops", slowest_cell_ms(module, module.crops())));
+    module.calculate();
+    lines.push_back(line("Why?, a cell of the crops' results", slowest_cell_ms(module, module.results())));
+}
+
+void add_grass(large_farm& farm, std::vector<bench_line>& lines) {
+    write_rows(farm.state().assess_file, "Site",
+               {{"Soil Type", "Sands"},
+                {"Previous crop", "PG"},
+                {"N residue group", "6"},
+                {"Clover", "Low"},
+                {"Site Use", "Silage"},
+                {"Cuts", "2"},
+                {"Applications", "1"},
+                {"Adjustment", "0"},
+                {"End of season date", "2024-10-15"}});
+    no_screens others;
+    grass_module module(farm.state(), farm.person, others);
+    module.grass_load_stuff();
+    module.confirm_rain(1);
+    module.confirm_altitude(0);
+    lines.push_back(line("Why?, a cell of the grass fields", slowest_cell_ms(module, module.site().table())));
+    module.calculate();
+    lines.push_back(
+        line("Why?, a cell of grassland's results", slowest_cell_ms(module, module.site().results())));
+    module.to_stock();
+    module.silage().fill();
+    lines.push_back(
+        line("Why?, a cell of the silage table", slowest_cell_ms(module, module.silage().table())));
+}
+
+void add_record(large_farm& farm, std::vector<bench_line>& lines) {
+    record_module module(farm.state(), farm.person);
+    module.record_load_stuff();
+    lines.push_back(line("Why?, a cell of the record", slowest_cell_ms(module, module.record())));
+    lines.push_back(line("Why?, a warning of the record", slowest_cell_ms(module, module.warnings())));
+}
+
 void add_inorganic(large_farm& farm, std::vector<bench_line>& lines) {
     inorganic_module module(farm.state(), farm.person);
     module.inorganic_load_stuff();
@@ -85,6 +168,9 @@ std::vector<bench_line> why_bench() {
     std::vector<bench_line> lines;
     add_manure(farm, lines);
     add_inorganic(farm, lines);
+    add_crops(farm, lines);
+    add_grass(farm, lines);
+    add_record(farm, lines);
     return lines;
 }
 

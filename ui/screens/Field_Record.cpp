@@ -1,5 +1,6 @@
 #include "ui/screens/Field_Record.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -9,6 +10,7 @@
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <exception>
 
 #include "record/record_grid.h"
@@ -16,6 +18,7 @@
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
 #include "ui/widgets/warning_table.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -46,6 +49,7 @@ Field_Record::Field_Record(application_state& state, prompts& person, report_des
     parts->setChildrenCollapsible(false);
     layout->addWidget(parts, 1);
     layout->addLayout(commands());
+    add_explanations(parts);
     show_fields();
     connect(fields_, &QComboBox::currentTextChanged, this, &Field_Record::choose_field);
     fields_->setFocus();
@@ -83,6 +87,23 @@ QLayout* Field_Record::commands() {
     row->addStretch();
     add_command(row, tr("Close &Module"), "cmdRecord_close", [this] { close(); });
     return row;
+}
+
+// The warnings are no grid of the module's: the panel tells of the one that a person is on.
+void Field_Record::add_explanations(QWidget* tables) {
+    why_source source = explained_by(module_, {{"MSFlexGrid2", "The current warning"}});
+    source.result = [this](std::string_view) {
+        const auto row = static_cast<std::size_t>(std::max(0, warnings_->currentRow()));
+        return module_.why(module_.warnings(), row, record_warning_column::text);
+    };
+    use_explanations(tables, std::move(source));
+    why_ = findChild<why_panel*>();
+    warnings_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    warnings_->addAction(findChild<QAction*>("mnuModule_why"));
+    connect(warnings_, &QTableWidget::currentCellChanged, why_, [this] {
+        if (warnings_->hasFocus()) why_->choose_result(warnings_->objectName());
+        why_->refresh_soon();
+    });
 }
 
 // At once, so that the next command finds the field that the list shows. A failure waits, since it must not
@@ -124,6 +145,7 @@ void Field_Record::refresh() {
     record_->refresh();
     record_->fit_column(record_column::manure);
     show_warnings();
+    why_->refresh_soon();
 }
 
 void Field_Record::reload() {

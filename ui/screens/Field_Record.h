@@ -10,6 +10,7 @@ class QSplitter;
 namespace kel {
 
 class warning_table;
+class why_panel;
 
 class Field_Record : public module_screen {
     Q_OBJECT
@@ -30,6 +31,7 @@ class Field_Record : public module_screen {
     void choose_field(const QString& field);
     void show_fields();
     void show_warnings();
+    void add_explanations(QWidget* tables);
 
     record_module module_;
     application_state& state_;
@@ -37,6 +39,7 @@ class Field_Record : public module_screen {
     QComboBox* fields_;
     grid_view* record_;
     warning_table* warnings_;
+    why_panel* why_ = nullptr;
 };
 
 }  // namespace kel

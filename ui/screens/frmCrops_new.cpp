@@ -11,6 +11,7 @@
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/qt_text.h"
 #include "ui/widgets/question_page.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -35,6 +36,7 @@ frmCrops_new::frmCrops_new(application_state& state, prompts& person, report_des
     add_commands(layout);
     add_entry_boxes();
     use_history(module_.history());
+    use_explanations(views_, explained_by(module_, {{"Crops_winter_rain", "Winter rainfall"}}));
     show_phase();
 }
 

@@ -14,6 +14,7 @@
 #include "ui/screens/grass_stock_page.h"
 #include "ui/widgets/qt_text.h"
 #include "ui/widgets/question_page.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -36,6 +37,10 @@ frmGrass_new::frmGrass_new(application_state& state, prompts& person, report_des
     layout->addWidget(instruction_);
     layout->addWidget(pages_, 1);
     use_history(module_.history());
+    use_explanations(pages_,
+                     explained_by(module_, {{"Grass_rain", "Rain from April to September"},
+                                            {"Grass_altitude", "Altitude"},
+                                            {"lblGrass_summary", "Livestock fed by grazing and silage"}}));
     show_page();
 }
 
