@@ -43,7 +43,7 @@ std::string amount(const std::string& figure) {
 }
 
 std::string reason_of(const crop_row& row, std::size_t place) {
-    const std::string reason(words.at(place).reason);
+    std::string reason(words.at(place).reason);
     switch (static_cast<adjustment>(place)) {
         case adjustment::market: {
             if (is_vegetable_crop(row.crop)) return "A wet summer is expected";

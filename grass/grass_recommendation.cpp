@@ -18,6 +18,9 @@ bool needs_nothing(const grass_field& field) {
 
 void tell_table_row(const grass_tables& tables, const grass_field& field, std::optional<float> found,
                     explanation& why) {
+    why.input("Clover content", field.clover, "", site_table);
+    why.input("Site class", field.site_class, "", "site table, from rain, soil and altitude");
+    why.input("Residue group", field.residue_group, "", "site table, from the previous sward");
     const std::string row = "clover " + field.clover + ", site class " + field.site_class +
                             ", residue group " + field.residue_group;
     if (found)

@@ -195,6 +195,7 @@ TEST_F(CropWhy, RowsOfRandomFarmsEndWithTheirCellsWhateverTheTablesLack) {
     for (unsigned seed = 1; seed <= farms; ++seed) {
         dice roll(seed);
         std::vector<test_field> fields;
+        fields.reserve(rows);
         for (int row = 0; row < rows; ++row)
             fields.push_back({"Field " + std::to_string(row), "5", std::string(roll.one_of(soils()).name)});
         open_farm(fields);

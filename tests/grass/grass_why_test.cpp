@@ -143,18 +143,21 @@ TEST_F(GrassWhySample, SiteClassAndRecommendationOfAFieldWordForWord) {
                "rain: class 4 on low ground, class 5 on high ground",
                "4"}));
     const int steading = site.find(site_column::field, "Steading Park");
-    EXPECT_EQ(told(why(module, module.site().results(), steading, grass_result_column::to_be_applied)),
-              (texts{"Nitrogen to be applied for Steading Park",
-                     "The requirement with its adjustment, less what manures supply.",
-                     "Requirement table of grassland: clover Low, site class 2, residue group 5: 195 kg "
-                     "N/ha. Requirements and adjustments are constructed from published figures for this "
-                     "program; they are not an official table.",
-                     "Nitrogen from manures applied this season: 58.98 kg/ha (site table)",
-                     "Nitrogen left of manures of the season before: 15.6 kg/ha (site table)",
-                     "58.98 + 15.6 = 74.58 kg/ha from manures",
-                     "Adjustment for the management: 50 kg/ha (site table, Adjustment)",
-                     "195 + 50 - 74.58 = 170.42 kg/ha",
-                     "Rounded to 1 decimal, halves to the even digit: 170.4 kg/ha", "170.4 kg/ha"}));
+    EXPECT_EQ(
+        told(why(module, module.site().results(), steading, grass_result_column::to_be_applied)),
+        (texts{"Nitrogen to be applied for Steading Park",
+               "The requirement with its adjustment, less what manures supply.",
+               "Clover content: Low (site table)", "Site class: 2 (site table, from rain, soil and altitude)",
+               "Residue group: 5 (site table, from the previous sward)",
+               "Requirement table of grassland: clover Low, site class 2, residue group 5: 195 kg "
+               "N/ha. Requirements and adjustments are constructed from published figures for this "
+               "program; they are not an official table.",
+               "Nitrogen from manures applied this season: 58.98 kg/ha (site table)",
+               "Nitrogen left of manures of the season before: 15.6 kg/ha (site table)",
+               "58.98 + 15.6 = 74.58 kg/ha from manures",
+               "Adjustment for the management: 50 kg/ha (site table, Adjustment)",
+               "195 + 50 - 74.58 = 170.42 kg/ha",
+               "Rounded to 1 decimal, halves to the even digit: 170.4 kg/ha", "170.4 kg/ha"}));
     EXPECT_EQ(
         told(why(module, site, steading, site_column::adjustment)),
         (texts{"Management adjustment for Steading Park", "Clover content: Low (site table, Clover Content)",
@@ -245,6 +248,7 @@ class GrassWhy : public grass_test {
     }
     void make_random_farm(dice& roll) {
         std::vector<test_field> fields;
+        fields.reserve(rows);
         for (int row = 0; row < rows; ++row)
             fields.push_back({"Field " + std::to_string(row), "1" + roll.number(10),
                               std::string(roll.one_of(soils()).name)});

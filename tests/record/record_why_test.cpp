@@ -194,11 +194,13 @@ TEST_F(RecordWhy, RowsTellWhoseCropTheyFedAndWhereTheyWereEntered) {
 }
 
 TEST_F(RecordWhy, RowsAndWarningsOfRandomFarmsAreWhatTheirAccountsEndWith) {
+    constexpr int farm_fields = 8;
     held_against_cells counts;
     for (unsigned seed = 1; seed <= 10; ++seed) {
         dice roll(seed);
         std::vector<test_field> fields;
-        for (int field = 0; field < 8; ++field)
+        fields.reserve(farm_fields);
+        for (int field = 0; field < farm_fields; ++field)
             fields.push_back({"Field " + std::to_string(field), "5"});
         open_farm(fields);
         state.prev1_file = make_farm("last.kel", fields, 2023);
