@@ -68,7 +68,9 @@ TEST_F(StandingView, ThePageIsListedFirstAmongTheReportsOnceItHasBeenMade) {
 }
 
 TEST_F(StandingView, FifteenFieldsFitOnOneSheetThoughMostAreInTrouble) {
-    farm_standing farm{.farm = "Mains of Tullifern", .year_start = make_date(19, 12, 2024)};
+    farm_standing farm;
+    farm.farm = "Mains of Tullifern";
+    farm.year_start = make_date(19, 12, 2024);
     const std::string long_verdict =
         "Over 250 kg N/ha in twelve months: Steading Park (253.0) and Lade Haugh (306.5). 1 application in a "
         "closed period: Den Brae on 09/10/2025 (Dairy slurry - medium dry matter (6%)).";
