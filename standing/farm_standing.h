@@ -81,7 +81,7 @@ struct missing_data {
 };
 
 struct farm_standing {
-    farm_paths files;
+    farm_paths files{};
     std::string trouble{};  // why a file could not be read; empty: it could. With one nothing below is filled
     std::string farm{};
     std::string zone{};
