@@ -31,6 +31,7 @@ TEST(PastedBlock, ReadsWhatSpreadsheetsPutOnTheClipboard) {
         EXPECT_EQ(parse_block(c.text), c.cells) << c.text;
     const cell_block awkward{{"a\tb", "c\r\nd", "\"e"}, {"", "f\"g"}, {"", ""}};
     EXPECT_EQ(parse_block(block_text(awkward)), awkward);
+    EXPECT_EQ(cells_of({{"a", "b", "c"}, {}, {"d"}}), 4U);
 }
 
 TEST(PastedEntry, TurnsATextIntoWhatThePartAsksFor) {

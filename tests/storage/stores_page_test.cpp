@@ -88,6 +88,10 @@ TEST_F(StoresPage, WhatIsUndoneIsWrittenAtOnceButForImportedStores) {
     history.redo();
     EXPECT_TRUE(module.stores().imported());
     EXPECT_EQ(stored("Slurry_store", "Store_name"), texts{"Pit"}) << "they wait for the save of the plan";
+    ASSERT_TRUE(module.storage_cont2());
+    ASSERT_TRUE(module.save_storage());
+    EXPECT_EQ(stored("Slurry_store", "Store_name"), (texts{"Pit", "Lagoon"}));
+    EXPECT_FALSE(history.can_undo()) << "what is saved is not undone";
 }
 
 TEST_F(StoresPage, EmptyRowIsNeitherEditedNorDeletedAndAFailedWriteLeavesTheTable) {
