@@ -45,7 +45,9 @@ bool is_of_stocking_page(int column) {
 text_grid with_own_columns(const text_grid& before, const text_grid& now, bool (*own)(int column)) {
     text_grid saved = now;
     for (int row = 0; row < now.row_count(); ++row) {
-        const int stood = before.find(site_column::field, now.cell(row, site_column::field));
+        const std::string& field = now.cell(row, site_column::field);
+        const bool stays = row < before.row_count() && before.cell(row, site_column::field) == field;
+        const int stood = stays ? row : before.find(site_column::field, field);
         for (int c = 1; c < now.column_count(); ++c) {
             if (own(c)) continue;
             std::string text = stood < 0 ? std::string{} : before.cell(stood, c);
