@@ -1,5 +1,7 @@
 #include "composting/composting_account.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "composting/composting_messages.h"
@@ -10,6 +12,12 @@ namespace kel {
 namespace {
 
 namespace text = composting_messages;
+
+constexpr explained_result results[] = {
+    {rate_label, "Quantity of waste to be applied"},
+    {release_label, "Extra release of nitrogen next spring"},
+    {note_label, "What to do with next year's fertiliser"},
+};
 
 // The figure as its rule gives it, with everything told on the way; nothing, with what is missing, without
 // it.
@@ -39,20 +47,23 @@ std::optional<std::string> told_figure(const composting_inputs& inputs, composti
 
 }  // namespace
 
+std::span<const explained_result> composting_results() {
+    return results;
+}
+
 explanation why_recorded(const composting_inputs& inputs, composting_figure figure) {
     const bool rate = figure == composting_figure::rate;
-    explanation why(rate ? "Quantity of waste to be applied" : "Extra release of nitrogen next spring");
+    explanation why{std::string(results[rate ? 0 : 1].subject)};
     auto shown = told_figure(inputs, figure, "Recorded calculations", why);
     if (shown) why.set_result(*std::move(shown), rate ? "t dry matter/ha" : "kg N/ha");
     return why;
 }
 
 std::optional<explanation> why_shown(std::string_view label, const composting_inputs& inputs) {
-    if (label != rate_label && label != release_label && label != note_label) return std::nullopt;
+    const auto known = std::ranges::find(results, label, &explained_result::name);
+    if (known == std::end(results)) return std::nullopt;
+    explanation why{std::string(known->subject)};
     const bool rate = label == rate_label;
-    explanation why(rate                     ? "Quantity of waste to be applied"
-                    : label == release_label ? "Extra release of nitrogen next spring"
-                                             : "What to do with next year's fertiliser");
     const auto figure = rate ? composting_figure::rate : composting_figure::release;
     const auto shown = told_figure(inputs, figure, "In Field Composting", why);
     if (!shown) return why;

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "composting/composting_rules.h"
+#include "core/explained_result.h"
 #include "core/explanation.h"
 
 namespace kel {
@@ -24,6 +26,9 @@ struct composting_inputs {
 inline constexpr std::string_view rate_label = "lblStraw_rate";
 inline constexpr std::string_view release_label = "lblStraw_release";
 inline constexpr std::string_view note_label = "lblStraw_note";
+
+/// All of them.
+std::span<const explained_result> composting_results();
 
 /// Quantity or release as the table of recorded calculations has them, plain numbers.
 explanation why_recorded(const composting_inputs& inputs, composting_figure figure);

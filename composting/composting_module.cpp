@@ -168,10 +168,8 @@ std::optional<explanation> composting_module::why(const text_grid& grid, std::si
 }
 
 std::optional<explanation> composting_module::why(std::string_view result) const {
-    if (worked_) return why_shown(result, worked_->inputs);
-    explanation nothing("Result of the calculator");
-    nothing.set_missing("Nothing has been calculated yet.");
-    return nothing;
+    if (!worked_) return std::nullopt;
+    return why_shown(result, worked_->inputs);
 }
 
 bool composting_module::close() {

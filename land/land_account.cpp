@@ -115,12 +115,8 @@ std::string told_result(std::string_view label, const text_grid& land, const tex
     return label == comment_label ? land_messages::comment(result) : land_messages::note(result);
 }
 
-struct told_label {
-    std::string_view label;
-    std::string_view subject;
-};
 // clang-format off
-constexpr told_label told_labels[] = {
+constexpr explained_result results[] = {
     {production_label,   "Nitrogen produced as organic manures"},
     {farm_limit_label,   "Farm limit on spreading organic manures"},
     {field_limits_label, "Field limits on spreading organic manures"},
@@ -132,6 +128,10 @@ constexpr told_label told_labels[] = {
 // clang-format on
 
 }  // namespace
+
+std::span<const explained_result> land_results() {
+    return results;
+}
 
 std::optional<profile_texts> read_profile_texts(const std::string& assess_file, const std::string& field) {
     if (assess_file.empty()) return std::nullopt;
@@ -173,8 +173,8 @@ std::optional<explanation> why_stock_cell(const text_grid& animals, int row, int
 
 std::optional<explanation> why_land_result(std::string_view label, const text_grid& land,
                                            const text_grid& animals) {
-    for (const told_label& known : told_labels) {
-        if (known.label != label) continue;
+    for (const explained_result& known : results) {
+        if (known.name != label) continue;
         explanation why{std::string(known.subject)};
         std::string shown = told_result(label, land, animals, why);
         why.set_result(std::move(shown), "");

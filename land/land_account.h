@@ -2,9 +2,11 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "core/explained_result.h"
 #include "core/explanation.h"
 #include "core/text_grid.h"
 
@@ -25,6 +27,8 @@ inline constexpr std::string_view other_land_label = "lblLand_result4";
 inline constexpr std::string_view grassland_label = "lblLand_result5";
 inline constexpr std::string_view comment_label = "lblLand_comment";
 inline constexpr std::string_view note_label = "lblLand_note";
+/// All of them.
+std::span<const explained_result> land_results();
 /// One of them; nothing for another name.
 std::optional<explanation> why_land_result(std::string_view label, const text_grid& land,
                                            const text_grid& animals);

@@ -223,6 +223,7 @@ std::optional<explanation> land_module::why(const text_grid& grid, std::size_t r
 }
 
 std::optional<explanation> land_module::why(std::string_view result) const {
+    if (!result_) return std::nullopt;
     return why_land_result(result, land_, animals_);
 }
 

@@ -71,7 +71,7 @@ class land_module {
 
     /// Why a cell of one of its tables is what it is; nothing for what a person enters. Throws file_error.
     std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
-    /// The same of a label of the result panel, by its name.
+    /// The same of a label of the result panel, by its name; nothing while it is closed.
     std::optional<explanation> why(std::string_view result) const;
 
     /// Replaces both tables in the file in one transaction. False: no file was chosen. Throws file_error; the

@@ -44,11 +44,10 @@ void tell_difference(const spreading_result& result, explanation& why) {
     if (result.balance != land_balance::equal)
         why.step("The difference is that of the figures before they are rounded: " + with(more, " - ") +
                  with(less, " = ") + with(more - less, " kg N/year"));
-    why.rule(result.field_limits_lower
-                 ? "The field limits together are lower than the farm limit, and a note says so:"
-                 : "The field limits together are not lower than the farm limit, so that there is no note:");
-    why.step("Field limits " + with(result.field_limits_kg, " kg N/year, farm limit ") +
-             with(result.farm_limit_kg, " kg N/year"));
+    why.step("Field limits together " + with(result.field_limits_kg, " kg N/year, farm limit ") +
+             with(result.farm_limit_kg, " kg N/year: ") +
+             (result.field_limits_lower ? "lower, so that a note says so"
+                                        : "not lower, so that there is no note"));
 }
 
 }  // namespace
@@ -63,7 +62,7 @@ float available_area(const field_areas& areas, explanation* why) {
         why->step("Deducted: " + with(areas.buffer_ha, " + ") + with(areas.slope_ha, " + ") +
                   with(areas.other_deduction_ha, " = ") + with(deducted, " ha"));
         why->step("Left: " + with(whole, " - ") + with(deducted, " = ") + with(left, " ha"));
-        if (left < 0) why->rule("An area is never below 0, so that it counts as 0 ha.");
+        if (left < 0) why->step("An area is never below 0, so that it counts as 0 ha.");
     }
     return std::max(0.0F, left);
 }

@@ -145,8 +145,8 @@ TEST_F(LandWhy, TellsStockAndBalance) {
               (texts{"Farm limit: 2040 kg N/year", "Production: 3600 kg N/year",
                      "The difference is that of the figures before they are rounded: 3600 - 2040 = 1560 kg "
                      "N/year",
-                     "The field limits together are not lower than the farm limit, so that there is no note:",
-                     "Field limits 3000 kg N/year, farm limit 2040 kg N/year"}));
+                     "Field limits together 3000 kg N/year, farm limit 2040 kg N/year: not lower, so that "
+                     "there is no note"}));
     EXPECT_EQ(balance.back(), says::comment(*module.result()));
 }
 
