@@ -48,7 +48,7 @@ float dirty_water_in(const dirty_water_answers& answers, std::size_t month, expl
     // An actual figure is kept and reported, but does not enter the balance.
     if (holds_number(answers.actual) || !holds_number(answers.cows)) {
         if (why)
-            why->rule(
+            why->step(
                 holds_number(answers.actual)
                     ? "An actual figure of dirty water is reported, but not put into the stores: 0 cubic m."
                     : "No dirty water has been estimated: 0 cubic m.");

@@ -1,11 +1,13 @@
 #include "storage/land_plan.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <utility>
 
 #include "core/assessment_files.h"
 #include "core/numbers.h"
+#include "core/told_rows.h"
 #include "rules/crop_catalogue.h"
 
 namespace kel {
@@ -163,8 +165,10 @@ void add_missing_rows(const database& db, const land_plan& plan) {
     }
 }
 
-void set_column_total(text_grid& grid, int column, int fields) {
-    grid.set_cell(grid.row_count() - 1, column, shortest_text(grid.sum(column, fields)));
+constexpr std::string_view total_label = "Monthly total =";
+
+void set_column_total(text_grid& grid, int column) {
+    grid.set_cell(grid.row_count() - 1, column, column_total_text(grid, column, {}));
 }
 
 }  // namespace
@@ -199,38 +203,75 @@ void save_imported_plan(const database& db, const land_plan& plan) {
     write_plan(db, plan, written::every_column);
 }
 
+std::string month_of_use(const text_grid& land, int row, const crop_pair& use, int harvest_month, int month,
+                         explanation* why) {
+    const std::span<const int> closed = closed_months(land.cell(row, plan_column::soil), use.second, why);
+    if (std::ranges::find(closed, month) != closed.end()) return std::string(closed_month);
+    const bool under_crop = use.first != crop_types::grass && month <= harvest_month;
+    std::string free = under_crop ? "0" : land.cell(row, plan_column::available);
+    if (!why) return free;
+    why->input("First crop", shown_crop_type(use.first).value_or(use.first), "", "Step 2, use of the field");
+    if (use.first == crop_types::grass)
+        why->rule("In an open month all the available area of grassland is free.");
+    else
+        why->rule(
+            "In an open month land under any other first crop than grass is free after the month of "
+            "harvest only, which was given with the use of the field.");
+    if (under_crop)
+        why->step("Under the crop up to " + std::string(month_name(harvest_month)) + ": 0 ha");
+    else
+        told_cell(land, row, plan_column::available, "Step 1", why);
+    return free;
+}
+
 void set_field_use(land_plan& plan, int row, const crop_pair& use, int harvest_month) {
     plan.land.set_cell(row, plan_column::crop, compose_crop_pair(use.first, use.second));
-    open_closed_months(plan.land, row, plan_column::january);
     open_closed_months(plan.spreading, row, spreading_column::january);
-    for (const int month : closed_months(plan.land.cell(row, plan_column::soil), use.second)) {
-        plan.land.set_cell(row, land_column_of(month), std::string(closed_month));
-        plan.spreading.set_cell(row, spreading_column_of(month), std::string(closed_month));
-    }
     for (int month = 1; month <= months_in_year; ++month) {
-        if (plan.land.cell(row, land_column_of(month)) == closed_month) continue;
-        const bool under_crop = use.first != crop_types::grass && month <= harvest_month;
-        plan.land.set_cell(row, land_column_of(month),
-                           under_crop ? "0" : plan.land.cell(row, plan_column::available));
+        std::string text = month_of_use(plan.land, row, use, harvest_month, month);
+        if (text == closed_month) plan.spreading.set_cell(row, spreading_column_of(month), text);
+        plan.land.set_cell(row, land_column_of(month), std::move(text));
     }
 }
 
+std::string column_total_text(const text_grid& grid, int column, std::string_view unit, explanation* why) {
+    const int fields = grid.row_count() - 2;
+    std::string total = shortest_text(grid.sum(column, fields));
+    if (!why) return total;
+    std::vector<told_row> rows;
+    for (int row = 0; row < fields; ++row)
+        if (const float amount = grid.number(row, column); amount != 0)
+            rows.push_back(
+                {grid.cell(row, 0) + ": " + grid.cell(row, column) + ' ' + std::string(unit), amount});
+    why->rule("The figures of all fields in this month added up; a closed month counts 0.");
+    tell_rows(*why, rows, "fields", unit);
+    return total;
+}
+
 void set_plan_totals(land_plan& plan) {
-    plan.land.set_cell(plan.land.row_count() - 1, plan_column::available, "Monthly total =");
-    plan.spreading.set_cell(plan.spreading.row_count() - 1, spreading_column::field, "Monthly total =");
+    plan.land.set_cell(plan.land.row_count() - 1, plan_column::available, std::string(total_label));
+    plan.spreading.set_cell(plan.spreading.row_count() - 1, spreading_column::field,
+                            std::string(total_label));
     for (int month = 1; month <= months_in_year; ++month) {
-        set_column_total(plan.land, land_column_of(month), plan.fields());
-        set_column_total(plan.spreading, spreading_column_of(month), plan.fields());
+        set_column_total(plan.land, land_column_of(month));
+        set_column_total(plan.spreading, spreading_column_of(month));
     }
+}
+
+float volume_spread(const land_plan& plan, int row, int month, explanation* why) {
+    const float rate = plan.spreading.number(row, spreading_column_of(month));
+    const float area = plan.land.number(row, land_column_of(month));
+    if (why)
+        why->step("Rate x free land: " + shortest_text(rate) + " cubic m/ha x " + shortest_text(area) +
+                  " ha = " + default_text(rate * area) + " cubic m");
+    return rate * area;
 }
 
 monthly_values monthly_spreading(const land_plan& plan) {
     monthly_values outputs{};
     for (int row = 0; row < plan.fields(); ++row)
         for (int month = 1; month <= months_in_year; ++month)
-            outputs[static_cast<std::size_t>(month - 1)] +=
-                plan.spreading.number(row, spreading_column_of(month)) *
-                plan.land.number(row, land_column_of(month));
+            outputs[static_cast<std::size_t>(month - 1)] += volume_spread(plan, row, month);
     return outputs;
 }
 

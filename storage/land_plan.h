@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/assessment_store.h"
+#include "core/explanation.h"
 #include "core/farm_fields.h"
 #include "core/grid_rows.h"
 #include "core/text_grid.h"
@@ -48,12 +49,20 @@ void save_land_plan(const database& db, const land_plan& plan);
 /// [Land] lacks gets its row there.
 void save_imported_plan(const database& db, const land_plan& plan);
 
-/// A field's use: its closed months in both tables, and the land that the crops leave in the others. Land
-/// under a crop is free only after the month of harvest (1 to 12); grassland is free all year.
+/// What a field's use makes of a month (1 to 12) in the land table: closed, or the land that the crops leave.
+/// Land under a crop is free only after the month of harvest (1 to 12); grassland is free all year.
+std::string month_of_use(const text_grid& land, int row, const crop_pair& use, int harvest_month, int month,
+                         explanation* why = nullptr);
+/// Sets a field's use with its closed months in both tables and the land of the others.
 void set_field_use(land_plan& plan, int row, const crop_pair& use, int harvest_month);
 
+/// A month's sum over the fields of either table: hectares, or the rates as they stand.
+std::string column_total_text(const text_grid& grid, int column, std::string_view unit,
+                              explanation* why = nullptr);
 /// Rows of totals of both tables.
 void set_plan_totals(land_plan& plan);
+/// Cubic metres spread on the field of a row in a month (1 to 12): rate times area.
+float volume_spread(const land_plan& plan, int row, int month, explanation* why = nullptr);
 /// Cubic metres spread in each month: rate times area over all fields. A closed month counts 0.
 monthly_values monthly_spreading(const land_plan& plan);
 

@@ -1,10 +1,12 @@
 #include "storage/production_grid.h"
 
 #include <array>
+#include <vector>
 
 #include "core/assessment_files.h"
 #include "core/grid_rows.h"
 #include "core/numbers.h"
+#include "core/told_rows.h"
 #include "storage/slurry_production.h"
 
 namespace kel {
@@ -54,10 +56,19 @@ void add_empty_line(text_grid& production) {
 }
 
 // The stock lines of a month added to `total`.
-float with_stock_lines(float total, const text_grid& production, int column) {
-    for (int row = first_stock_row; row < empty_stock_row(production); ++row)
-        if (production.cell(row, column) == on_slurry_system)
-            total += production.number(row, production_column::total_volume);
+float with_stock_lines(float total, const text_grid& production, int column, explanation* why = nullptr) {
+    std::vector<told_row> rows;
+    for (int row = first_stock_row; row < empty_stock_row(production); ++row) {
+        if (production.cell(row, column) != on_slurry_system) continue;
+        const float volume = production.number(row, production_column::total_volume);
+        total += volume;
+        if (why && volume != 0)
+            rows.push_back({production.cell(row, production_column::number) + " x " +
+                                production.cell(row, production_column::stock) + ": " +
+                                shortest_text(volume) + " cubic m",
+                            volume});
+    }
+    if (why) tell_rows(*why, rows, "lines", "cubic m");
     return total;
 }
 
@@ -76,17 +87,34 @@ text_grid empty_production_grid() {
     return production;
 }
 
+std::string unit_volume_text(const text_grid& production, int row, explanation* why) {
+    const std::string& unit = told_cell(production, row, production_column::stock, in_production_table, why);
+    if (unit.empty()) return {};
+    if (const auto volume = slurry_volume(unit)) {
+        if (why)
+            why->source("Slurry volumes of the guidelines for farmers in the zones, row \"" + unit +
+                        "\": " + std::string(*volume) + " cubic m a month");
+        return std::string(*volume);
+    }
+    if (why)
+        why->rule("The table of slurry volumes has no such unit. The line keeps the volume that it has.");
+    return production.cell(row, production_column::unit_volume);
+}
+
+std::string total_volume_text(const text_grid& production, int row, explanation* why) {
+    const auto cell = [&](int column) -> const std::string& {
+        return told_cell(production, row, column, in_production_table, why);
+    };
+    const std::string volume = unit_volume_text(production, row, why);
+    const std::string& percent = cell(production_column::percent);
+    return line_volume(volume, percent, cell(production_column::number), why);
+}
+
 void recalculate_stock_line(text_grid& production, int row) {
     using namespace production_column;
     const bool was_empty_line = row == empty_stock_row(production);
-    const std::string& unit = production.cell(row, stock);
-    if (unit.empty())
-        production.set_cell(row, unit_volume, "");
-    else if (const auto volume = slurry_volume(unit))
-        production.set_cell(row, unit_volume, std::string(*volume));
-    production.set_cell(row, total_volume,
-                        line_volume(production.cell(row, unit_volume), production.cell(row, percent),
-                                    production.cell(row, number)));
+    production.set_cell(row, unit_volume, unit_volume_text(production, row));
+    production.set_cell(row, total_volume, total_volume_text(production, row));
     for (int column = january; column < all_months_end; ++column)
         if (production.cell(row, column).empty())
             production.set_cell(row, column, std::string(on_slurry_system));
@@ -98,18 +126,36 @@ void erase_stock_line(text_grid& production, int row) {
     blank_cells(production, empty_stock_row(production), production_column::total_volume);
 }
 
+std::string input_text(float input, explanation* why) {
+    std::string text = shortest_text(round_half_even(input, 1));
+    if (why) why->step("Rounded to 1 decimal, halves to the even digit: " + text + " cubic m");
+    return text;
+}
+
 void set_inputs(text_grid& production, const monthly_values& inputs) {
     int column = production_column::january;
     for (const float input : inputs)
-        production.set_cell(inputs_row, column++, shortest_text(round_half_even(input, 1)));
+        production.set_cell(inputs_row, column++, input_text(input));
+}
+
+std::string production_total_text(const text_grid& production, int column, explanation* why) {
+    const float inputs = production.number(inputs_row, column);
+    if (why) {
+        why->rule(
+            "The rain and the dirty water of the month as the top row shows them, and the lines that are "
+            "on the slurry system in it.");
+        why->step("Rain and dirty water: " + shortest_text(inputs) + " cubic m");
+    }
+    std::string text = shortest_text(with_stock_lines(inputs, production, column, why));
+    if (why) why->step("Together: " + text + " cubic m, not rounded");
+    return text;
 }
 
 void set_production_totals(text_grid& production) {
     set_labels(production);
     for (int column = production_column::january; column < all_months_end; ++column)
-        production.set_cell(
-            production_totals_row(production), column,
-            shortest_text(with_stock_lines(production.number(inputs_row, column), production, column)));
+        production.set_cell(production_totals_row(production), column,
+                            production_total_text(production, column));
 }
 
 monthly_values production_totals(const text_grid& production) {

@@ -2,7 +2,11 @@
 // a row of monthly totals. Rows count from 0 without the heading.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "core/assessment_store.h"
+#include "core/explanation.h"
 #include "core/record_import.h"
 #include "core/text_grid.h"
 #include "rules/months.h"
@@ -12,6 +16,9 @@ namespace kel {
 namespace production_column {
 enum : int { stock, number, percent, unit_volume, total_volume, january };
 }
+
+/// Where an account says that its inputs were entered.
+inline constexpr std::string_view in_production_table = "Step 2, Slurry Production";
 
 /// Inputs, empty line and totals only.
 text_grid empty_production_grid();
@@ -25,6 +32,11 @@ inline int production_totals_row(const text_grid& production) {
     return production.row_count() - 1;
 }
 
+// The cells that follow from a stock line: cubic metres a month of one unit and of the line. A unit that is
+// not in the table keeps the volume that the line has.
+std::string unit_volume_text(const text_grid& production, int row, explanation* why = nullptr);
+std::string total_volume_text(const text_grid& production, int row, explanation* why = nullptr);
+
 /// Volumes and empty month cells of a stock line after a change of its stock, number or percentage. A line
 /// that was the empty one gets a new empty line beneath it.
 void recalculate_stock_line(text_grid& production, int row);
@@ -32,8 +44,10 @@ void recalculate_stock_line(text_grid& production, int row);
 void erase_stock_line(text_grid& production, int row);
 
 /// Row of inputs: cubic metres with at most 1 decimal.
+std::string input_text(float input, explanation* why = nullptr);
 void set_inputs(text_grid& production, const monthly_values& inputs);
 /// Row of totals: inputs as shown, and the lines that are on the slurry system in the month.
+std::string production_total_text(const text_grid& production, int column, explanation* why = nullptr);
 void set_production_totals(text_grid& production);
 monthly_values production_totals(const text_grid& production);
 /// Cubic metres of the lines alone.

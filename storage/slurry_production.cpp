@@ -42,9 +42,19 @@ std::optional<std::string_view> slurry_volume(std::string_view unit) {
     return std::nullopt;
 }
 
-std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number) {
+std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number,
+                        explanation* why) {
     const double product = leading_number(volume) / 100 * leading_number(percent) * leading_number(number);
-    return default_text(product);
+    std::string text = default_text(product);
+    if (why) {
+        why->rule(
+            "The volume of one unit, as much of it as is collected as slurry, times the number of units; "
+            "what is not entered counts 0.");
+        why->step(default_text(leading_number(volume)) + " / 100 x " + default_text(leading_number(percent)) +
+                  " x " + default_text(leading_number(number)) + " = " + text +
+                  " cubic m a month, not rounded");
+    }
+    return text;
 }
 
 }  // namespace kel

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/explanation.h"
+
 namespace kel {
 
 struct slurry_unit {
@@ -21,7 +23,8 @@ std::optional<std::string_view> slurry_volume(std::string_view unit);
 
 /// Cubic metres a month of one line as its cell text: volume per unit times the percentage collected times
 /// the number of units; "0" if one of the texts is empty.
-std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number);
+std::string line_volume(std::string_view volume, std::string_view percent, std::string_view number,
+                        explanation* why = nullptr);
 
 /// Cells of the months in which a line's slurry goes to the stores, or does not.
 inline constexpr std::string_view on_slurry_system = "Slurry";

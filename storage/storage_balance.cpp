@@ -57,7 +57,7 @@ void tell_month(std::size_t month, const month_flow& flow, const store_totals& s
     why.step("Level: " + default_text(flow.start) + " + " + default_text(flow.input) + " - " +
              default_text(flow.output) + " = " + default_text(flow.end) + " cubic m");
     if (flow.end < 0)
-        why.rule(
+        why.step(
             "More is to be spread than there is: the stores are empty then, and owe nothing to the next "
             "month.");
     why.step("Of what the stores hold: " + default_text(std::max(flow.end, 0.0F)) + " / " +

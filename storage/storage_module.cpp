@@ -1,5 +1,6 @@
 #include "storage/storage_module.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -7,6 +8,8 @@
 #include "core/module_save.h"
 #include "core/numbers.h"
 #include "rules/rainfall.h"
+#include "storage/plan_account.h"
+#include "storage/storage_account.h"
 #include "storage/storage_messages.h"
 #include "storage/storage_report.h"
 
@@ -156,6 +159,28 @@ bool storage_module::save_storage() {
     stores_.set_saved(file.db());
     plan_.set_saved();
     return true;
+}
+
+std::optional<explanation> storage_module::why(const text_grid& grid, std::size_t row,
+                                               std::size_t column) const {
+    const int at_row = static_cast<int>(row);
+    const int at_column = static_cast<int>(column);
+    if (&grid == &stores_.stores())
+        return why_store(grid, at_row, at_column, get_previous_percent_full(state_));
+    if (&grid == &plan_.production())
+        return why_production(grid, at_row, at_column, {stores_.stores(), rain_mm_, water_.answers()});
+    if (&grid == &plan_.land()) return why_plan_land(plan_.fields(), at_row, at_column);
+    return why_spreading(plan_.fields(), at_row, at_column);
+}
+
+std::optional<explanation> storage_module::why(std::string_view result) const {
+    const auto known = std::ranges::find(storage_results(), result, &explained_result::name);
+    if (known == storage_results().end() || page_ == storage_page::water) return std::nullopt;
+    const auto asked = static_cast<std::size_t>(known - storage_results().begin());
+    if (asked == capacity_result) return why_capacity(stores_.stores(), rain_mm_);
+    if (page_ != storage_page::plan) return std::nullopt;
+    const balance_sources sources{plan_.stores(), plan_.production(), plan_.fields()};
+    return asked == warning_result ? why_warning(sources) : why_level(sources, asked - january_result);
 }
 
 bool storage_module::close() {

@@ -2,10 +2,13 @@
 // of the first two are written on the way; the tables of the third only by save_storage.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/application_state.h"
+#include "core/explanation.h"
 #include "core/loaded_rows.h"
 #include "core/prompts.h"
 #include "reports/report_viewer.h"
@@ -49,6 +52,12 @@ class storage_module {
     /// Writes the three tables and December's level in one transaction. False: no file was chosen. Throws
     /// file_error; the file then holds its old rows.
     bool save_storage();
+    /// Why a cell of one of its tables is what it is, or what follows from what is entered there. Throws
+    /// file_error.
+    std::optional<explanation> why(const text_grid& grid, std::size_t row, std::size_t column) const;
+    /// The same of a result of the last page.
+    std::optional<explanation> why(std::string_view result) const;
+
     /// Asks whether the module may close.
     bool close();
     /// Shows the report of the third page; nothing on the others. With a capacity the page shows the picture

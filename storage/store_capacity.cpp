@@ -43,7 +43,7 @@ double usable_depth(double depth_m, explanation* why) {
         why->step("Usable depth: " + told(depth_m) + " - " + told(tank_freeboard_m) + " = " + told(usable_m) +
                   " m");
         if (usable_m < 0)
-            why->rule("It is less deep than what it must keep free, so that it counts below 0.");
+            why->step("It is less deep than what it must keep free, so that it counts below 0.");
     }
     return usable_m;
 }
@@ -160,7 +160,7 @@ float store_capacity(store_shape shape, const store_size& size, explanation* why
     const auto volume = static_cast<float>(volume_of(shape, size, why));
     // A lagoon without a bank angle, as in a damaged table, has no volume.
     if (std::isfinite(volume)) return volume;
-    if (why) why->rule("With these sizes there is no volume to be worked out; the store counts 0 cubic m.");
+    if (why) why->step("With these sizes there is no volume to be worked out; the store counts 0 cubic m.");
     return 0;
 }
 
