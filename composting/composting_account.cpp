@@ -13,7 +13,7 @@ namespace {
 
 namespace text = composting_messages;
 
-constexpr explained_result results[] = {
+constexpr named_result results[] = {
     {rate_label, "Quantity of waste to be applied"},
     {release_label, "Extra release of nitrogen next spring"},
     {note_label, "What to do with next year's fertiliser"},
@@ -47,22 +47,22 @@ std::optional<std::string> told_figure(const composting_inputs& inputs, composti
 
 }  // namespace
 
-std::span<const explained_result> composting_results() {
+std::span<const named_result> composting_results() {
     return results;
 }
 
 explanation why_recorded(const composting_inputs& inputs, composting_figure figure) {
     const bool rate = figure == composting_figure::rate;
-    explanation why{std::string(results[rate ? 0 : 1].subject)};
+    explanation why{std::string(results[rate ? 0 : 1].caption)};
     auto shown = told_figure(inputs, figure, "Recorded calculations", why);
     if (shown) why.set_result(*std::move(shown), rate ? "t dry matter/ha" : "kg N/ha");
     return why;
 }
 
 std::optional<explanation> why_shown(std::string_view label, const composting_inputs& inputs) {
-    const auto known = std::ranges::find(results, label, &explained_result::name);
+    const auto known = std::ranges::find(results, label, &named_result::name);
     if (known == std::end(results)) return std::nullopt;
-    explanation why{std::string(known->subject)};
+    explanation why{std::string(known->caption)};
     const bool rate = label == rate_label;
     const auto figure = rate ? composting_figure::rate : composting_figure::release;
     const auto shown = told_figure(inputs, figure, "In Field Composting", why);

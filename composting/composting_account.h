@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "composting/composting_rules.h"
-#include "core/explained_result.h"
 #include "core/explanation.h"
+#include "core/named_result.h"
 
 namespace kel {
 
@@ -28,7 +28,7 @@ inline constexpr std::string_view release_label = "lblStraw_release";
 inline constexpr std::string_view note_label = "lblStraw_note";
 
 /// All of them.
-std::span<const explained_result> composting_results();
+std::span<const named_result> composting_results();
 
 /// Quantity or release as the table of recorded calculations has them, plain numbers.
 explanation why_recorded(const composting_inputs& inputs, composting_figure figure);

@@ -116,7 +116,7 @@ std::string told_result(std::string_view label, const text_grid& land, const tex
 }
 
 // clang-format off
-constexpr explained_result results[] = {
+constexpr named_result results[] = {
     {production_label,   "Nitrogen produced as organic manures"},
     {farm_limit_label,   "Farm limit on spreading organic manures"},
     {field_limits_label, "Field limits on spreading organic manures"},
@@ -129,7 +129,7 @@ constexpr explained_result results[] = {
 
 }  // namespace
 
-std::span<const explained_result> land_results() {
+std::span<const named_result> land_results() {
     return results;
 }
 
@@ -173,9 +173,9 @@ std::optional<explanation> why_stock_cell(const text_grid& animals, int row, int
 
 std::optional<explanation> why_land_result(std::string_view label, const text_grid& land,
                                            const text_grid& animals) {
-    for (const explained_result& known : results) {
+    for (const named_result& known : results) {
         if (known.name != label) continue;
-        explanation why{std::string(known.subject)};
+        explanation why{std::string(known.caption)};
         std::string shown = told_result(label, land, animals, why);
         why.set_result(std::move(shown), "");
         return why;

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/explained_result.h"
 #include "core/explanation.h"
+#include "core/named_result.h"
 #include "core/text_grid.h"
 
 namespace kel {
@@ -28,7 +28,7 @@ inline constexpr std::string_view grassland_label = "lblLand_result5";
 inline constexpr std::string_view comment_label = "lblLand_comment";
 inline constexpr std::string_view note_label = "lblLand_note";
 /// All of them.
-std::span<const explained_result> land_results();
+std::span<const named_result> land_results();
 /// One of them; nothing for another name.
 std::optional<explanation> why_land_result(std::string_view label, const text_grid& land,
                                            const text_grid& animals);

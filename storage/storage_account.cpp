@@ -15,7 +15,7 @@ namespace {
 
 // The months are points of the chart.
 // clang-format off
-constexpr explained_result results[] = {
+constexpr named_result results[] = {
     {"fraStores",          "What the slurry stores hold"},
     {"lblStorage_warning", "Whether the stores are large enough"},
     {"MSChartStorage1",   "Level at the end of January"},
@@ -98,7 +98,7 @@ void tell_spreading(const land_plan& plan, int month, explanation& why) {
 
 }  // namespace
 
-std::span<const explained_result> storage_results() {
+std::span<const named_result> storage_results() {
     return results;
 }
 
@@ -110,7 +110,7 @@ std::optional<explanation> why_store(const text_grid& stores, int row, int colum
 }
 
 explanation why_capacity(const text_grid& stores, const monthly_values& rain_mm) {
-    explanation why{std::string(results[capacity_result].subject)};
+    explanation why{std::string(results[capacity_result].caption)};
     const store_totals totals = compute_store_totals(stores, rain_mm, &why);
     if (totals.total_capacity > 0)
         why.set_result(default_text(totals.total_capacity), "cubic m");
@@ -121,7 +121,7 @@ explanation why_capacity(const text_grid& stores, const monthly_values& rain_mm)
 
 explanation why_level(const balance_sources& sources, std::size_t month) {
     const int number = static_cast<int>(month) + 1;
-    explanation why{std::string(results[january_result + month].subject)};
+    explanation why{std::string(results[january_result + month].caption)};
     const monthly_values inputs = production_totals(sources.production);
     const float rain = sources.production.number(inputs_row, production_column::january + number - 1);
     why.step("Rain and dirty water: " + default_text(rain) + " cubic m");
@@ -141,7 +141,7 @@ explanation why_level(const balance_sources& sources, std::size_t month) {
 }
 
 explanation why_warning(const balance_sources& sources) {
-    explanation why{std::string(results[warning_result].subject)};
+    explanation why{std::string(results[warning_result].caption)};
     const auto balance = build_balance(sources.stores, production_totals(sources.production),
                                        monthly_spreading(sources.plan), &why);
     if (balance)

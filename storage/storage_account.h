@@ -6,8 +6,8 @@
 #include <span>
 #include <string>
 
-#include "core/explained_result.h"
 #include "core/explanation.h"
+#include "core/named_result.h"
 #include "core/text_grid.h"
 #include "storage/land_plan.h"
 #include "storage/storage_balance.h"
@@ -20,7 +20,7 @@ std::optional<explanation> why_store(const text_grid& stores, int row, int colum
                                      const std::optional<std::string>& previous_percent);
 
 /// What can be asked for outside the tables: the capacity, the warning, then the level of each month.
-std::span<const explained_result> storage_results();
+std::span<const named_result> storage_results();
 inline constexpr std::size_t capacity_result = 0;
 inline constexpr std::size_t warning_result = 1;
 inline constexpr std::size_t january_result = 2;

@@ -174,7 +174,7 @@ std::optional<explanation> storage_module::why(const text_grid& grid, std::size_
 }
 
 std::optional<explanation> storage_module::why(std::string_view result) const {
-    const auto known = std::ranges::find(storage_results(), result, &explained_result::name);
+    const auto known = std::ranges::find(storage_results(), result, &named_result::name);
     if (known == storage_results().end() || page_ == storage_page::water) return std::nullopt;
     const auto asked = static_cast<std::size_t>(known - storage_results().begin());
     if (asked == capacity_result) return why_capacity(stores_.stores(), rain_mm_);

@@ -9,8 +9,12 @@
 #include "crops/crop_module.h"
 #include "grass/grass_module.h"
 #include "inorganic/inorganic_module.h"
+#include "land/land_account.h"
+#include "land/land_module.h"
 #include "manure/manure_module.h"
 #include "record/record_module.h"
+#include "storage/storage_account.h"
+#include "storage/storage_module.h"
 #include "tools/bench/bench_applications.h"
 #include "tools/bench/bench_farm.h"
 #include "tools/bench/groups.h"
@@ -161,6 +165,33 @@ void add_inorganic(large_farm& farm, std::vector<bench_line>& lines) {
     lines.push_back(line("Why?, a cell of Step 4", slowest_cell_ms(module, module.applications())));
 }
 
+void add_land(large_farm& farm, std::vector<bench_line>& lines) {
+    land_module module(farm.state(), farm.person);
+    module.load_land_stuff();
+    lines.push_back(line("Why?, a cell of Step 1", slowest_cell_ms(module, module.land())));
+    module.calculate();
+    double slowest = 0;
+    for (const named_result& result : land_results())
+        slowest = std::max(slowest, result_ms(module, result.name));
+    lines.push_back(line("Why?, a result of Step 1", slowest));
+}
+
+void add_storage(large_farm& farm, std::vector<bench_line>& lines) {
+    storage_module module(farm.state(), farm.person);
+    module.storage_load_stuff();
+    module.water().set_cows("100");
+    module.water().set_pig_pens("10");
+    if (!module.storage_cont1() || !module.storage_cont2()) throw std::runtime_error("Step 2 stops");
+    const plan_page& plan = module.plan();
+    double slowest = 0;
+    for (const text_grid* table : {&plan.production(), &plan.land(), &plan.spreading()})
+        slowest = std::max(slowest, slowest_cell_ms(module, *table));
+    lines.push_back(line("Why?, a cell of Step 2", slowest));
+    for (const named_result& result : storage_results())
+        slowest = std::max(slowest, result_ms(module, result.name));
+    lines.push_back(line("Why?, a level of Step 2", slowest));
+}
+
 }  // namespace
 
 std::vector<bench_line> why_bench() {
@@ -171,6 +202,8 @@ std::vector<bench_line> why_bench() {
     add_crops(farm, lines);
     add_grass(farm, lines);
     add_record(farm, lines);
+    add_land(farm, lines);
+    add_storage(farm, lines);
     return lines;
 }
 

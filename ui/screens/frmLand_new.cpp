@@ -9,12 +9,14 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "land/land_account.h"
 #include "land/land_messages.h"
 #include "land/land_report.h"
 #include "ui/widgets/box_set.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/print_job.h"
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -39,6 +41,7 @@ frmLand_new::frmLand_new(application_state& state, prompts& person, report_desk&
     disable_meanwhile(tabs_->tabBar());
     add_entry_boxes();
     use_history(module_.history());
+    use_explanations(views_, explained_by(module_, land_results()));
     land_->setFocus();
 }
 

@@ -5,12 +5,14 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "storage/storage_account.h"
 #include "storage/storage_messages.h"
 #include "storage/storage_report.h"
 #include "ui/screens/storage_plan_page.h"
 #include "ui/screens/storage_stores_page.h"
 #include "ui/screens/storage_water_page.h"
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -32,6 +34,7 @@ frmStorage::frmStorage(application_state& state, prompts& person, report_desk& d
     layout->addWidget(pages_, 1);
     layout->addLayout(commands());
     use_history(module_.plan().history());
+    use_explanations(pages_, explained_by(module_, storage_results()));
     connect(water_, &storage_water_page::confirmed, water_continue_, &QPushButton::click);
     show_page();
 }

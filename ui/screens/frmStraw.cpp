@@ -15,6 +15,7 @@
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
+#include "ui/widgets/why_panel.h"
 
 namespace kel {
 
@@ -30,6 +31,7 @@ frmStraw::frmStraw(application_state& state, prompts& person, report_desk& desk)
     views_->addWidget(panel());
     layout->addWidget(views_, 1);
     use_history(module_.history());
+    use_explanations(views_, explained_by(module_, composting_results()));
     show_answers();
     show_result();
     show_view();

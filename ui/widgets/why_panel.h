@@ -7,11 +7,13 @@
 #include <QPointer>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/explanation.h"
+#include "core/named_result.h"
 #include "core/text_grid.h"
 
 class QComboBox;
@@ -20,12 +22,6 @@ namespace kel {
 
 class grid_view;
 class why_text;
-
-/// A result outside the tables: the name of the control that shows it, and what the panel's list calls it.
-struct named_result {
-    std::string_view name;
-    std::string_view caption;
-};
 
 /// Where the accounts come from; rows count from 0 without the heading.
 struct why_source {
@@ -46,6 +42,10 @@ why_source explained_by(const Module& module, std::vector<named_result> results 
         source.result = [&module](std::string_view name) { return module.why(name); };
     source.results = std::move(results);
     return source;
+}
+template <class Module>
+why_source explained_by(const Module& module, std::span<const named_result> results) {
+    return explained_by(module, std::vector<named_result>(results.begin(), results.end()));
 }
 
 class why_panel : public QFrame {
