@@ -14,9 +14,9 @@ namespace {
 namespace text = composting_messages;
 
 constexpr named_result results[] = {
-    {rate_label, "Quantity of waste to be applied"},
-    {release_label, "Extra release of nitrogen next spring"},
-    {note_label, "What to do with next year's fertiliser"},
+    {composting_label::rate, "Quantity of waste to be applied"},
+    {composting_label::release, "Extra release of nitrogen next spring"},
+    {composting_label::note, "What to do with next year's fertiliser"},
 };
 
 // The figure as its rule gives it, with everything told on the way; nothing, with what is missing, without
@@ -63,11 +63,11 @@ std::optional<explanation> why_shown(std::string_view label, const composting_in
     const auto known = std::ranges::find(results, label, &named_result::name);
     if (known == std::end(results)) return std::nullopt;
     explanation why{std::string(known->caption)};
-    const bool rate = label == rate_label;
+    const bool rate = label == composting_label::rate;
     const auto figure = rate ? composting_figure::rate : composting_figure::release;
     const auto shown = told_figure(inputs, figure, "In Field Composting", why);
     if (!shown) return why;
-    if (label == note_label) {
+    if (label == composting_label::note) {
         why.rule("Below 0 nitrogen is still locked up, above 0 extra nitrogen comes; at 0 there is no note.");
         why.set_result(std::string(text::note(*shown)), "");
     } else {

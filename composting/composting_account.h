@@ -23,9 +23,11 @@ struct composting_inputs {
 };
 
 // The labels of the result.
-inline constexpr std::string_view rate_label = "lblStraw_rate";
-inline constexpr std::string_view release_label = "lblStraw_release";
-inline constexpr std::string_view note_label = "lblStraw_note";
+namespace composting_label {
+inline constexpr std::string_view rate = "lblStraw_rate";
+inline constexpr std::string_view release = "lblStraw_release";
+inline constexpr std::string_view note = "lblStraw_note";
+}  // namespace composting_label
 
 /// All of them.
 std::span<const named_result> composting_results();

@@ -94,36 +94,36 @@ void tell_field_limits(const text_grid& land, explanation& why) {
 std::string told_result(std::string_view label, const text_grid& land, const text_grid& animals,
                         explanation& why) {
     const farm_sums sums = sums_of(land, animals);
-    if (label == production_label) {
+    if (label == land_label::production) {
         tell_stock(animals, why);
         return shown_per_year(sums.production_kg, &why);
     }
-    if (label == field_limits_label) {
+    if (label == land_label::field_limits) {
         tell_field_limits(land, why);
         return shown_per_year(sums.field_limits_kg, &why);
     }
-    if (label == other_land_label) {
+    if (label == land_label::other_land) {
         tell_areas(land, land_column::not_in_grass, "not in grass", why);
         return shown_per_year(other_land_limit(sums, &why), &why);
     }
-    if (label == grassland_label) {
+    if (label == land_label::grassland) {
         tell_areas(land, land_column::grass, "in grass", why);
         return shown_per_year(grassland_limit(sums, &why), &why);
     }
-    if (label == farm_limit_label) return shown_per_year(farm_limit(sums, &why), &why);
+    if (label == land_label::farm_limit) return shown_per_year(farm_limit(sums, &why), &why);
     const spreading_result result = compare_with_limits(sums, &why);
-    return label == comment_label ? land_messages::comment(result) : land_messages::note(result);
+    return label == land_label::comment ? land_messages::comment(result) : land_messages::note(result);
 }
 
 // clang-format off
 constexpr named_result results[] = {
-    {production_label,   "Nitrogen produced as organic manures"},
-    {farm_limit_label,   "Farm limit on spreading organic manures"},
-    {field_limits_label, "Field limits on spreading organic manures"},
-    {other_land_label,   "Limit of the land not in grass"},
-    {grassland_label,    "Limit of the grassland"},
-    {comment_label,      "Whether there is enough land"},
-    {note_label,         "Whether the field limits are lower than the farm limit"},
+    {land_label::production,   "Nitrogen produced as organic manures"},
+    {land_label::farm_limit,   "Farm limit on spreading organic manures"},
+    {land_label::field_limits, "Field limits on spreading organic manures"},
+    {land_label::other_land,   "Limit of the land not in grass"},
+    {land_label::grassland,    "Limit of the grassland"},
+    {land_label::comment,      "Whether there is enough land"},
+    {land_label::note,         "Whether the field limits are lower than the farm limit"},
 };
 // clang-format on
 

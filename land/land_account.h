@@ -20,13 +20,16 @@ std::optional<explanation> why_land_cell(const text_grid& land, int row, int col
 std::optional<explanation> why_stock_cell(const text_grid& animals, int row, int column);
 
 // The labels of the result panel, from the top.
-inline constexpr std::string_view production_label = "lblLand_result1";
-inline constexpr std::string_view farm_limit_label = "lblLand_result2";
-inline constexpr std::string_view field_limits_label = "lblLand_result3";
-inline constexpr std::string_view other_land_label = "lblLand_result4";
-inline constexpr std::string_view grassland_label = "lblLand_result5";
-inline constexpr std::string_view comment_label = "lblLand_comment";
-inline constexpr std::string_view note_label = "lblLand_note";
+namespace land_label {
+inline constexpr std::string_view production = "lblLand_result1";
+inline constexpr std::string_view farm_limit = "lblLand_result2";
+inline constexpr std::string_view field_limits = "lblLand_result3";
+inline constexpr std::string_view other_land = "lblLand_result4";
+inline constexpr std::string_view grassland = "lblLand_result5";
+inline constexpr std::string_view comment = "lblLand_comment";
+inline constexpr std::string_view note = "lblLand_note";
+}  // namespace land_label
+
 /// All of them.
 std::span<const named_result> land_results();
 /// One of them; nothing for another name.

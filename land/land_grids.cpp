@@ -123,7 +123,7 @@ std::string available_text(const text_grid& land, int row, explanation* why) {
 }
 
 std::string field_limit_text(const text_grid& land, int row, explanation* why) {
-    const std::string text = shortest_text(field_limit(available_area(areas_of(land, row, why), why), why));
+    std::string text = shortest_text(field_limit(available_area(areas_of(land, row, why), why), why));
     if (why) why->step("The limit is worked out from the area before it is rounded, and is not rounded.");
     return text;
 }

@@ -40,8 +40,9 @@ TEST_F(CompostingWhy, AccountsAgreeWithTheSampleAndWithRandomCalculations) {
                                        std::string(straw ? straw_waste : pms_waste), dice.number(3)};
         if (!module.calculate(inputs)) continue;
         const composting_shown shown = module.shown();
-        const std::pair<std::string_view, std::string> labels[] = {
-            {rate_label, shown.rate}, {release_label, shown.release}, {note_label, shown.note}};
+        const std::pair<std::string_view, std::string> labels[] = {{composting_label::rate, shown.rate},
+                                                                   {composting_label::release, shown.release},
+                                                                   {composting_label::note, shown.note}};
         for (const auto& [label, text] : labels) {
             const auto why = module.why(label);
             ASSERT_TRUE(why);
@@ -55,9 +56,9 @@ TEST_F(CompostingWhy, AccountsAgreeWithTheSampleAndWithRandomCalculations) {
 }
 
 TEST_F(CompostingWhy, TellsFactorsAndBothRoundings) {
-    EXPECT_EQ(module.why(rate_label), std::nullopt);
+    EXPECT_EQ(module.why(composting_label::rate), std::nullopt);
     ASSERT_TRUE(module.calculate({"Broccoli", "50", "PMS", "0.81"}));
-    EXPECT_EQ(told(module.why(release_label)),
+    EXPECT_EQ(told(module.why(composting_label::release)),
               (texts{"Extra release of nitrogen next spring", "Crop residue: Broccoli (In Field Composting)",
                      "Nitrogen of crop residues, row \"Broccoli\": 78 kg N/ha",
                      "Soil mineral nitrogen at harvest: 50 kg N/ha (In Field Composting)",
@@ -73,7 +74,7 @@ TEST_F(CompostingWhy, TellsFactorsAndBothRoundings) {
                      "0.515 x 66.7 = 34.3505 kg N/ha", "Rounded to 1 decimal, halves away from 0: 34.4",
                      "34.4 kg N/ha"}));
     ASSERT_TRUE(module.calculate({"Broccoli", "50", "PMS", "0.8"}));
-    EXPECT_EQ(told(module.why(rate_label)).at(6),
+    EXPECT_EQ(told(module.why(composting_label::rate)).at(6),
               "Composting table of the KEL guidelines, row \"paper mill sludge, up to 0.8% N\"");
 }
 

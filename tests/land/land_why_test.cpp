@@ -25,10 +25,10 @@ void expect_results_told(land_module& module) {
     module.calculate();
     const spreading_result& result = *module.result();
     const std::pair<std::string_view, std::string> labels[] = {
-        {production_label, result.production},     {farm_limit_label, result.farm_limit},
-        {field_limits_label, result.field_limits}, {other_land_label, result.other_land_limit},
-        {grassland_label, result.grassland_limit}, {comment_label, says::comment(result)},
-        {note_label, says::note(result)},
+        {land_label::production, result.production},     {land_label::farm_limit, result.farm_limit},
+        {land_label::field_limits, result.field_limits}, {land_label::other_land, result.other_land_limit},
+        {land_label::grassland, result.grassland_limit}, {land_label::comment, says::comment(result)},
+        {land_label::note, says::note(result)},
     };
     for (const auto& [label, shown] : labels) {
         const auto why = module.why(label);
@@ -64,6 +64,7 @@ TEST_F(LandWhy, AccountsAgreeWithRandomEntriesBeforeAndAfterTheyAreLoaded) {
         dice dice(seed);
         agreeing_person anyone;
         std::vector<test_field> fields;
+        fields.reserve(40);
         for (int i = 0; i < 40; ++i)
             fields.push_back({"Field " + std::to_string(i), dice.number(30)});
         open_farm(fields);
@@ -140,7 +141,7 @@ TEST_F(LandWhy, TellsStockAndBalance) {
                      "sheep\": 9 kg N/year",
                      "400 x 9 kg N/year = 3600 kg N/year, not rounded", "3600 kg N/year"}));
     module.calculate();
-    const texts balance = told(module.why(comment_label));
+    const texts balance = told(module.why(land_label::comment));
     EXPECT_EQ(texts(balance.begin() + 2, balance.end() - 1),
               (texts{"Farm limit: 2040 kg N/year", "Production: 3600 kg N/year",
                      "The difference is that of the figures before they are rounded: 3600 - 2040 = 1560 kg "

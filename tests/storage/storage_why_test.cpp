@@ -101,6 +101,7 @@ class StorageWhy : public storage_test {
   protected:
     static std::vector<test_field> random_fields(dice& dice, int count) {
         std::vector<test_field> fields;
+        fields.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i)
             fields.push_back(
                 {"Field " + std::to_string(i), dice.number(20), std::string(dice.one_of(soils()).name)});
