@@ -1,6 +1,5 @@
 // What a person sees of saved and unsaved work: the mark in the title, the line at the foot, Ctrl+S.
 #include <QRegularExpression>
-#include <QStatusBar>
 
 #include "profile/profile_messages.h"
 #include "tests/ui/screen_fixture.h"
@@ -77,9 +76,7 @@ TEST_F(SavedState, TextTypedAboveTheFieldsIsUnsavedAndSetProfileIsTheSave) {
     ctrl_s("profile");
     EXPECT_FALSE(screen("profile"));
     EXPECT_EQ(column_of(state.assess_file, "FarmProfile", "Area"), texts{"16"});
-    const auto* bar = screen("front")->findChild<QStatusBar*>();
-    ASSERT_TRUE(bar);
-    EXPECT_TRUE(says_saved(bar->currentMessage())) << from_qt(bar->currentMessage());
+    EXPECT_TRUE(says_saved(qt(shown_text("front", "lblFront_saved"))));
 }
 
 TEST_F(SavedState, AnotherAssessmentBeginsWithNothingUnsavedAndNothingSaid) {

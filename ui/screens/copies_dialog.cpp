@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "shell/farm_files_messages.h"
 #include "ui/widgets/qt_text.h"
@@ -83,7 +84,10 @@ void copies_dialog::fill(const std::vector<earlier_copy>& copies) {
     for (int column = 0; column + 1 < list_->columnCount(); ++column)
         list_->setColumnWidth(column,
                               std::min(list_->columnWidth(column), fontMetrics().averageCharWidth() * 34));
+    // The path takes what is left; its tool tip has the whole of it.
+    list_->setColumnWidth(list_->columnCount() - 1, 1);
     list_->horizontalHeader()->setStretchLastSection(true);
+    list_->setTextElideMode(Qt::ElideMiddle);
     if (!copies.empty()) list_->selectRow(0);
 }
 

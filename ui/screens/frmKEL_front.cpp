@@ -143,6 +143,12 @@ frmKEL_front::frmKEL_front(assessments_module& module, farm_files_module& files,
     layout->setSpacing(14);
     layout->addWidget(header());
     layout->addWidget(buttons(), 1);
+    // A message of the bar itself would go with the next menu.
+    saved_ = new QLabel(this);
+    saved_->setObjectName("lblFront_saved");
+    saved_->setTextFormat(Qt::PlainText);
+    saved_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(saved_, 1);
     setCentralWidget(centre);
     refresh();
 }
@@ -328,7 +334,8 @@ void frmKEL_front::show_verdicts() {
 }
 
 void frmKEL_front::say(const QString& text) {
-    statusBar()->showMessage(text);
+    saved_->setText(text);
+    saved_->setToolTip(text.isEmpty() ? QString() : plain_tip(text));
 }
 
 void frmKEL_front::showEvent(QShowEvent* event) {

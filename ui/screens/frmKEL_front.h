@@ -65,6 +65,7 @@ class frmKEL_front : public QMainWindow {
     QLabel* farm_ = nullptr;
     QLabel* file_ = nullptr;
     QMenu* recent_ = nullptr;
+    QLabel* saved_ = nullptr;
 };
 
 }  // namespace kel
