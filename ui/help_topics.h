@@ -15,7 +15,7 @@ constexpr std::string_view help_topic_of(screen_id id) {
         std::string_view topic;
     };
     // clang-format off
-    constexpr std::array<screen_topic, 12> topics{{
+    constexpr std::array<screen_topic, 14> topics{{
         {screen_id::profile,   "kel_profile.htm"},
         {screen_id::location,  "kel_location.htm"},
         {screen_id::land,      "kel_land.htm"},
@@ -26,6 +26,8 @@ constexpr std::string_view help_topic_of(screen_id id) {
         {screen_id::grass,     "kel_grass.htm"},
         {screen_id::straw,     "kel_composting.htm"},
         {screen_id::record,    "kel_record.htm"},
+        {screen_id::calendar,  "kel_calendar.htm"},
+        {screen_id::sheets,    "kel_calendar.htm"},
         {screen_id::years,     "kel_years.htm"},
         {screen_id::viewer,    "kel_reports.htm"},
     }};

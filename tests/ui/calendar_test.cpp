@@ -168,6 +168,8 @@ TEST_F(CalendarScreen, TheTableReadsTheSameAndTheReportLeadsBack) {
         what,
         " Field; 01/10/2025 Closed to slurries and manures; 19/12/2024 Closed to inorganic nitrogen; "
         "15/09/2025 Closed to inorganic nitrogen; 03/10/2025 Slurry or manure;  Limit of 250 kg N/ha; ");
+    press_key(Qt::Key_Plus, 1, Qt::ControlModifier);
+    EXPECT_GT(rows->widths().zoom_percent(), 100);
     table->click();
     EXPECT_TRUE(view()->isVisible());
     press("calendar", "cmdCalendar_report");

@@ -92,7 +92,10 @@ void frmCalendar::add_zoom_keys() {
 }
 
 void frmCalendar::zoom(int steps) {
-    view_->zoom(steps);
+    if (grid_ && grid_->isVisible())
+        grid_->widths().zoom(steps);
+    else
+        view_->zoom(steps);
 }
 
 void frmCalendar::show_table(bool wanted) {

@@ -97,6 +97,11 @@ void find_strip::leave() {
     grid_.setFocus();
 }
 
+// What the line has no use for, as F2, would else go on to the grid.
+void find_strip::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+}
+
 // None of its keys may reach the grid, on which they would open a box. It goes when something else is turned
 // to.
 bool find_strip::eventFilter(QObject* watched, QEvent* event) {

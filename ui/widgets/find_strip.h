@@ -25,6 +25,7 @@ class find_strip : public QFrame {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     struct place {
