@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 
 #include "profile/profile_messages.h"
@@ -22,7 +23,7 @@ namespace kel {
 namespace {
 
 // In characters.
-constexpr int side_width = 50;
+constexpr int side_width = 55;
 constexpr int value_width = 26;
 
 QLabel* value_label(const char* name, QWidget* parent) {
@@ -72,7 +73,6 @@ Scotland::Scotland(application_state& state, prompts& person, profile_module& pr
 
 QWidget* Scotland::side_panel() {
     auto* side = new QWidget(this);
-    side->setFixedWidth(characters_px(*side, side_width));
     auto* panel = new QWidget;
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
@@ -116,7 +116,9 @@ QWidget* Scotland::side_panel() {
 
     auto* whole = new QVBoxLayout(side);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(new giving_area(panel, "fraScotland_side", side), 1);
+    auto* area = new giving_area(panel, "fraScotland_side", side);
+    side->setFixedWidth(std::max(characters_px(*side, side_width), area->minimumSizeHint().width()));
+    whole->addWidget(area, 1);
     whole->addLayout(button_row());
     return side;
 }

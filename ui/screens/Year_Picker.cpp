@@ -31,10 +31,10 @@ constexpr std::array<row_text, 3> row_texts{
      {"Previous Year 2:", "Select a previous assessment (2 years ago)"}}};
 
 // In characters.
-constexpr int instruction_width = 100;
-constexpr int name_width = 30;
-constexpr int path_width = 78;
-constexpr int new_path_width = 60;
+constexpr int instruction_width = 120;
+constexpr int name_width = 36;
+constexpr int path_width = 92;
+constexpr int new_path_width = 70;
 constexpr int window_edge_px = 40;  // that its frame may take of the screen
 
 QLabel* text_label(const QString& name, QWidget* parent) {

@@ -16,6 +16,7 @@
 #include <string_view>
 #include <utility>
 
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/qt_text.h"
 #include "ui/widgets/verdict_label.h"
 
@@ -142,7 +143,7 @@ frmKEL_front::frmKEL_front(assessments_module& module, farm_files_module& files,
     layout->setContentsMargins(18, 14, 18, 18);
     layout->setSpacing(14);
     layout->addWidget(header());
-    layout->addWidget(buttons(), 1);
+    layout->addWidget(new giving_area(buttons(), "fraFront", centre), 1);
     // A message of the bar itself would go with the next menu.
     saved_ = new QLabel(this);
     saved_->setObjectName("lblFront_saved");

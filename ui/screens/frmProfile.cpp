@@ -113,7 +113,7 @@ QWidget* frmProfile::field_entries() {
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(0, 0, 0, 0);
     count_ = new_whole_number_box("Text1", panel);
-    count_->setFixedWidth(characters_px(*count_, 13));
+    count_->setFixedWidth(characters_px(*count_, 15));
     auto* caption = new QLabel(tr("Num&ber of fields:"), panel);
     caption->setBuddy(count_);
     row->addWidget(caption);

@@ -11,6 +11,7 @@
 #include "ui/screens/storage_plan_page.h"
 #include "ui/screens/storage_stores_page.h"
 #include "ui/screens/storage_water_page.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/qt_text.h"
 #include "ui/widgets/why_panel.h"
 
@@ -30,7 +31,7 @@ frmStorage::frmStorage(application_state& state, prompts& person, report_desk& d
     pages_ = new QStackedWidget(this);
     for (QWidget* page :
          {static_cast<QWidget*>(water_), static_cast<QWidget*>(stores_), static_cast<QWidget*>(plan_)})
-        pages_->addWidget(page);
+        pages_->addWidget(new giving_area(page, page->objectName() + "_area", this));
     layout->addWidget(pages_, 1);
     layout->addLayout(commands());
     use_history(module_.plan().history());

@@ -12,6 +12,7 @@
 
 #include "composting/composting_messages.h"
 #include "ui/widgets/box_set.h"
+#include "ui/widgets/giving_area.h"
 #include "ui/widgets/grid_view.h"
 #include "ui/widgets/line_editor.h"
 #include "ui/widgets/qt_text.h"
@@ -27,8 +28,8 @@ frmStraw::frmStraw(application_state& state, prompts& person, report_desk& desk)
     instruction_ = new_text("lblStraw_instruction", this);
     layout->addWidget(instruction_);
     views_ = new QStackedWidget(this);
-    views_->addWidget(calculator());
-    views_->addWidget(panel());
+    views_->addWidget(new giving_area(calculator(), "fraStraw_calculator", this));
+    views_->addWidget(new giving_area(panel(), "fraStraw_recorded", this));
     layout->addWidget(views_, 1);
     use_history(module_.history());
     use_explanations(views_, explained_by(module_, composting_results()));

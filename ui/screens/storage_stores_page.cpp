@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/screens/frmStorage.h"
 #include "ui/widgets/choice_list.h"
@@ -18,7 +19,7 @@ namespace kel {
 
 namespace {
 
-constexpr int form_width = 50;  // characters
+constexpr int form_width = 58;  // characters
 
 }  // namespace
 
@@ -44,6 +45,7 @@ QWidget* storage_stores_page::form(frmStorage& screen) {
     for (const std::string_view shape : store_shapes())
         shape_->addItem(qt(shape));
     shape_->setFixedHeight(3 * shape_->sizeHintForRow(0) + 2 * shape_->frameWidth());
+    shape_->setMinimumWidth(shape_->sizeHintForColumn(0) + 4 * shape_->frameWidth());
     shape_->setAccessibleName(tr("Shape"));
     lines_->addRow(tr("S&hape:"), shape_);
     depth_ = add_box(tr("&Depth (m):"), "txtStorage3_depth", &store_form::depth);
@@ -65,7 +67,7 @@ QWidget* storage_stores_page::form(frmStorage& screen) {
     for (QLineEdit* box : {length_, width_, diameter_})
         connect(box, &QLineEdit::textEdited, this, [this] { area_->setText(qt(auto_area(entered()))); });
     auto* area = new giving_area(frame, "fraStorage3_form", this);
-    area->setFixedWidth(characters_px(*frame, form_width));
+    area->setFixedWidth(std::max(characters_px(*frame, form_width), area->minimumSizeHint().width()));
     return area;
 }
 

@@ -19,8 +19,8 @@ namespace kel {
 namespace {
 
 // In characters.
-constexpr int form_width = 108;
-constexpr int box_width = 20;
+constexpr int form_width = 126;
+constexpr int box_width = 23;
 
 void show_text(QLineEdit* box, const std::string& text) {
     const QSignalBlocker quiet(box);
