@@ -33,9 +33,9 @@ struct sheet_kind {
 };
 constexpr std::array<sheet_kind, 2> sheets{{
     {blank_sheet::manure,     "KEL_sheet_manure.htm",     text::manure_sheet_title,     "slurries and manures",
-     {{{"Date", "8%"}, {"Type", "13%"}, {"Amount (t or cubic m)", "9%"}, {"Area spread (ha)", "7%"}, {"Incorporation (hours)", "9%"}}}},
+     {{{"Date", "8%"}, {"Type", "11%"}, {"Amount (t or cubic m)", "9%"}, {"Area spread (ha)", "7%"}, {"Incorporation (hours)", "11%"}}}},
     {blank_sheet::fertiliser, "KEL_sheet_fertiliser.htm", text::fertiliser_sheet_title, "inorganic nitrogen",
-     {{{"Date", "8%"}, {"Type", "12%"}, {"Amount (kg/ha)", "7%"}, {"N content (%)", "7%"}, {"Comments", "13%"}}}},
+     {{{"Date", "8%"}, {"Type", "11%"}, {"Amount (kg/ha)", "7%"}, {"N content (%)", "7%"}, {"Comments", "13%"}}}},
 }};
 // clang-format on
 
@@ -51,7 +51,7 @@ report_cell month_cell(const std::vector<season_span>& closed, const month_piece
 }
 
 std::vector<report_cell> heading_cells(const sheet_kind& sheet, const std::vector<month_piece>& months) {
-    std::vector<report_cell> cells{{.text = "Field", .width = "11%"}, {.text = "Area (ha)", .width = "5%"}};
+    std::vector<report_cell> cells{{.text = "Field", .width = "10%"}, {.text = "Area (ha)", .width = "5%"}};
     for (const month_piece& month : months)
         cells.push_back({.text = std::string(month.letters.substr(0, 1)), .width = "3%"});
     for (const blank_column& column : sheet.columns)
