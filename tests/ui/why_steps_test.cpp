@@ -18,7 +18,7 @@ class WhySteps : public screen_test {
                 {{"Field Area ID", "Long Rig"},
                  {"Soil", "Sandy loams"},
                  {"Area In Grass (ha)", "15"},
-                 {"Available Field Area (ha)", "15"},
+                 {"Available Field Area (ha)", "15.00"},
                  {"Crop", "Grass / Other"},
                  {"September", "Closed"}});
         add_row(state.assess_file, "Slurry_store",
@@ -83,7 +83,7 @@ TEST_F(WhySteps, Step2TellsStoresClosedMonthsAndLevels) {
     press(tag, "cmdStores_continue");
     expect_cell_told("MSFlexGridStorage_animals", 0, 5, "Dirty water: 10 x 0.558 + 0 x 0.018 = 5.58 cubic m");
     expect_result_told("MSChartStorage1", "50 cubic m free = 50 cubic m");
-    expect_result_told("lblStorage_warning", "No month is above 100 %");
+    expect_result_told("lblStorage_warning", "July: 108.6 cubic m, 108.6 %");
     expect_result_told("fraStores", "Together: 100 cubic m");
     drive::control<QTabWidget>(screen(tag), "SSTabStorage")->setCurrentIndex(1);
     expect_cell_told("MSFlexGridStorage_land", 0, plan_column::january + 8, "Closed periods for slurry");
