@@ -18,6 +18,11 @@ std::string strong(std::string_view words) {
     return "<strong>" + std::string(words) + "</strong> ";
 }
 
+// Closer to what it stands over than a paragraph, for the page to fit on one sheet.
+page_lines caption(const std::string& text) {
+    return {"<p style=margin-top:8px;margin-bottom:2px>" + text + "</p>"};
+}
+
 std::string verdict_cell(const step_standing& step) {
     const bool marked = step.worst == severity::wrong || step.worst == severity::attention;
     return (marked ? strong(std::string(word_of(step.worst)) + ":") : "") + escaped(step.verdict);
@@ -78,7 +83,7 @@ field_rows rows_of(const farm_standing& farm) {
         add_line(rows[breach.field].closed, short_date_text(breach.day) + " " + escaped(breach.applied) +
                                                 (breach.justified ? ", reason given" : ""));
     for (const requirement_excess& field : farm.requirement_exceeded)
-        rows[field.field].inorganic = strong(escaped(field.applied)) + "required " + escaped(field.required);
+        rows[field.field].inorganic = strong(escaped(field.applied)) + "of " + escaped(field.required);
     return rows;
 }
 
@@ -86,10 +91,10 @@ page_lines fields_table(const farm_standing& farm) {
     const field_rows rows = rows_of(farm);
     if (rows.empty()) return report_paragraph("No field is over a limit or within a tenth of one.");
     report_table table;
-    table.add_heading_row(std::vector<report_cell>{{.text = "Field", .width = "20%"},
-                                                   {.text = "Manure N, limit 250", .width = "20%"},
-                                                   {.text = "In a closed period", .width = "38%"},
-                                                   {.text = "Inorganic N", .width = "22%"}});
+    table.add_heading_row(std::vector<report_cell>{{.text = "Field", .width = "18%"},
+                                                   {.text = "Manure N, limit 250", .width = "15%"},
+                                                   {.text = "In a closed period", .width = "48%"},
+                                                   {.text = "Inorganic N", .width = "19%"}});
     for (const auto& [field, row] : rows)
         table.add_row({escaped(field), row.manure, row.closed, row.inorganic});
     return std::move(table).lines();
@@ -121,14 +126,16 @@ page_lines standing_report(const farm_standing& farm) {
     }
     std::string whose = escaped(farm.farm);
     if (farm.year_start) whose += (whose.empty() ? "" : ", ") + year_text({{}, farm.year_start});
-    append(body, report_paragraph(whose + ". By what is saved."));
+    append(body, caption(whose + ". By what is saved."));
     append(body, steps_table(farm));
     if (farm.months_over_full.size() > 1) append(body, report_paragraph(stores_told(farm)));
-    append(body, report_paragraph(strong("Fields to look at.") +
-                                  "Nitrogen in kg/ha, of manures the most in any twelve months."));
+    append(
+        body,
+        caption(strong("Fields to look at.") +
+                "In kg N/ha; of manures the most in any twelve months, of the others given and required."));
     append(body, fields_table(farm));
     if (farm.missing.empty()) return body;
-    append(body, report_paragraph(strong("What is missing")));
+    append(body, caption(strong("What is missing")));
     append(body, missing_list(farm));
     return body;
 }

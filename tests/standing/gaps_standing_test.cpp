@@ -210,7 +210,7 @@ TEST_F(GapsStanding, ThePageTellsNamesAsTheyAreTyped) {
         page += line + "\n";
     EXPECT_EQ(page.find("<b>"), std::string::npos);
     EXPECT_NE(page.find("&lt;b&gt;Park &amp; Co"), std::string::npos);
-    for (const char* told : {"253.0", "09/10/2025", "required 87.2", "Low Moss", "KEL year 19 December 2024"})
+    for (const char* told : {"253.0", "09/10/2025", "of 87.2", "Low Moss", "KEL year 19 December 2024"})
         EXPECT_NE(page.find(told), std::string::npos) << told;
 }
 

@@ -151,6 +151,7 @@ frmKEL_front::frmKEL_front(assessments_module& module, farm_files_module& files,
     saved_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(saved_, 1);
     setCentralWidget(centre);
+    statusBar();  // from the start: nothing moves when something is first said there
     refresh();
 }
 
