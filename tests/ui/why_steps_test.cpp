@@ -17,7 +17,8 @@ class WhySteps : public screen_test {
         add_row(state.assess_file, "Land",
                 {{"Field Area ID", "Long Rig"},
                  {"Soil", "Sandy loams"},
-                 {"Area In Grass (ha)", "15"},
+                 {"Area In Grass (ha)", "16"},
+                 {"Buffer Areas To Be Deducted (ha)", "1"},
                  {"Available Field Area (ha)", "15.00"},
                  {"Crop", "Grass / Other"},
                  {"September", "Closed"}});
@@ -62,13 +63,13 @@ class WhySteps : public screen_test {
 
 TEST_F(WhySteps, Step1TellsItsCellsAndItsResult) {
     open_panel_on(screen_id::land, "land");
-    expect_cell_told("MSFlexGridLand", 0, 6, "Left: 15 - 0 = 15 ha");
-    expect_cell_told("MSFlexGridLand", 0, 3, "Entered here; at most 15 ha");
+    expect_cell_told("MSFlexGridLand", 0, 6, "Left: 16 - 1 = 15 ha");
+    expect_cell_told("MSFlexGridLand", 0, 3, "Entered here; at most 16 ha");
     expect_result_told("lblLand_result2", "Nothing has been worked out here yet.");
     press(tag, "cmdLand_continue");
-    expect_told("15 ha x 250 kg N/ha = 3750 kg N/year");
-    expect_result_told("lblLand_comment", "Farm limit: 3750 kg N/year");
-    expect_result_told("lblLand_note", "no note");
+    expect_told("16 ha x 250 kg N/ha = 4000 kg N/year");
+    expect_result_told("lblLand_comment", "Farm limit: 4000 kg N/year");
+    expect_result_told("lblLand_note", "lower, so that a note says so");
     press(tag, "cmdLand_back");
     expect_told("Nothing has been worked out here yet.");
 }
