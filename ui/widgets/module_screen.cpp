@@ -350,11 +350,14 @@ grid_view* module_screen::front_grid() const {
 // Results in view would no longer be those of the tables.
 void module_screen::go_back(const text_grid* (grid_history::*way)()) {
     if (box_is_open() || !front_grid()) return;
-    const text_grid* changed = std::invoke(way, *history_);
-    if (!changed) return;
-    mark_unsaved();
-    refresh();
-    show_table(*changed);
+    const text_grid* changed = nullptr;
+    // Also when what was undone could not be written into the file: it stands in the table.
+    const auto shown = qScopeGuard([&] {
+        mark_unsaved();
+        refresh();
+        if (changed) show_table(*changed);
+    });
+    changed = std::invoke(way, *history_);
 }
 
 // Brings the tab of the table to the front.
