@@ -309,7 +309,7 @@ TEST_F(Viewer, AStorageReportIsSavedWithItsChartAndWithoutOneWhenItHasNone) {
     press("storage", "cmdStorage_continue");
     press("storage", "cmdStores_continue");
     write_file(chart, "the chart of before");
-    std::filesystem::create_directories(chart + ".new/in the way");
+    std::filesystem::create_directories(chart + ".unfinished/in the way");
     person.expect(stop_box(
         file_error(chart, "the chart could not be written. The folder may be read-only or the disc full.")));
     click(screen("storage"), "cmdReport");
