@@ -28,6 +28,7 @@ const std::string& told_cell(const text_grid& grid, int row, int column, std::st
     if (const auto bracket = heading.rfind(" ("); heading.ends_with(')') && bracket != heading.npos) {
         unit = heading.substr(bracket + 2, heading.size() - bracket - 3);
         heading = heading.substr(0, bracket);
+        if (unit == "o") unit = "degrees";  // as the headings write the sign of it
     }
     why->input(heading, text, unit, entered_in);
     return text;

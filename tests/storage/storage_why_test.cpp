@@ -237,6 +237,27 @@ TEST_F(StorageWhy, TellsWhatEachShapeHolds) {
     EXPECT_EQ(shallow.at(5), "2 slices together: 3.128988 cubic m");
 }
 
+TEST_F(StorageWhy, TellsTheSizesOfAStoreInTheTable) {
+    open({{"Home", "10"}});
+    walk_to_stores();
+    ASSERT_TRUE(module.stores().add_store({.name = "Lagoon",
+                                           .shape = "Earth banked lagoon",
+                                           .depth = "2",
+                                           .length = "20",
+                                           .width = "10",
+                                           .angle = "45",
+                                           .percent = "50",
+                                           .area = "210"}));
+    const texts holds = told(module.why(module.stores().stores(), 0, store_column::depth));
+    EXPECT_EQ(holds.at(5), "Bank Angle: 45 degrees (Step 2, slurry stores)");
+    EXPECT_EQ(holds.back(), "The store holds 155.7298 cubic m");
+    const texts level = told(module.why(module.stores().stores(), 0, store_column::percent));
+    EXPECT_TRUE(level.back().starts_with("Entered here: 77.86")) << level.back();
+    EXPECT_EQ(told(module.why(module.stores().stores(), 0, store_column::area)).back(),
+              "Entered here: 210 square m");
+    EXPECT_EQ(module.why(module.stores().stores(), 1, store_column::name), std::nullopt);
+}
+
 TEST_F(StorageWhy, SaysWhatIsMissingWithoutAStore) {
     open({{"Home", "10"}});
     walk_without_stores();
