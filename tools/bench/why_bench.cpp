@@ -56,6 +56,7 @@ class large_farm {
     large_farm() {
         farm_.state.kel_year_start = read_assessment_year(farm_.state.assess_file);
         farm_.state.manure_caller = manure_opener::front;
+        farm_.state.farm_town = "Kirriemuir";
         for (const std::string& file : {farm_.state.assess_file, farm_.state.prev1_file})
             write_applications(file);
     }
