@@ -29,13 +29,15 @@ bool farm_files_module::may_lose_unsaved() {
     return !screens_.has_unsaved() || person_.ask(text::unsaved_rows_go) == answer::yes;
 }
 
-void farm_files_module::open_recent(const std::string& path) {
+bool farm_files_module::open_recent(const std::string& path) {
     std::error_code unknown;
     if (!fs::exists(path, unknown)) {
         forget_recent(state_.places.recent_list(), path);
-        return person_.tell(text::recent_gone(path));
+        person_.tell(text::recent_gone(path));
+        return true;
     }
-    if (!same_file(path, state_.assess_file) && may_lose_unsaved()) years_.open_file(path);
+    if (same_file(path, state_.assess_file) || !may_lose_unsaved()) return true;
+    return years_.open_from_desktop(path);
 }
 
 void farm_files_module::show_folder(const std::string& folder) {

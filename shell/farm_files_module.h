@@ -21,9 +21,10 @@ class farm_files_module {
     /// Puts the open assessment first among the recent ones.
     void note_open();
     std::vector<recent_assessment> recent() const;
-    /// Opens it as Browse does; one that is gone is told and taken out. Throws file_error and then leaves
-    /// everything as it was.
-    void open_recent(const std::string& path);
+    /// Opens it as a double click on its file does, once unsaved rows may go; one that is gone is told and
+    /// taken out. False: it is open, and its links are wanted in the years dialog. Throws file_error and then
+    /// leaves everything as it was.
+    bool open_recent(const std::string& path);
 
     /// The folder of the open assessment, or that of new ones.
     void open_folder();

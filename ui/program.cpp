@@ -204,6 +204,7 @@ QWidget* program::make_front(screen_id /*id*/) {
         follow_assessment();
         refresh_front();
     });
+    connect(front, &frmKEL_front::years_wanted, this, [this] { open(screen_id::years); });
     connect(front, &frmKEL_front::close_pressed, this, [this] { front_.close_window(); });
     return front;
 }
@@ -270,8 +271,11 @@ QWidget* program::make_farms(screen_id /*id*/) {
         farms, &frmFarms::closed, this, [this] { leave(screen_id::farms, std::nullopt); },
         Qt::QueuedConnection);
     connect(farms, &frmFarms::farm_wanted, this, [this](const std::string& path) {
-        open_assessment(path);
-        if (!in_view(screen_id::years)) show_screen(screen_id::front);
+        const bool linked = files_.open_recent(path);
+        show_screen(screen_id::front);
+        follow_assessment();
+        refresh_front();
+        if (!linked) open(screen_id::years);
     });
     return farms;
 }

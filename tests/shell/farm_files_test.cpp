@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "shell/farm_files_messages.h"
+#include "shell/years_messages.h"
 #include "tests/shell/shell_fixture.h"
 
 namespace kel::test {
@@ -155,7 +156,7 @@ TEST_F(FarmFiles, AnotherCopyOfTheProgramIsNoticed) {
     EXPECT_FALSE(state.mark->held_elsewhere(state.assess_file)) << "that is this one";
 }
 
-TEST_F(FarmFiles, RecentAssessmentsOpenAsByBrowseAndVanishedOnesGo) {
+TEST_F(FarmFiles, RecentAssessmentsOpenAsByDoubleClickAndVanishedOnesGo) {
     const std::string first = state.assess_file;
     const std::string other = make_farm("other.kel", {}, 2023);
     files.note_open();
@@ -164,7 +165,8 @@ TEST_F(FarmFiles, RecentAssessmentsOpenAsByBrowseAndVanishedOnesGo) {
     files.open_recent(other);
     EXPECT_EQ(state.assess_file, first);
     shown.unsaved = false;
-    files.open_recent(other);
+    person.expect(years_messages::nothing_linked, answer::no);
+    EXPECT_FALSE(files.open_recent(other)) << "its links are to be chosen";
     EXPECT_EQ(state.assess_file, other);
     EXPECT_EQ(state.slot_current, other);
     EXPECT_NE(settings().find(other), std::string::npos);

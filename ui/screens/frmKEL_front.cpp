@@ -279,8 +279,9 @@ void frmKEL_front::list_recent() {
         const int longest = recent_->fontMetrics().averageCharWidth() * 110;
         entry = recent_->fontMetrics().elidedText(entry, Qt::ElideMiddle, longest);
         recent_->addAction(entry.replace('&', "&&"), this, [this, path = one.path] {
-            files_.open_recent(path);
+            const bool linked = files_.open_recent(path);
             emit files_changed();
+            if (!linked) emit years_wanted();
         });
     }
     recent_->setEnabled(!recent_->isEmpty());

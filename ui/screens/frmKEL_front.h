@@ -38,6 +38,8 @@ class frmKEL_front : public QMainWindow {
     void close_pressed();
     /// Another assessment, or another content, may have come to stand behind the screens.
     void files_changed();
+    /// The links of the assessment now open are to be chosen.
+    void years_wanted();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
