@@ -9,6 +9,7 @@
 #include <ctime>
 #include <filesystem>
 #include <system_error>
+#include <tuple>
 #include <utility>
 
 #include "core/copy_notes.h"
@@ -146,6 +147,10 @@ bool is_safe(char c) {
 }
 
 }  // namespace
+
+bool operator<(const moment& a, const moment& b) {
+    return std::tie(a.day, a.hour, a.minute, a.second) < std::tie(b.day, b.hour, b.minute, b.second);
+}
 
 moment local_moment() {
     const std::time_t now = std::time(nullptr);

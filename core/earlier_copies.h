@@ -21,8 +21,9 @@ struct moment {
     int hour = 0;
     int minute = 0;
     int second = 0;
-    auto operator<=>(const moment&) const = default;
+    bool operator==(const moment&) const = default;
 };
+bool operator<(const moment& a, const moment& b);
 moment local_moment();
 
 struct earlier_copy {
