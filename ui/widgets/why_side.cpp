@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLayout>
 #include <QShowEvent>
+#include <QTabWidget>
 #include <QTimer>
 #include <algorithm>
 #include <memory>
@@ -42,6 +43,8 @@ why_side::why_side(QWidget& screen, QWidget* tables, why_source source)
         grid->setContextMenuPolicy(Qt::ActionsContextMenu);
         grid->addAction(action_);
     }
+    for (auto* tabs : screen.findChildren<QTabWidget*>())
+        connect(tabs, &QTabWidget::currentChanged, panel_, &why_panel::refresh_soon);
 }
 
 // The focus still moves while the screen goes.
