@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <compare>
 #include <iterator>
 #include <numeric>
 #include <optional>
@@ -52,23 +51,23 @@ std::string_view take_digits(std::string_view& text) {
 }
 
 // "Field 9" before "field 10".
-std::strong_ordering compare_texts(std::string_view one, std::string_view other) {
+bool text_before(std::string_view one, std::string_view other) {
     const auto is_digit = [](char c) { return digits.find(c) != std::string_view::npos; };
     while (!one.empty() && !other.empty()) {
         if (is_digit(one.front()) && is_digit(other.front())) {
             const std::string_view first = take_digits(one);
             const std::string_view second = take_digits(other);
-            if (const auto longer = first.size() <=> second.size(); longer != 0) return longer;
-            if (const auto larger = first <=> second; larger != 0) return larger;
+            if (first.size() != second.size()) return first.size() < second.size();
+            if (first != second) return first < second;
             continue;
         }
         const int first = std::tolower(static_cast<unsigned char>(one.front()));
         const int second = std::tolower(static_cast<unsigned char>(other.front()));
-        if (first != second) return first <=> second;
+        if (first != second) return first < second;
         one.remove_prefix(1);
         other.remove_prefix(1);
     }
-    return one.size() <=> other.size();
+    return one.size() < other.size();
 }
 
 bool stands_before(const sort_key& one, const sort_key& other, bool descending) {
@@ -80,7 +79,7 @@ bool stands_before(const sort_key& one, const sort_key& other, bool descending) 
     if (first.kind != second.kind) return first.kind < second.kind;
     if (first.kind == cell_kind::number) return first.number < second.number;
     if (first.kind == cell_kind::day) return first.day < second.day;
-    return compare_texts(first.text, second.text) < 0;
+    return text_before(first.text, second.text);
 }
 
 bool is_empty(std::span<const std::string> row) {
