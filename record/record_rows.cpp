@@ -87,7 +87,9 @@ void name_crop(record_row& row, const crop_facts& facts, explanation* why = null
     if (day > facts.lower && day < facts.upper) {
         row.crop = facts.current_crop;
         row.date_planted = facts.sowing_day;
-        tell("Applied between the two, so it went to the crop grown.");
+        tell(
+            "Applied after the end of the crop or season before and before the end of this one: it went to "
+            "the crop grown.");
     } else if (day < facts.lower) {
         row.crop = facts.other_crop;
         tell("Applied before the end of the crop before, so it went to that one.");
@@ -183,7 +185,8 @@ void name_last_years(record_row& row, const last_year_facts& facts, explanation*
     why->input("Crop grown", facts.crop, "", "Crops or grassland module");
     why->input("End of the crop or season before", day_or_none(facts.harvest), "",
                "Crops or grassland module");
-    why->rule("Last year's applications since that day were made for the crop that is grown this year.");
+    why->rule(
+        "Last year's applications since the end of the crop before were made for the crop grown this year.");
 }
 
 // Whether Step 2 still has to settle when the field is closed.

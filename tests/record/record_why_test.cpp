@@ -183,7 +183,8 @@ TEST_F(RecordWhy, RowsTellWhoseCropTheyFedAndWhereTheyWereEntered) {
         told(module.why(module.record(), 0, record_column::crop)),
         (texts{"Crop, West Muir, 11/09/2024", "Crop grown: Calabrese/Broccoli (Crops or grassland module)",
                "End of the crop or season before: 29/08/2024 (Crops or grassland module)",
-               "Last year's applications since that day were made for the crop that is grown this year.",
+               "Last year's applications since the end of the crop before were made for the crop grown this "
+               "year.",
                "Calabrese/Broccoli"}));
     EXPECT_EQ(told(module.why(module.record(), 0, record_column::manure_n)),
               (texts{"Total N applied, West Muir, 11/09/2024",
