@@ -182,7 +182,15 @@ void add_storage(large_farm& farm, std::vector<bench_line>& lines) {
     module.storage_load_stuff();
     module.water().set_cows("100");
     module.water().set_pig_pens("10");
-    if (!module.storage_cont1() || !module.storage_cont2()) throw std::runtime_error("Step 2 stops");
+    const store_form tank{.name = "Tank",
+                          .shape = "Square or rectangular",
+                          .depth = "3",
+                          .length = "60",
+                          .width = "40",
+                          .percent = "20",
+                          .area = "2400"};
+    if (!module.storage_cont1() || !module.stores().add_store(tank) || !module.storage_cont2())
+        throw std::runtime_error("Step 2 stops");
     const plan_page& plan = module.plan();
     double slowest = 0;
     for (const text_grid* table : {&plan.production(), &plan.land(), &plan.spreading()})
