@@ -64,7 +64,13 @@ class land_table {
     }
     double undo_ms() {
         grid_->setFocus();
-        return painted_ms({grid_->viewport()}, [&] { drive::key(grid_, Qt::Key_Z, Qt::ControlModifier); });
+        drive::settle();
+        const auto area = [this] { return grid_->model()->index(rows / 2, grass_column).data(); };
+        const QVariant before = area();
+        const double spent =
+            painted_ms({grid_->viewport()}, [&] { drive::key(grid_, Qt::Key_Z, Qt::ControlModifier); });
+        if (area() == before) throw std::runtime_error("nothing was undone");
+        return spent;
     }
 
   private:
