@@ -149,9 +149,10 @@ frmKEL_front::frmKEL_front(assessments_module& module, farm_files_module& files,
     saved_->setObjectName("lblFront_saved");
     saved_->setTextFormat(Qt::PlainText);
     saved_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // As high without a text: nothing moves when something is first said.
+    saved_->setMinimumHeight(saved_->fontMetrics().height());
     statusBar()->addWidget(saved_, 1);
     setCentralWidget(centre);
-    statusBar();  // from the start: nothing moves when something is first said there
     refresh();
 }
 
