@@ -23,6 +23,7 @@ const QStringList month_labels{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
 constexpr double full_percent = 100;
+constexpr int least_lines = 11;  // of its height
 // A store of a few litres must not send the line into figures that the drawing cannot hold.
 constexpr float highest_drawn = 10000;
 constexpr QSize picture_px{720, 340};
@@ -72,7 +73,7 @@ storage_chart::storage_chart(QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setRenderHint(QPainter::Antialiasing);
     setFrameStyle(QFrame::NoFrame);
-    setMinimumHeight(150);
+    setMinimumHeight(std::max(150, least_lines * fontMetrics().lineSpacing()));
     chart()->legend()->hide();
     chart()->setMargins({4, 4, 12, 4});
     chart()->layout()->setContentsMargins(0, 0, 0, 0);

@@ -1,6 +1,7 @@
 #include "ui/screens/storage_plan_page.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -24,8 +25,9 @@ namespace kel {
 namespace text = storage_messages;
 
 namespace {
+constexpr int least_rows = 4;          // in view, where the page is scrolled
 constexpr int rows_without_field = 2;  // the last ones of the tables of land
-}
+}  // namespace
 
 storage_plan_page::storage_plan_page(frmStorage& screen, const application_state& state, plan_page& page)
     : QWidget(&screen), state_(state), page_(page) {
@@ -79,6 +81,8 @@ QWidget* storage_plan_page::tab(QHBoxLayout* commands, grid_view* grid, QLabel* 
     commands->addStretch();
     layout->addLayout(commands);
     if (told) layout->addWidget(told);
+    grid->setMinimumHeight(grid->horizontalHeader()->height() +
+                           least_rows * grid->verticalHeader()->defaultSectionSize());
     layout->addWidget(grid, 1);
     return page;
 }
