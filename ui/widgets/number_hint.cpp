@@ -29,7 +29,7 @@ number_hint::number_hint(QLineEdit& box) : QLabel(&box), box_(box) {
 void number_hint::follow() {
     const QString text = box_.text();
     if (text.isEmpty() || text.contains('.')) left_out_ = false;
-    if (!box_.hasFocus() || !(left_out_ || text.contains(','))) return hide();
+    if (box_.window()->focusWidget() != &box_ || !(left_out_ || text.contains(','))) return hide();
     tell(tr("Read as %1: use a point for decimals").arg(qt(shortest_text(leading_number(from_qt(text))))));
 }
 

@@ -15,7 +15,7 @@ namespace kel {
 
 namespace {
 
-constexpr int table_rounding_px = 2;
+constexpr int page_margin_px = 16;
 constexpr std::array<int, 11> zoom_percents{60, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 constexpr std::size_t usual_zoom = 3;
 static_assert(zoom_percents[usual_zoom] == 100);
@@ -42,11 +42,12 @@ page_view::page_view(QWidget* parent) : QTextBrowser(parent), zoom_step_(usual_z
     paper.setColor(QPalette::Text, Qt::black);
     paper.setColor(QPalette::Link, QColor(0, 70, 160));
     setPalette(paper);
-    document()->setDocumentMargin(16);
-    // A table of full width may come out wider than the page by what its columns were rounded up.
+    document()->setDocumentMargin(page_margin_px);
+    // A table of full width may come out wider than the page by what its columns were rounded up; that is
+    // less than the margin, in which there is nothing to be seen.
     connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int furthest) {
-        setHorizontalScrollBarPolicy(furthest > table_rounding_px ? Qt::ScrollBarAsNeeded
-                                                                  : Qt::ScrollBarAlwaysOff);
+        setHorizontalScrollBarPolicy(furthest > page_margin_px ? Qt::ScrollBarAsNeeded
+                                                               : Qt::ScrollBarAlwaysOff);
     });
     connect(this, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& link) { follow(source().resolved(link)); });
