@@ -185,6 +185,7 @@ TEST_F(Comfort, EveryWindowFitsASmallScreen) {
 TEST_F(Comfort, ADecimalCommaIsHintedAndChangesNothing) {
     begin();
     grid_view* table = fields();
+    focus();  // the window is in front
     drive::type(screen("profile"), "Text2", "3,5");
     EXPECT_EQ(hint("profile"), "Read as 3: use a point for decimals");
     EXPECT_EQ(drive::control<QLineEdit>(screen("profile"), "Text2")->text(), "3,5");
