@@ -91,13 +91,17 @@ installation locate_installation(const std::string& executable, const std::strin
     return places;
 }
 
-void prepare_written_folder(const installation& places) {
+void prepare_written_folder(installation& places) {
     if (places.written_folder == places.program_folder) return;
     std::error_code trouble;
     const bool first_time =
         !fs::exists(places.user_files(), trouble) && !fs::exists(places.old_user_files(), trouble);
     fs::create_directories(places.written_folder, trouble);
     if (!trouble) fs::create_directories(places.user_files(), trouble);
+    if (trouble && !places.farm_folder.empty()) {
+        places.farm_folder.clear();  // documents that nobody may write to: the farms lie beside the settings
+        fs::create_directories(places.user_files(), trouble);
+    }
     if (trouble) throw file_error(places.user_files(), trouble.message());
     copy_if_missing(join_path(places.program_folder, logo_file), places.report(logo_file));
     if (!first_time) return;

@@ -46,6 +46,6 @@ installation locate_installation(const std::string& executable, const std::strin
 
 /// Makes the written folder ready: the reports' logo and, in a new user's folder, the sample farms. Throws
 /// file_error.
-void prepare_written_folder(const installation& places);
+void prepare_written_folder(installation& places);
 
 }  // namespace kel

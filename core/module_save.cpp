@@ -1,6 +1,7 @@
 #include "core/module_save.h"
 
 #include "core/file_choice.h"
+#include "core/held_still.h"
 
 namespace kel {
 
@@ -23,6 +24,7 @@ module_save::module_save(application_state& state, prompts& person, loaded_rows&
     if (target.made_from.empty()) {
         begin(target.path);
     } else {
+        const held_still still(target.made_from);
         fresh_.emplace(target.made_from, target.path);
         transaction_.emplace(db_.emplace(fresh_->open()));
     }

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <fstream>
 
+#include "core/file_choice.h"
 #include "core/installation.h"
 
 namespace kel {
@@ -70,7 +71,7 @@ std::optional<std::string> open_mark::move_to(const std::string& path) {
 }
 
 std::optional<std::string> open_mark::held_elsewhere(const std::string& path) const {
-    if (path == path_ && file_ >= 0) return std::nullopt;
+    if (file_ >= 0 && same_file(path, path_)) return std::nullopt;
     const int file = open(mark_beside(path).c_str(), O_RDONLY | O_CLOEXEC);
     if (file < 0) return std::nullopt;
     const bool held = flock(file, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;

@@ -2,12 +2,11 @@
 
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <system_error>
 
-#include "core/assessment_store.h"
 #include "core/file_error.h"
 #include "core/fresh_file.h"
+#include "core/held_still.h"
 
 namespace kel {
 
@@ -32,16 +31,7 @@ void copy_whole_file(const std::string& from, const std::string& to) {
 }
 
 void copy_assessment(const std::string& from, const std::string& to) {
-    std::optional<database> db;
-    std::optional<save_transaction> nobody_saves;
-    try {
-        db.emplace(from);
-        nobody_saves.emplace(*db);
-    } catch (const file_error& failure) {
-        if (failure.in_use()) throw;
-        // Read-only, or none: the copy tells.
-    }
-    copy_whole_file(from, to);
+    fresh_assessment(from, to).put_in_place();
 }
 
 void copy_between(const std::string& from_folder, const std::string& to_folder, const std::string& path) {

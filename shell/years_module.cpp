@@ -4,7 +4,7 @@
 
 #include "core/assessment_files.h"
 #include "core/file_choice.h"
-#include "core/fresh_file.h"
+#include "core/held_still.h"
 #include "core/settings_store.h"
 #include "core/whole_file.h"
 #include "shell/assessments_messages.h"
@@ -68,9 +68,9 @@ void years_module::go_on_with(const application_state& chosen) {
 }
 
 void years_module::content_changed() {
+    ++state_.assessment;  // also where the store cannot be written: the rows are others already
     const application_state chosen = state_;
     go_on_with(chosen);
-    ++state_.assessment;
 }
 
 void years_module::browse_current() {
@@ -246,7 +246,7 @@ void years_module::make_new_year(bool overwrite) {
         state_.copies->keep(new_path_);
         write_new_year(database(new_path_));
     } else {
-        fresh_file fresh(state_.slot_current, new_path_);
+        fresh_file fresh = fresh_assessment(state_.slot_current, new_path_);
         write_new_year(fresh.open());
         fresh.put_in_place(*state_.copies);
     }

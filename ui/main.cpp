@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     kel::qt_prompts prompts;
     application.set_prompts(&prompts);
     try {
-        const auto places = kel::locate_installation(
+        auto places = kel::locate_installation(
             kel::from_qt(QCoreApplication::applicationFilePath()),
             kel::from_qt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                          "/kel-calculator"),

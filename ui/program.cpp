@@ -271,10 +271,19 @@ QWidget* program::make_farms(screen_id /*id*/) {
         farms, &frmFarms::closed, this, [this] { leave(screen_id::farms, std::nullopt); },
         Qt::QueuedConnection);
     connect(farms, &frmFarms::farm_wanted, this, [this](const std::string& path) {
-        const bool linked = files_.open_recent(path);
-        show_screen(screen_id::front);
-        follow_assessment();
-        refresh_front();
+        const auto follow = [this] {
+            show_screen(screen_id::front);
+            follow_assessment();
+            refresh_front();
+        };
+        bool linked = true;
+        try {
+            linked = files_.open_recent(path);
+        } catch (...) {
+            follow();
+            throw;
+        }
+        follow();
         if (!linked) open(screen_id::years);
     });
     return farms;

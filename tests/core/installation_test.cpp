@@ -25,7 +25,7 @@ TEST_F(Installation, APortableTreeHoldsAllBesideTheProgram) {
 
 TEST_F(Installation, AnInstalledTreeIsReadAndTheUsersFolderWritten) {
     fs::create_directories(path("usr/bin"));
-    const installation places = locate_installation(path("usr/bin/kel-calculator"), path("user"));
+    installation places = locate_installation(path("usr/bin/kel-calculator"), path("user"));
     const std::string shared = path("usr/share/kel-calculator");
     EXPECT_EQ(places.grass_tables(), shared + "/kel_calc/dbases/wren_grass.mdb");
     EXPECT_EQ(places.graphics(), shared + "/kel_calc/graphics");
@@ -47,8 +47,7 @@ TEST_F(Installation, AnInstalledTreeIsReadAndTheUsersFolderWritten) {
 TEST_F(Installation, NewFarmsOfAnInstalledTreeLieUnderDocumentsAndOldOnesWhereTheyWere) {
     fs::create_directories(path("usr/share/kel-calculator/kel_calc/User_files"));
     write_file(path("usr/share/kel-calculator/kel_calc/User_files/Sample.kel"), "sample");
-    const installation places =
-        locate_installation(path("usr/bin/kel-calculator"), path("user"), path("docs"));
+    installation places = locate_installation(path("usr/bin/kel-calculator"), path("user"), path("docs"));
     EXPECT_EQ(places.user_files(), path("docs/KEL Calculator"));
     prepare_written_folder(places);
     EXPECT_EQ(file_text(path("docs/KEL Calculator/Sample.kel")), "sample");
@@ -77,6 +76,15 @@ TEST_F(Installation, NewFarmsOfAnInstalledTreeLieUnderDocumentsAndOldOnesWhereTh
     EXPECT_EQ(
         locate_installation(path("tree/kel_calc/kel-calculator"), path("user"), path("docs")).user_files(),
         path("tree/kel_calc/User_files"));
+}
+
+TEST_F(Installation, FarmsLieBesideTheSettingsWhereThereCanBeNoDocuments) {
+    fs::create_directories(path("usr/share/kel-calculator/kel_calc/User_files"));
+    write_file(path("docs"), "a file where the folder should be");
+    installation places = locate_installation(path("usr/bin/kel-calculator"), path("user"), path("docs"));
+    prepare_written_folder(places);
+    EXPECT_EQ(places.user_files(), path("user/User_files"));
+    EXPECT_TRUE(fs::is_directory(places.user_files()));
 }
 
 }  // namespace

@@ -258,10 +258,8 @@ void frmKEL_front::add_farm_files(QMenu& menu) {
     recent_->setObjectName("mnuFront_recent");
     connect(&menu, &QMenu::aboutToShow, this, &frmKEL_front::list_recent);
     const auto add = [&](const QString& entry, const char* name, void (farm_files_module::*act)()) {
-        QAction* action = menu.addAction(entry, this, [this, act] {
-            std::invoke(act, files_);
-            emit files_changed();
-        });
+        QAction* action =
+            menu.addAction(entry, this, [this, act] { go_elsewhere([&] { std::invoke(act, files_); }); });
         action->setObjectName(name);
     };
     add(tr("Open the &folder"), "mnuFront_folder", &farm_files_module::open_folder);
@@ -269,6 +267,17 @@ void frmKEL_front::add_farm_files(QMenu& menu) {
     add(tr("Res&tore an earlier copy..."), "mnuFront_restore", &farm_files_module::restore);
     add(tr("Open the folder of ear&lier copies"), "mnuFront_copies", &farm_files_module::open_copies_folder);
     menu.addSeparator();
+}
+
+// A failure, too, may come when other rows already stand behind the screens.
+void frmKEL_front::go_elsewhere(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (...) {
+        emit files_changed();
+        throw;
+    }
+    emit files_changed();
 }
 
 void frmKEL_front::list_recent() {
@@ -280,8 +289,8 @@ void frmKEL_front::list_recent() {
         const int longest = recent_->fontMetrics().averageCharWidth() * 110;
         entry = recent_->fontMetrics().elidedText(entry, Qt::ElideMiddle, longest);
         recent_->addAction(entry.replace('&', "&&"), this, [this, path = one.path] {
-            const bool linked = files_.open_recent(path);
-            emit files_changed();
+            bool linked = true;
+            go_elsewhere([&] { linked = files_.open_recent(path); });
             if (!linked) emit years_wanted();
         });
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <map>
 
 #include "core/application_state.h"
@@ -54,6 +55,7 @@ class frmKEL_front : public QMainWindow {
     void add_menus();
     void add_farm_files(QMenu& menu);
     void list_recent();
+    void go_elsewhere(const std::function<void()>& action);
     void bring_verdicts_up_to_date();
     void show_verdicts();
 

@@ -72,9 +72,10 @@ void frmStorage::and_refresh(const std::function<void()>& work) {
         show_page();
 }
 
-// The stores are written as they are entered, but for imported ones.
+// The stores are written as they are entered, but for imported ones; one that is being edited stands in the
+// boxes alone.
 bool frmStorage::unsaved() const {
-    return module_.plan().unsaved() || module_.stores().imported();
+    return module_.plan().unsaved() || module_.stores().imported() || stores_->in_the_boxes();
 }
 
 void frmStorage::refresh() {

@@ -26,6 +26,8 @@ class storage_stores_page : public QWidget {
     void take_focus();
     /// Empties the boxes, as for another assessment.
     void clear() { show_store({}); }
+    /// Whether a store stands in the boxes that is not in the list.
+    bool in_the_boxes() const { return entered() != store_form{}; }
 
   private:
     struct store_box {
