@@ -63,8 +63,8 @@ bool farm_files_module::works_on(const std::string& path) const {
 
 std::vector<earlier_copy> farm_files_module::offered_copies() const {
     std::vector<earlier_copy> copies = state_.copies->list();
-    std::ranges::stable_partition(copies,
-                                  [this](const earlier_copy& copy) { return copy.farm == state_.farm_name; });
+    std::stable_partition(copies.begin(), copies.end(),
+                          [this](const earlier_copy& copy) { return copy.farm == state_.farm_name; });
     return copies;
 }
 
