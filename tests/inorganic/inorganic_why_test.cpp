@@ -1,5 +1,6 @@
 // Why the cells of Step 4 are what they are, and which of its days are closed.
 #include "tests/inorganic/inorganic_fixture.h"
+#include "tests/support/compared_cells.h"
 #include "tests/support/dice.h"
 #include "tests/support/sample_chain.h"
 
@@ -15,13 +16,6 @@ int compare(const inorganic_module& module) {
         EXPECT_EQ(why.value().result(), table.cell(row, inorganic_column::total_n)) << why->subject();
     }
     return table.data_row_count();
-}
-
-std::string written(const explanation& why) {
-    std::string text = why.subject() + '\n';
-    for (const explanation_line& line : why.lines())
-        text += line.text + '\n';
-    return text + why.last_line();
 }
 
 }  // namespace

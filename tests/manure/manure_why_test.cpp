@@ -1,40 +1,10 @@
 // Why the cells of Step 3 are what they are: each account ends in what its cell shows.
 #include "tests/manure/manure_fixture.h"
+#include "tests/support/compared_cells.h"
 #include "tests/support/dice.h"
 #include "tests/support/sample_chain.h"
 
 namespace kel::test {
-
-namespace {
-
-// Every calculated cell, against what its account ends in; how many there were.
-int compare(const manure_module& module, const text_grid& table, int rows) {
-    int cells = 0;
-    for (int row = 0; row < rows; ++row)
-        for (int column = 0; column < table.column_count(); ++column) {
-            if (table.columns()[static_cast<std::size_t>(column)].kind != column_kind::calculated) continue;
-            const auto why =
-                module.why(table, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
-            if (!why) {
-                ADD_FAILURE() << "no account at " << row << ", " << column;
-                continue;
-            }
-            EXPECT_EQ(why->result(), table.cell(row, column))
-                << row << ", " << column << ": " << why->subject();
-            EXPECT_LE(why->lines().size(), 16U) << why->subject();
-            ++cells;
-        }
-    return cells;
-}
-
-std::string written(const explanation& why) {
-    std::string text = why.subject() + '\n';
-    for (const explanation_line& line : why.lines())
-        text += line.text + '\n';
-    return text + why.last_line();
-}
-
-}  // namespace
 
 class ManureWhySample : public sample_chain_test {
   protected:
@@ -48,9 +18,10 @@ TEST_F(ManureWhySample, EndsInEveryCalculatedCellOfTheChain) {
     for (std::size_t year = 0; year < files.size(); ++year) {
         open_year(year);
         module.manure_load_stuff();
-        applications += compare(module, module.applications(), module.applications().data_row_count());
+        applications +=
+            compared_cells(module, module.applications(), 0, module.applications().data_row_count());
         ASSERT_TRUE(module.calculate());
-        results += compare(module, module.results(), module.results().row_count());
+        results += compared_cells(module, module.results(), 0, module.results().row_count());
     }
     // 69 applications with six calculated cells each; 12 fields in three years with four each.
     EXPECT_EQ(applications, 6 * 69);
@@ -237,9 +208,9 @@ TEST_F(ManureWhyRandom, EndsInEveryCalculatedCell) {
         module.manure_load_stuff();
         for (int row = 0; row < rows; ++row)
             enter_row(random, row, fields);
-        EXPECT_EQ(compare(module, module.applications(), rows), 6 * rows);
+        EXPECT_EQ(compared_cells(module, module.applications(), 0, rows), 6 * rows);
         ASSERT_TRUE(module.calculate());
-        EXPECT_EQ(compare(module, module.results(), static_cast<int>(fields.size())),
+        EXPECT_EQ(compared_cells(module, module.results(), 0, static_cast<int>(fields.size())),
                   4 * static_cast<int>(fields.size()));
         for (int row = 0; row < module.results().row_count(); ++row)
             marked += module.results().cell(row, manure_result_column::warnings) == "Yes";

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "core/explanation.h"
 #include "core/text_grid.h"
@@ -23,7 +25,7 @@ int compared_cells(const Module& module, const text_grid& grid, int first, int e
             EXPECT_TRUE(why) << row << ", " << column;
             if (!why) continue;
             EXPECT_EQ(why->result(), grid.cell(row, column)) << why->subject() << " in row " << row;
-            EXPECT_LE(why->lines().size(), 15U) << why->subject();
+            EXPECT_LE(why->lines().size(), 16U) << why->subject();
             ++compared;
         }
     return compared;
@@ -37,6 +39,14 @@ inline std::vector<std::string> told(const std::optional<explanation>& why) {
         lines.push_back(line.text);
     lines.push_back(why->last_line());
     return lines;
+}
+
+/// The same as one text.
+inline std::string written(const explanation& why) {
+    std::string text;
+    for (const std::string& line : told(why))
+        text += (text.empty() ? "" : "\n") + line;
+    return text;
 }
 
 }  // namespace kel::test
