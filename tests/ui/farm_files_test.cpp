@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "shell/assessments_messages.h"
 #include "shell/farm_files_messages.h"
 #include "tests/ui/screen_fixture.h"
 #include "ui/widgets/module_screen.h"
@@ -104,6 +105,16 @@ TEST_F(FileMenu, ASaveWithoutACopyIsSavedAndSaysSo) {
     press("land", "cmdLand_save");
     EXPECT_FALSE(static_cast<module_screen*>(screen("land"))->save_status().contains("copy"));
     EXPECT_EQ(run->state().copies->list().size(), 1U);
+}
+
+TEST_F(FileMenu, SaveAsOverAFileWithoutACopyOfItSaysSo) {
+    start_with({{"Long Rig", "15"}});
+    write_file(state.places.earlier_copies(), "a file where the folder should be");
+    const std::string other = make_farm("other.kel", {});
+    person.expect_file(std::string(assessments_messages::save_as_title), other);
+    entry("mnuFront_save_as")->trigger();
+    EXPECT_EQ(run->state().assess_file, other);
+    EXPECT_NE(shown_text("front", "lblFront_saved").find("No copy of the file"), std::string::npos);
 }
 
 TEST_F(FileMenu, RecentAssessmentsAreListedAndOpenTheirFarm) {

@@ -314,6 +314,8 @@ void frmKEL_front::refresh() {
         told += qt(state_.assess_file);
     }
     file_->setText(told);
+    // Of what was saved without a screen that has a foot of its own: Save As, a new year, a store.
+    if (const std::string trouble = state_.copies->take_trouble(); !trouble.empty()) say(qt(trouble));
     verdicts_due_ = true;
     show_verdicts();
     update();
