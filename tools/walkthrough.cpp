@@ -461,7 +461,7 @@ int main(int argc, char** argv) {
         const std::string folder = fs::absolute(argv[1]).string();
         fs::create_directories(folder);
         const std::string stage = KEL_STAGE_DIR;
-        const installation places{stage + "/kel_calc", stage, folder};
+        installation places{stage + "/kel_calc", stage, folder};
         prepare_written_folder(places);
         walking_person person(folder + "/messages.txt");
         application.set_prompts(&person);
