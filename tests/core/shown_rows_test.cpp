@@ -19,6 +19,7 @@ text_grid table_of(const std::vector<std::string>& names) {
 }
 std::vector<std::string> shown_names(const text_grid& table, const shown_rows& order) {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(table.row_count()));
     for (int row = 0; row < table.row_count(); ++row)
         names.push_back(table.cell(order.stored(row), 0));
     return names;
